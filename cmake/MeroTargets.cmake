@@ -1,0 +1,42 @@
+# What every target of the project shares: the language, the warnings, the layer rule.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_LINK_DEPENDS_NO_SHARED ON)
+
+add_library(mero_options INTERFACE)
+target_include_directories(mero_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(mero_options INTERFACE
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+  -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wnull-dereference -Werror>)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # gcc 12 warns of null dereferences inside its own library under optimisation and sanitizers.
+  target_compile_options(mero_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-null-dereference>)
+endif()
+# Results must not depend on the optimiser's taste: no fused or reordered floating point.
+target_compile_options(mero_options INTERFACE -ffp-contract=off)
+if(MERO_SANITIZE)
+  target_compile_options(mero_options INTERFACE -fsanitize=${MERO_SANITIZE} -fno-omit-frame-pointer
+    -fno-sanitize-recover=all)
+  target_link_options(mero_options INTERFACE -fsanitize=${MERO_SANITIZE})
+endif()
+
+# mero_library(NAME SOURCES ... LINKS ...): one room. It links only what lies below it.
+function(mero_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC mero_options ${arg_LINKS})
+endfunction()
+
+# mero_test(NAME SOURCES ... LINKS ...): one GoogleTest program; its cases run shuffled.
+function(mero_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE mero_options ${arg_LINKS} GTest::gmock GTest::gtest_main)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  add_test(NAME ${name} COMMAND ${name} --gtest_shuffle --gtest_brief=1)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()

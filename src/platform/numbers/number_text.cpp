@@ -1,0 +1,342 @@
+/// Texts of numbers over std::from_chars and std::to_chars, which no locale touches.
+/// One scanner knows what a number looks like; one digit string is rounded as on paper.
+#include "platform/numbers/number_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdlib>
+#include <iterator>
+#include <system_error>
+
+#include "platform/numbers/checked.h"
+#include "platform/numbers/runtime_error.h"
+
+namespace mero::numbers {
+namespace {
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+enum class Grouping { None, SingleBlanks };
+
+/// The leading part of a text that is a number, without sign and grouping, ready for std::from_chars.
+struct ScannedNumber {
+    bool found = false;
+    bool negative = false;
+    std::string digits;      ///< "12.5e-3"
+    std::size_t length = 0;  ///< characters of the text that it takes, leading blanks included
+};
+
+std::size_t scanIntegerPart(std::string_view text, std::size_t at, Grouping grouping, std::string& digits) {
+    while (at < text.size()) {
+        if (isDigit(text[at])) {
+            digits += text[at++];
+            continue;
+        }
+        const bool groups = grouping == Grouping::SingleBlanks && text[at] == ' ' && !digits.empty() &&
+                            at + 1 < text.size() && isDigit(text[at + 1]);
+        if (!groups) {
+            break;
+        }
+        ++at;
+    }
+    return at;
+}
+
+/// Takes an exponent only when it is complete, so that "2e-" leaves the number 2.
+std::size_t scanExponent(std::string_view text, std::size_t at, std::string& digits) {
+    std::size_t end = at;
+    if (end >= text.size() || (text[end] != 'e' && text[end] != 'E')) {
+        return at;
+    }
+    std::string exponent = "e";
+    ++end;
+    if (end < text.size() && (text[end] == '+' || text[end] == '-')) {
+        if (text[end] == '-') {
+            exponent += '-';
+        }
+        ++end;
+    }
+    const std::size_t first_digit = end;
+    while (end < text.size() && isDigit(text[end])) {
+        exponent += text[end++];
+    }
+    if (end == first_digit) {
+        return at;
+    }
+    digits += exponent;
+    return end;
+}
+
+ScannedNumber scan(std::string_view text, Grouping grouping) {
+    ScannedNumber number;
+    std::size_t at = 0;
+    while (at < text.size() && text[at] == ' ') {
+        ++at;
+    }
+    if (at < text.size() && (text[at] == '+' || text[at] == '-')) {
+        number.negative = text[at] == '-';
+        ++at;
+    }
+    at = scanIntegerPart(text, at, grouping, number.digits);
+    bool any_digit = !number.digits.empty();
+    if (at < text.size() && text[at] == '.') {
+        std::string fraction;
+        const std::size_t end = scanIntegerPart(text, at + 1, Grouping::None, fraction);
+        any_digit = any_digit || !fraction.empty();
+        if (any_digit) {
+            if (number.digits.empty()) {
+                number.digits = "0";
+            }
+            if (!fraction.empty()) {
+                number.digits += '.' + fraction;
+            }
+            at = end;
+        }
+    }
+    if (!any_digit) {
+        return number;
+    }
+    number.found = true;
+    number.length = scanExponent(text, at, number.digits);
+    return number;
+}
+
+/// std::from_chars reports a value too small for the type as it reports one too large; only the latter is
+/// an overflow here. The power of ten of the first significant digit tells them apart.
+bool isBelowOne(std::string_view digits) {
+    const std::size_t exponent_at = std::min(digits.find('e'), digits.size());
+    const std::string_view mantissa = digits.substr(0, exponent_at);
+    const std::size_t first = mantissa.find_first_of("123456789");
+    if (first == std::string_view::npos) {
+        return true;
+    }
+    // An exponent of more than 9 digits decides alone.
+    const std::string_view exponent_text =
+        exponent_at < digits.size() ? digits.substr(exponent_at + 1) : std::string_view("0");
+    const bool negative_exponent = exponent_text.starts_with('-');
+    long exponent = 0;
+    const auto result =
+        std::from_chars(exponent_text.data(), exponent_text.data() + exponent_text.size(), exponent);
+    if (result.ec == std::errc::result_out_of_range) {
+        return negative_exponent;
+    }
+    const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
+    const long power = first < static_cast<std::size_t>(point) ? point - static_cast<long>(first) - 1
+                                                               : point - static_cast<long>(first);
+    return power + exponent < 0;
+}
+
+template <typename Real>
+Real convert(const ScannedNumber& number) {
+    Real value = 0;
+    const char* begin = number.digits.data();
+    const auto result = std::from_chars(begin, begin + number.digits.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        if (!isBelowOne(number.digits)) {
+            throw RuntimeError(ErrorNumber::Overflow);
+        }
+        value = 0;
+    }
+    return number.negative && value != 0 ? -value : value;
+}
+
+template <typename Real>
+Real strict(std::string_view text) {
+    const ScannedNumber number = scan(text, Grouping::SingleBlanks);
+    if (!number.found || text.find_first_not_of(' ', number.length) != std::string_view::npos) {
+        throw RuntimeError(ErrorNumber::TypeMismatch);
+    }
+    return convert<Real>(number);
+}
+
+/// The shortest decimal digits of a value: d.ddd times ten to the power of `exponent`.
+struct Decimal {
+    bool negative = false;
+    std::string digits = "0";
+    int exponent = 0;
+
+    [[nodiscard]] bool isZero() const { return digits.find_first_not_of('0') == std::string::npos; }
+
+    /// Keeps `count` digits (0 or less keeps none), rounding half away from zero.
+    void roundToDigits(int count) {
+        if (count >= static_cast<int>(digits.size())) {
+            return;
+        }
+        if (count < 0) {
+            *this = Decimal{};
+            return;
+        }
+        const bool up = digits[static_cast<std::size_t>(count)] >= '5';
+        digits.resize(static_cast<std::size_t>(count));
+        if (up) {
+            increment();
+        }
+        if (digits.empty()) {
+            *this = Decimal{};
+        }
+    }
+
+  private:
+    void increment() {
+        for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
+            if (*digit != '9') {
+                ++*digit;
+                return;
+            }
+            *digit = '0';
+        }
+        digits.insert(digits.begin(), '1');
+        ++exponent;
+    }
+};
+
+template <typename Real>
+Decimal shortestDecimal(Real value) {
+    std::array<char, 40> buffer{};
+    const auto result =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific);
+    std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
+    Decimal decimal;
+    if (text.starts_with('-')) {
+        decimal.negative = true;
+        text.remove_prefix(1);
+    }
+    const std::size_t exponent_at = text.find('e');
+    decimal.digits.clear();
+    std::copy_if(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(exponent_at),
+                 std::back_inserter(decimal.digits), isDigit);
+    std::string_view exponent_text = text.substr(exponent_at + 1);
+    if (exponent_text.starts_with('+')) {
+        exponent_text.remove_prefix(1);
+    }
+    std::from_chars(exponent_text.data(), exponent_text.data() + exponent_text.size(), decimal.exponent);
+    return decimal;
+}
+
+std::string exponentText(int exponent) {
+    const std::string digits = general(std::abs(exponent));
+    return std::string(exponent < 0 ? "E-" : "E+") + (digits.size() < 2 ? "0" : "") + digits;
+}
+
+/// Integer digits and fraction digits of a decimal, zeros filled in on both sides of the point.
+struct PlainDigits {
+    std::string integer;
+    std::string fraction;
+};
+
+PlainDigits plainDigits(const Decimal& decimal) {
+    if (decimal.exponent < 0) {
+        return {"0", std::string(static_cast<std::size_t>(-decimal.exponent - 1), '0') + decimal.digits};
+    }
+    const auto integer_count = static_cast<std::size_t>(decimal.exponent) + 1;
+    std::string integer = decimal.digits.substr(0, integer_count);
+    integer.resize(integer_count, '0');
+    return {integer,
+            decimal.digits.size() > integer_count ? decimal.digits.substr(integer_count) : std::string()};
+}
+
+std::string grouped(const std::string& integer) {
+    std::string text;
+    for (std::size_t i = 0; i < integer.size(); ++i) {
+        if (i > 0 && (integer.size() - i) % 3 == 0) {
+            text += ' ';
+        }
+        text += integer[i];
+    }
+    return text;
+}
+
+std::string fixedText(Decimal decimal, int decimals) {
+    decimal.roundToDigits(decimal.exponent + 1 + decimals);
+    const bool negative = decimal.negative && !decimal.isZero();
+    PlainDigits plain = plainDigits(decimal);
+    plain.fraction.resize(static_cast<std::size_t>(decimals), '0');
+    std::string text = negative ? "-" : "";
+    text += grouped(plain.integer);
+    if (decimals > 0) {
+        text += '.' + plain.fraction;
+    }
+    return text;
+}
+
+std::string scientificText(Decimal decimal, int decimals) {
+    decimal.roundToDigits(decimals + 1);
+    std::string mantissa = decimal.digits;
+    mantissa.resize(static_cast<std::size_t>(decimals) + 1, '0');
+    if (decimals > 0) {
+        mantissa.insert(1, ".");
+    }
+    const bool negative = decimal.negative && !decimal.isZero();
+    return (negative ? "-" : "") + mantissa + exponentText(decimal.isZero() ? 0 : decimal.exponent);
+}
+
+std::string generalText(const Decimal& decimal) {
+    if (decimal.isZero()) {
+        return "0";
+    }
+    constexpr int kSmallestPlainExponent = -5;
+    constexpr int kLargestPlainExponent = 7;
+    std::string text = decimal.negative ? "-" : "";
+    const bool plain = decimal.exponent >= kSmallestPlainExponent &&
+                       (decimal.exponent < kLargestPlainExponent ||
+                        (decimal.exponent == kLargestPlainExponent && decimal.digits == "1"));
+    if (plain) {
+        const PlainDigits digits = plainDigits(decimal);
+        return text + digits.integer + (digits.fraction.empty() ? "" : "." + digits.fraction);
+    }
+    text += decimal.digits[0];
+    if (decimal.digits.size() > 1) {
+        text += '.' + decimal.digits.substr(1);
+    }
+    return text + exponentText(decimal.exponent);
+}
+
+}  // namespace
+
+float strictSingle(std::string_view text) {
+    return strict<float>(text);
+}
+
+std::int16_t strictInteger(std::string_view text) {
+    return toInteger(strict<double>(text));
+}
+
+double leadingNumber(std::string_view text) {
+    const ScannedNumber number = scan(text, Grouping::None);
+    return number.found ? convert<double>(number) : 0.0;
+}
+
+std::string fixed(float value, int decimals) {
+    return fixedText(shortestDecimal(value), decimals);
+}
+
+std::string fixed(double value, int decimals) {
+    return fixedText(shortestDecimal(value), decimals);
+}
+
+std::string scientific(float value, int decimals) {
+    return scientificText(shortestDecimal(value), decimals);
+}
+
+std::string scientific(double value, int decimals) {
+    return scientificText(shortestDecimal(value), decimals);
+}
+
+std::string general(float value) {
+    return generalText(shortestDecimal(value));
+}
+
+std::string general(double value) {
+    return generalText(shortestDecimal(value));
+}
+
+std::string general(int value) {
+    std::array<char, 16> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    return {buffer.data(), result.ptr};
+}
+
+}  // namespace mero::numbers

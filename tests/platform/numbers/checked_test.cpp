@@ -1,0 +1,57 @@
+/// Tests of the checked arithmetic and of the run-time errors that it raises.
+#include "platform/numbers/checked.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "support/errors.h"
+
+namespace mero::numbers {
+namespace {
+
+using test::errorNumberOf;
+
+TEST(ToSingle, RoundsToTheNearestSingle) {
+    EXPECT_EQ(toSingle(0.1), 0.1F);
+    EXPECT_EQ(toSingle(16777217.0), 16777216.0F);
+}
+
+TEST(ToSingle, OverflowsInsteadOfInfinity) {
+    EXPECT_EQ(errorNumberOf([] { return toSingle(1e39); }), 6);
+    EXPECT_EQ(errorNumberOf([] { return toSingle(-1e39); }), 6);
+    EXPECT_EQ(errorNumberOf([] { return toSingle(std::numeric_limits<double>::infinity()); }), 6);
+    EXPECT_EQ(errorNumberOf([] { return toSingle(std::numeric_limits<double>::quiet_NaN()); }), 6);
+}
+
+TEST(Divide, RefusesAZeroDivisor) {
+    EXPECT_EQ(divide(1.0, 4.0), 0.25);
+    EXPECT_EQ(errorNumberOf([] { return divide(1.0, 0.0); }), 11);
+    EXPECT_EQ(errorNumberOf([] { return divide(0.0, -0.0); }), 11);
+    EXPECT_EQ(errorNumberOf([] { return divide(1e300, 1e-300); }), 6);
+}
+
+TEST(SquareRoot, RefusesNegativeValues) {
+    EXPECT_EQ(squareRoot(6.25), 2.5);
+    EXPECT_EQ(squareRoot(0.0), 0.0);
+    EXPECT_EQ(errorNumberOf([] { return squareRoot(-1e-9); }), 5);
+    EXPECT_EQ(errorNumberOf([] { return squareRoot(std::numeric_limits<double>::quiet_NaN()); }), 5);
+}
+
+TEST(ToInteger, RoundsHalvesToEvenWithinSixteenBits) {
+    EXPECT_EQ(toInteger(0.4), 0);
+    EXPECT_EQ(toInteger(2.5), 2);
+    EXPECT_EQ(toInteger(3.5), 4);
+    EXPECT_EQ(errorNumberOf([] { return toInteger(32768.0); }), 6);
+    EXPECT_EQ(errorNumberOf([] { return toInteger(std::numeric_limits<double>::quiet_NaN()); }), 6);
+}
+
+TEST(RuntimeErrors, CarryNumberAndDescription) {
+    const RuntimeError error(ErrorNumber::DivisionByZero);
+    EXPECT_EQ(error.number(), 11);
+    EXPECT_EQ(error.description(), "Dělení nulou");
+    EXPECT_FALSE(error.endsProgram());
+}
+
+}  // namespace
+}  // namespace mero::numbers
