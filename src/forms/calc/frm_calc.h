@@ -1,0 +1,127 @@
+/// frmCalc, the main window: inputs and their field rules, the choice of the type, calculation, report.
+/// Handlers run at once and nest; the results come out right only in this order.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "data/mod_public_variables.h"
+#include "data/rain_database.h"
+#include "forms/calc/frm_calc_controls.h"
+#include "forms/dialogs/frm_coef_dialog.h"
+#include "forms/dialogs/frm_dialog.h"
+#include "forms/dialogs/frm_int_dialog.h"
+#include "platform/clock.h"
+#include "platform/desk.h"
+#include "platform/mod_reg_settings.h"
+
+namespace mero::forms {
+
+/// What the program stands in: all of it is injected.
+struct Surroundings {
+    platform::Desk& desk;
+    platform::Clock& clock;
+    platform::LocaleSettings& locale;
+    data::RainDatabase& rain_database;
+    std::string folder;  ///< the program's folder: rain database, description pages, report file
+};
+
+class frmCalc : public frmCalcControls {
+  public:
+    frmCalc(data::modPublicVariables& values, const Surroundings& surroundings);
+
+    frmIntDialog intDialog;
+    frmDialog areaDialog;
+    frmCoefDialog coefDialog;
+
+    /// Form-level state that the calculation reads.
+    int TypeGroup = 0;      ///< 0 decentralised, 1 centralised
+    int SelectedType = 0;   ///< 0 none, 1 to 6
+    int SoilVariant = 0;    ///< member chosen last in the soil or shaft variant options
+    int ShaftShape = 0;     ///< 0 round, 1 rectangular
+
+    // Start and end.
+    void Form_Load();
+    void Form_QueryUnload();
+    void Timer1_Timer();
+
+    // Field rules.
+    void txtOdvodNepPlocha_Change();
+    void txtSelIntDeste_Change();
+    void txtSelDTrvDeste_Change();
+    void txtSoucFiltrace_Change();
+    void txtSoucFiltrace_LostFocus();
+    void txtSoucFiltrPruleh_Change(int Index);
+    void txtSoucFiltrPruleh_LostFocus(int Index);
+    void txtSoucBezp_Change(int Index);
+    void txtSachtyCount_Change();
+    void txtPocetPotrubi_Change(int Index);
+    void txtPotrHloubkaZahl_Change();
+    void updSacht_Change(platform::UpDown::Direction direction);
+    void cmdEdit_Click(int Index);
+    void lblOdkaz_Click(int Index);
+
+    // Choice of the type.
+    void optSelType_Click(int Index);
+    void cboSelType_Click();
+    void cboSelType_GotFocus();
+    void optSelTypPudy2_Click(int Index);
+    void optSelTypPudy3_Click(int Index);
+    void optSelTypPudy5_Click(int Index);
+    void optSelTypSachty_Click();
+    void chkSelPretok_Click(int Index);
+
+    // Shaft geometry.
+    void cboTypSachty_Click();
+    void txtPrumerSachtyVnit_Change();
+    void txtPrumerSachtyVnej_Change();
+    void txtTloustkaSteny_Change();
+
+    // Calculation.
+    void RebuildCalc();
+    void ClearTypeResults();
+    void CalcInfiltArea();
+    void CalcDesign();
+    void cmdCalcul_Click(int Index);
+    void cmdOK_Click(int Index);
+
+    // Tabs and report.
+    void SSTab1_Click(int PreviousTab);
+    void BuildResultsHtml();
+    void cmdSaveResults_Click();
+    void cmdPrint_Click();
+
+    [[nodiscard]] const data::modPublicVariables& values() const { return *values_; }
+    [[nodiscard]] platform::modRegSettings& regSettings() { return reg_settings_; }
+
+  private:
+    // Binding of the handlers, by concern.
+    void bindInputs();
+    void bindFacilityInputs();
+    void bindTypeChoice();
+    void bindShaft();
+    void bindResults();
+
+    void showInflow();
+    void message(const std::string& text, platform::MessageIcon icon);
+    void error(const std::string& text);
+    void hideResultPanels();
+    [[nodiscard]] bool refusesMissingInputs();
+
+    void calcSurface();
+    void calcSwaleArea();
+    void calcSwaleTrenchArea();
+
+    void enterTechnologyTab(int previous_tab);
+    void enterResultsTab(int previous_tab);
+    void refuseTab(int previous_tab);
+
+    data::modPublicVariables* values_;
+    platform::Desk* desk_;
+    platform::Clock* clock_;
+    std::string folder_;
+    platform::modRegSettings reg_settings_;
+    bool calculated_ = false;  ///< set when a design was completed
+};
+
+}  // namespace mero::forms

@@ -1,0 +1,82 @@
+/// The main window's field rules that do more than store a number.
+/// The derived inflow, the filtration coefficients, the two unguarded fields, the counters.
+#include <algorithm>
+
+#include "calc/inflow.h"
+#include "forms/calc/field_rules.h"
+#include "forms/calc/frm_calc.h"
+#include "platform/numbers/number_text.h"
+
+namespace mero::forms {
+
+void frmCalc::showInflow() {
+    values_->txtOdtokDoVsak = calc::inflow(values_->RedukovanaPlocha, values_->VybranaIntenzita);
+    txtOdtokDoVsak.setText(numbers::fixed(values_->txtOdtokDoVsak, 1));
+}
+
+void frmCalc::txtOdvodNepPlocha_Change() {
+    // A new area is no inflow before there is a design rain.
+    if (values_->VybranaIntenzita > 0) {
+        showInflow();
+    }
+    RebuildCalc();
+}
+
+void frmCalc::txtSelIntDeste_Change() {
+    showInflow();
+    RebuildCalc();
+}
+
+void frmCalc::txtSelDTrvDeste_Change() {
+    RebuildCalc();
+}
+
+void frmCalc::txtSoucFiltrace_Change() {
+    const bool empty = txtSoucFiltrace.text().empty();
+    storeFiltration(txtSoucFiltrace, values_->txtSoucFiltrace);
+    if (!empty) {
+        RebuildCalc();
+    }
+}
+
+void frmCalc::txtSoucFiltrace_LostFocus() {
+    formatFiltration(txtSoucFiltrace, values_->txtSoucFiltrace);
+}
+
+void frmCalc::txtSoucFiltrPruleh_Change(int Index) {
+    storeFiltration(txtSoucFiltrPruleh[Index], values_->txtSoucFiltrPruleh);
+}
+
+void frmCalc::txtSoucFiltrPruleh_LostFocus(int Index) {
+    formatFiltration(txtSoucFiltrPruleh[Index], values_->txtSoucFiltrPruleh);
+}
+
+void frmCalc::txtSoucBezp_Change(int Index) {
+    const bool empty = txtSoucBezp[Index].text().empty();
+    storeNumber(txtSoucBezp[Index], values_->txtSoucBezp);
+    if (!empty) {
+        CalcInfiltArea();
+    }
+}
+
+void frmCalc::txtSachtyCount_Change() {
+    storeNumber(txtSachtyCount, values_->txtSachtyCount);
+}
+
+void frmCalc::txtPocetPotrubi_Change(int Index) {
+    values_->txtPocetPotrubi = numbers::strictSingle(txtPocetPotrubi[Index].text());
+}
+
+void frmCalc::txtPotrHloubkaZahl_Change() {
+    values_->txtPotrHloubkaZahl = numbers::strictSingle(txtPotrHloubkaZahl.text());
+}
+
+void frmCalc::updSacht_Change(platform::UpDown::Direction direction) {
+    constexpr int kFewest = 1;
+    constexpr int kMost = 100;
+    const int step = direction == platform::UpDown::Direction::Up ? 1 : -1;
+    const int count = std::clamp(values_->txtSachtyCount + step, kFewest, kMost);
+    txtSachtyCount.setText(numbers::general(count));
+}
+
+}  // namespace mero::forms

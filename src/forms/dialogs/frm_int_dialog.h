@@ -1,0 +1,68 @@
+/// frmIntDialog, the design rain: nine intensities from the rain database or typed, one row picked.
+/// Everything the user does is stored at once; only OK carries the picked rain to the main window.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "data/mod_public_variables.h"
+#include "data/rain_database.h"
+#include "forms/dialogs/cell_editor.h"
+#include "forms/dialogs/dialog.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/drop_list.h"
+#include "platform/controls/grid.h"
+#include "platform/controls/text_box.h"
+
+namespace mero::forms {
+
+class frmIntDialog : public Dialog {
+  public:
+    /// What the confirmation writes in the main window.
+    struct Target {
+        platform::TextBox& txtSelIntDeste;
+        platform::TextBox& txtSelDTrvDeste;
+        std::function<void()> RebuildCalc;
+    };
+
+    frmIntDialog(platform::Form& main, platform::Desk& desk, data::modPublicVariables& values,
+                 data::RainDatabase& database, Target target);
+
+    platform::DropList cboSelStanice{*this, "cboSelStanice"};
+    platform::DropList cboSelPeriod{*this, "cboSelPeriod"};
+    platform::Grid fgIntDeste{*this, "fgIntDeste"};
+    platform::TextBox txtSChange{*this, "txtSChange"};
+    platform::Button cmdOK{*this, "cmdOK", "OK"};
+    platform::Button cmdEdit{*this, "cmdEdit", "?"};
+    platform::TextBox txtHelp;
+    platform::Button cmdCloseHelp{*this, "cmdCloseHelp", "Zavřít"};
+    /// Shown while the station's values come from a database that is marked as a demonstration.
+    platform::Label lblDemo;
+
+    void cboSelStanice_Click();
+    void cboSelPeriod_Click();
+    void fgIntDeste_Click();
+    void txtSChange_Change();
+    void cmdOK_Click();
+    void cmdEdit_Click();
+    void cmdCloseHelp_Click();
+
+  protected:
+    void Form_Load() override;
+
+  private:
+    /// Reads one station's table into IntenzitaStanice and DobaStanice.
+    /// @throws RuntimeError that ends the program when file or table cannot be read
+    void ReadStationTable(std::int16_t station_number, const std::string& database_path);
+    /// Clears the grid and fills it from DobaTrvani and IntenzitaDeste.
+    void buildGrid();
+    [[nodiscard]] bool noIntensities() const;
+
+    data::modPublicVariables* values_;
+    data::RainDatabase* database_;
+    Target target_;
+    CellEditor editor_{fgIntDeste, txtSChange};
+};
+
+}  // namespace mero::forms

@@ -1,0 +1,42 @@
+/// When the handlers of option buttons and check boxes run.
+/// The state is complete before the handler runs, because the handler may set it again.
+#include "platform/controls/buttons.h"
+
+namespace mero::platform {
+
+OptionButton::OptionButton(Control& container, std::string name, std::string caption, Group group)
+    : Captioned(container, std::move(name), std::move(caption)), group_(std::move(group)) {
+    group_->push_back(this);
+}
+
+void OptionButton::assign(bool selected) {
+    selected_ = selected;
+    notify(Aspect::Checked);
+}
+
+void OptionButton::setSelected(bool selected) {
+    if (selected) {
+        for (OptionButton* member : *group_) {
+            if (member != this && member->selected_) {
+                member->assign(false);
+            }
+        }
+    }
+    assign(selected);
+    if (selected && clicked) {
+        clicked();
+    }
+}
+
+void CheckBox::setChecked(bool checked) {
+    if (checked == checked_) {
+        return;
+    }
+    checked_ = checked;
+    notify(Aspect::Checked);
+    if (clicked) {
+        clicked();
+    }
+}
+
+}  // namespace mero::platform

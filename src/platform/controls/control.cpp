@@ -1,0 +1,56 @@
+/// What all controls share: their place in the form and the notification of observers.
+/// A control registers itself with its form, so that it can be found by its name.
+#include "platform/controls/control.h"
+
+#include <utility>
+
+#include "platform/controls/form.h"
+
+namespace mero::platform {
+
+Control::Control(Control& container, std::string name)
+    : name_(std::move(name)), form_(&container.form()), container_(&container) {
+    form_->add(*this);
+}
+
+Control::Control(Form& self, std::string name, bool visible)
+    : name_(std::move(name)), form_(&self), container_(nullptr), visible_(visible) {}
+
+void Control::setEnabled(bool enabled) {
+    enabled_ = enabled;
+    notify(Aspect::Enabled);
+}
+
+void Control::setVisible(bool visible) {
+    visible_ = visible;
+    notify(Aspect::Visible);
+}
+
+bool Control::onScreen() const {
+    if (!visible_) {
+        return false;
+    }
+    for (const Control* holder = container_; holder != nullptr; holder = holder->container_) {
+        if (!holder->showsContent()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Control::reachable() const {
+    for (const Control* control = this; control != nullptr; control = control->container_) {
+        if (!control->enabled_) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void Control::notify(Aspect aspect) const {
+    for (const auto& observer : observers_) {
+        observer(aspect);
+    }
+}
+
+}  // namespace mero::platform

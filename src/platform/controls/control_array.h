@@ -1,0 +1,52 @@
+/// An array of controls: members of one name told apart by an index, which need not start at 0.
+/// One handler serves all members and is given the member's index.
+#pragma once
+
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "platform/controls/control.h"
+#include "platform/numbers/number_text.h"
+#include "platform/numbers/runtime_error.h"
+
+namespace mero::platform {
+
+template <typename T>
+class ControlArray {
+  public:
+    explicit ControlArray(std::string name) : name_(std::move(name)) {}
+
+    /// Adds the member of that index; the further arguments are those of the control's constructor.
+    template <typename... Arguments>
+    T& add(int index, Control& container, Arguments&&... arguments) {
+        auto member = std::make_unique<T>(container, name_ + "(" + numbers::general(index) + ")",
+                                          std::forward<Arguments>(arguments)...);
+        return *members_.emplace(index, std::move(member)).first->second;
+    }
+
+    /// @throws RuntimeError SubscriptOutOfRange when there is no member of that index
+    [[nodiscard]] T& operator[](int index) const {
+        const auto found = members_.find(index);
+        if (found == members_.end()) {
+            throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+        }
+        return *found->second;
+    }
+
+    /// Calls `action(index, member)` for every member in ascending order of the index.
+    template <typename Action>
+    void forEach(Action action) const {
+        for (const auto& [index, member] : members_) {
+            action(index, *member);
+        }
+    }
+
+  private:
+    std::string name_;
+    std::map<int, std::unique_ptr<T>> members_;
+};
+
+}  // namespace mero::platform

@@ -1,0 +1,35 @@
+/// A form: the window that holds named controls.
+/// It is created hidden, loads when it is first shown, and forgets its controls' states when it is closed.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/controls/control.h"
+
+namespace mero::platform {
+
+class Form : public Control {
+  public:
+    Form(std::string name, std::string title);
+
+    [[nodiscard]] const std::string& title() const { return title_; }
+    /// All controls in the order of their creation.
+    [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+    /// The control of that name (`txtHPV`, `cmdEdit(0)`), null when the form has none.
+    [[nodiscard]] Control* find(std::string_view name) const;
+
+    /// The user clicks the form's close box.
+    std::function<void()> close_requested;
+
+  private:
+    friend class Control;
+    void add(Control& control) { controls_.push_back(&control); }
+
+    std::string title_;
+    std::vector<Control*> controls_;
+};
+
+}  // namespace mero::platform

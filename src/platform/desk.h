@@ -1,0 +1,57 @@
+/// The door between the program and its user: message boxes, error reports, opened addresses, dialogs of the
+/// system. One object is injected; the window shows the real things, a script or a test records them.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/numbers/runtime_error.h"
+
+namespace mero::platform {
+
+enum class MessageIcon { None, Information, Exclamation, Critical };
+
+/// A modal message with one OK button. Without a title the application's title shows.
+struct Message {
+    std::string text;
+    MessageIcon icon = MessageIcon::None;
+    std::optional<std::string> title = std::nullopt;
+
+    friend bool operator==(const Message&, const Message&) = default;
+};
+
+/// The title of message boxes that set none of their own.
+inline constexpr const char* kApplicationTitle = "MERO";
+
+class Desk {
+  public:
+    Desk() = default;
+    virtual ~Desk() = default;
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+    Desk(Desk&&) = delete;
+    Desk& operator=(Desk&&) = delete;
+
+    /// Shows a message box and returns when the user has closed it.
+    virtual void showMessage(const Message& message) = 0;
+    /// Shows the report of a run-time error that nothing trapped.
+    virtual void reportError(const RuntimeError& error) = 0;
+    /// Hands a web address to the default browser.
+    virtual void openAddress(const std::string& address) = 0;
+
+    /// A form was shown / closed.
+    virtual void formOpened(const std::string& form) = 0;
+    virtual void formClosed(const std::string& form) = 0;
+    /// A browser view was sent to a local file.
+    virtual void navigated(const std::string& view, const std::string& path) = 0;
+    /// The print preview is opened on a document.
+    virtual void openPrintPreview(const std::string& path) = 0;
+    /// The save dialog: the chosen path, nothing when the user cancels.
+    virtual std::optional<std::string> askSavePath(const std::string& suggested_path) = 0;
+    /// A copy of the report was saved.
+    virtual void saved(const std::string& path) = 0;
+    /// The program ended.
+    virtual void ended() = 0;
+};
+
+}  // namespace mero::platform
