@@ -17,7 +17,7 @@ struct StationTable {
 
     std::vector<std::string> columns;      ///< field names as stored
     std::vector<std::vector<Value>> rows;  ///< one value per column; nullopt: null or not a number
-    bool demonstration = false;            ///< the file carries the table `Demo`: its values are no measurement
+    bool demonstration = false;  ///< the file carries the table `Demo`: its values are no measurement
 };
 
 /// Position of a field by its name; upper and lower case are the same, as in the database itself.

@@ -1,6 +1,7 @@
 package mero.rain;
 
 import java.math.BigDecimal;
+import java.math.MathContext;
 import java.math.RoundingMode;
 import java.util.ArrayList;
 import java.util.List;
@@ -16,6 +17,8 @@ import java.util.Map;
 final class DemoValues {
     private static final Map<String, Double> PERIODICITY =
             Map.of("5", 5.0, "2", 2.0, "1", 1.0, "05", 0.5, "02", 0.2, "01", 0.1, "005", 0.05, "004", 0.04);
+
+    private static final MathContext TWELVE_DIGITS = new MathContext(12);
 
     private DemoValues() {}
 
@@ -41,6 +44,7 @@ final class DemoValues {
     static BigDecimal intensity(int station_number, int duration_min, double periodicity) {
         double rain = 100.0 + station_number / 2.0;
         double value = rain * 38.0 / (duration_min + 9.0) * (Math.pow(periodicity, -0.25) - 0.369);
-        return BigDecimal.valueOf(value).setScale(1, RoundingMode.HALF_UP);
+        // Periodicity 1 gives exact halves of a tenth; twelve digits first take the error of the double away.
+        return BigDecimal.valueOf(value).round(TWELVE_DIGITS).setScale(1, RoundingMode.HALF_UP);
     }
 }
