@@ -1,0 +1,50 @@
+/// Resource limits and redirections by POSIX calls.
+/// A limit that cannot be set is left: the parent's time limit and checks hold in any case.
+#include "app/rain/limits.h"
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <cstdlib>
+
+#include "data/reader_environment.h"
+
+namespace mero::rain {
+namespace {
+
+constexpr rlim_t kProcessorSeconds = 2;
+// The library itself takes a few MiB; a damaged length field asks for gigabytes.
+constexpr rlim_t kMemoryBytes = 256U << 20U;
+
+void limit(decltype(RLIMIT_CORE) resource, rlim_t most) {
+    const rlimit bound{most, most};
+    static_cast<void>(::setrlimit(resource, &bound));
+}
+
+}  // namespace
+
+void setLimits() {
+    limit(RLIMIT_CORE, 0);
+    limit(RLIMIT_CPU, kProcessorSeconds);
+#if !defined(__SANITIZE_ADDRESS__) && !defined(MERO_SANITIZED)
+    limit(RLIMIT_AS, kMemoryBytes);
+#else
+    static_cast<void>(kMemoryBytes);  // the sanitizer reserves terabytes of addresses
+#endif
+    for (const char* variable : data::kLibraryVariables) {
+        ::unsetenv(variable);
+    }
+}
+
+int takeStandardOutput() {
+    const int kept = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
+    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (nowhere >= 0 && nowhere != STDOUT_FILENO) {
+        ::dup2(nowhere, STDOUT_FILENO);
+        ::close(nowhere);
+    }
+    return kept;
+}
+
+}  // namespace mero::rain

@@ -1,0 +1,68 @@
+/// The rain database: one table of rain intensities per rain-gauge station.
+/// What goes where is the rain dialog's rule; this only brings the named columns and the rows of a table.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mero::data {
+
+/// One table of the rain database, rows in the table's own order.
+struct StationTable {
+    using Value = std::optional<double>;
+
+    std::vector<std::string> columns;      ///< field names as stored
+    std::vector<std::vector<Value>> rows;  ///< one value per column; nullopt: null or not a number
+    bool demonstration = false;  ///< the file carries the table `Demo`: its values are no measurement
+};
+
+/// Position of a field by its name; upper and lower case are the same, as in the database itself.
+[[nodiscard]] std::optional<std::size_t> columnIndex(const StationTable& table, std::string_view name);
+
+/// True when the table has the field, e.g. "005" (a table without it has "004").
+[[nodiscard]] bool hasField(const StationTable& table, std::string_view name);
+
+/// Error numbers of a read that fails, besides 53 (the file does not exist).
+inline constexpr int kCannotOpenDatabase = 3051;  ///< no permission, not a file, not a database
+inline constexpr int kTableNotFound = 3078;       ///< the file has no table of that station
+inline constexpr int kReadFailed = 3112;          ///< damaged: the read crashed, hung or ended early
+
+/// Name of a station's table: "List" and the number in plain decimal.
+[[nodiscard]] std::string tableName(std::int16_t station_number);
+
+/// Where the dialog gets a station's rain intensities from.
+class RainDatabase {
+  public:
+    RainDatabase() = default;
+    RainDatabase(const RainDatabase&) = delete;
+    RainDatabase& operator=(const RainDatabase&) = delete;
+    virtual ~RainDatabase() = default;
+
+    /// Reads the table of one station.
+    ///
+    /// @param station_number number of the station in the database, not its position in the list
+    /// @param path           the database file
+    /// @throws RuntimeError that ends the program; its description names the file and the table. The file is
+    ///         missing, cannot be opened, lacks the table, or is damaged.
+    [[nodiscard]] virtual StationTable read(std::int16_t station_number, const std::string& path) = 0;
+};
+
+/// Reads `mero.mdb` with the reader program `mero-rain`, started anew for each read: the database library
+/// crashes or never ends on some damaged files, and there it can harm nobody.
+class MdbRainDatabase : public RainDatabase {
+  public:
+    /// @param reader_program path of `mero-rain`
+    explicit MdbRainDatabase(std::string reader_program);
+
+    /// Ends within 2 s, whatever the file holds. `path` may join folder and file by a backslash.
+    [[nodiscard]] StationTable read(std::int16_t station_number, const std::string& path) override;
+
+  private:
+    std::string reader_program_;
+};
+
+}  // namespace mero::data
