@@ -1,0 +1,24 @@
+/// Reduced (impermeable-equivalent) drained area: partial areas weighted by their runoff coefficients.
+/// The total is a Single at every step, as the shared value that holds it is.
+#pragma once
+
+#include <span>
+
+namespace mero::calc {
+
+/// The running total after one more partial area. The product is taken in double; the sum is rounded to
+/// Single.
+/// @param running_total_m2   total of the entries before [m2]
+/// @param runoff_coefficient share of the rain that runs off [-]; not limited to 0..1
+/// @param partial_area_m2    size of the entry [m2]; may be negative
+/// @throws RuntimeError Overflow when a Single cannot hold the total
+[[nodiscard]] float addPartialArea(float running_total_m2, float runoff_coefficient, float partial_area_m2);
+
+/// The reduced area of all entries, added in their order.
+/// @param runoff_coefficients, partial_areas_m2 one value per entry, both of the same length
+/// @return reduced area [m2], 0 without entries
+/// @throws RuntimeError Overflow when a Single cannot hold one of the totals
+[[nodiscard]] float reducedArea(std::span<const float> runoff_coefficients,
+                                std::span<const float> partial_areas_m2);
+
+}  // namespace mero::calc

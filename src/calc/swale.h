@@ -1,0 +1,42 @@
+/// Swale: a shallow grassed hollow that stores the rain and lets it soak away through its bottom.
+/// The steps of the design in their order; the swale of the combined object uses them too.
+#pragma once
+
+#include "calc/critical_rain.h"
+
+namespace mero::calc::swale {
+
+/// First infiltration area: a share of the reduced area that depends on the soil.
+/// @param reduced_area_m2  reduced drained area [m2]
+/// @param soil_option      0 gives a tenth of the area, 1 a fifth
+/// @param previous_area_m2 the area stored before, kept for any other soil option [m2]
+/// @return infiltration area [m2]; the field that shows it stores it back with one decimal
+/// @throws RuntimeError Overflow
+[[nodiscard]] float startingArea(float reduced_area_m2, int soil_option, float previous_area_m2);
+
+/// What the water balance of a swale depends on.
+struct Balance {
+    float reduced_area_m2;       ///< reduced drained area [m2]
+    float infiltration_area_m2;  ///< infiltration area of the swale as stored [m2]
+    float filtration_m_s;        ///< coefficient of the layer that it soaks into [m/s]
+    float safety_factor;         ///< stretches the duration [-]
+};
+
+/// Storage volume under the critical rain: what runs off the drained area and falls on the swale, less what
+/// soaks away through half the saturated conductivity, over the rain's duration times the safety factor.
+/// All nine rows take part, those with a negative duration too.
+/// @return volume [m3] and the critical rain; 0 and none when the soil keeps up with every rain
+[[nodiscard]] CriticalRain storageVolume(const Balance& balance, RainTable rains);
+
+/// Depth of the water when the whole volume stands on the infiltration area [m].
+/// @throws RuntimeError DivisionByZero when the area is 0, Overflow
+[[nodiscard]] float pondingDepth(float volume_m3, float infiltration_area_m2);
+
+/// Time in hours until the water has soaked away, at half the saturated conductivity (the soil above the
+/// groundwater is not saturated). The safety factor is already in the volume and applies once.
+/// @param depth_m        depth of the water [m]
+/// @param filtration_m_s coefficient of the layer that it soaks into [m/s]; the caller checks that it is > 0
+/// @throws RuntimeError DivisionByZero when the coefficient is 0, Overflow
+[[nodiscard]] float emptyingTimeHours(float depth_m, float filtration_m_s);
+
+}  // namespace mero::calc::swale

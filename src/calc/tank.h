@@ -1,0 +1,76 @@
+/// Infiltration tank: an open basin with sloped sides that soaks away at a rate chosen beforehand.
+/// Required storage against the volume of its shape, then proof that the rate was not too optimistic.
+#pragma once
+
+#include "calc/critical_rain.h"
+
+namespace mero::calc::tank {
+
+/// Infiltration flow that the design assumes: a specific intensity over the reduced area [m3/s].
+/// @param specific_intensity_l_s_ha specific infiltration intensity [l/(s.ha)]
+/// @throws RuntimeError Overflow
+[[nodiscard]] float infiltrationFlow(float specific_intensity_l_s_ha, float reduced_area_m2);
+
+/// What the water balance of a tank depends on.
+struct Balance {
+    float reduced_area_m2;         ///< reduced drained area [m2]
+    float infiltration_flow_m3_s;  ///< assumed infiltration flow as stored [m3/s]
+    float safety_factor;           ///< stretches the duration [-]
+};
+
+/// Required storage under the critical rain: inflow less the assumed infiltration flow, over the duration
+/// times the safety factor. All nine rows take part, those with a negative duration too.
+/// @return volume [m3] and the critical rain; 0 and none when the flow keeps up with every rain
+[[nodiscard]] CriticalRain requiredStorage(const Balance& balance, RainTable rains);
+
+/// Length or width of the top: the side slope runs out on both sides of the bottom [m].
+/// @param bottom_m bottom length or width [m]
+/// @param depth_m  depth of the tank [m]
+/// @param slope    horizontal run per unit of height, 0 for vertical sides [-]
+/// @throws RuntimeError Overflow
+[[nodiscard]] float topSide(float bottom_m, float depth_m, float slope);
+
+/// A tank's shape: rectangular bottom and top, the top sides as stored.
+struct Shape {
+    float bottom_length_m;
+    float bottom_width_m;
+    float top_length_m;
+    float top_width_m;
+    float depth_m;
+};
+
+/// Volume of the shape: frustum of a pyramid, a third of the depth times bottom, top and their geometric
+/// mean [m3].
+/// @throws RuntimeError InvalidCall when the product of the four sides is negative, Overflow
+[[nodiscard]] float volume(const Shape& shape);
+
+enum class VolumeVerdict { Sufficient, TooSmall };
+
+/// The tank must hold the required storage; equal is enough.
+[[nodiscard]] constexpr VolumeVerdict judgeVolume(float tank_volume_m3, float required_storage_m3) {
+    return tank_volume_m3 < required_storage_m3 ? VolumeVerdict::TooSmall : VolumeVerdict::Sufficient;
+}
+
+/// Filtration coefficient that can be counted on [m/s]: in full when the water has settled before it comes
+/// to the tank, else a fifth, because the bottom clogs.
+[[nodiscard]] constexpr double effectiveFiltration(float filtration_m_s, bool settled_before) {
+    constexpr double kCloggedShare = 5.0;
+    const double filtration = filtration_m_s;
+    return settled_before ? filtration : filtration / kCloggedShare;
+}
+
+/// What soaks away on average between the empty tank (its bottom) and the full one (its top), at half the
+/// effective coefficient [m3/s].
+/// @param effective_filtration_m_s as effectiveFiltration() gives it
+[[nodiscard]] double meanInfiltrationFlow(const Shape& shape, double effective_filtration_m_s);
+
+enum class InfiltrationVerdict { Proven, Exceeded };
+
+/// The mean flow must reach the assumed one; equal is enough.
+[[nodiscard]] constexpr InfiltrationVerdict judgeInfiltration(double mean_flow_m3_s,
+                                                              float assumed_flow_m3_s) {
+    return mean_flow_m3_s >= static_cast<double>(assumed_flow_m3_s) ? InfiltrationVerdict::Proven
+                                                                    : InfiltrationVerdict::Exceeded;
+}
+
+}  // namespace mero::calc::tank

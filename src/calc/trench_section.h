@@ -1,0 +1,35 @@
+/// Cross-section of an infiltration trench and what one metre of it can take.
+/// Shared by the trench and by the trench under a swale.
+#pragma once
+
+#include "platform/numbers/checked.h"
+
+namespace mero::calc {
+
+/// A filled trench in the ground.
+struct TrenchSection {
+    float width_m;              ///< mean width [m]
+    float height_m;             ///< height of the fill [m]
+    float storage_coefficient;  ///< share of the section that holds water, with pipes if there are any [-]
+    float filtration_m_s;       ///< filtration coefficient of the subsoil [m/s]
+};
+
+/// Infiltration area per metre of trench: the bottom, plus half the height for the walls, which are wetted
+/// from empty to full [m2/m].
+[[nodiscard]] constexpr double infiltrationWidth(double width_m, double height_m) {
+    return width_m + height_m / 2.0;
+}
+
+/// What one metre of trench takes over the time of a balance: its pores filled in that time, and what soaks
+/// away through its infiltration area at half the saturated conductivity [m3/s per m].
+/// @param balance_seconds duration of the rain in seconds times the safety factor
+/// @throws RuntimeError DivisionByZero when that time is 0
+[[nodiscard]] inline double uptakePerMetre(const TrenchSection& section, double balance_seconds) {
+    const double width = section.width_m;
+    const double height = section.height_m;
+    const double pores_m2 = width * height * static_cast<double>(section.storage_coefficient);
+    const double filtration = section.filtration_m_s;
+    return numbers::divide(pores_m2, balance_seconds) + infiltrationWidth(width, height) * filtration / 2.0;
+}
+
+}  // namespace mero::calc
