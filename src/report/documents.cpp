@@ -1,0 +1,23 @@
+/// Paths of the report and of the description pages.
+#include "report/documents.h"
+
+#include "platform/numbers/number_text.h"
+
+namespace mero::report {
+
+std::string reportPath(std::string_view program_folder, std::string_view project_name) {
+    std::string path(program_folder);
+    path += "/Mero_";
+    path += project_name;
+    return path;
+}
+
+std::string descriptionPagePath(std::string_view program_folder, int infiltration_type) {
+    std::string path(program_folder);
+    path += "/Webs/Desc0";
+    path += numbers::general(infiltration_type);
+    path += ".htm";
+    return path;
+}
+
+}  // namespace mero::report

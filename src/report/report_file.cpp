@@ -1,0 +1,109 @@
+/// The report file over POSIX calls: their error numbers tell a locked file from every other failure.
+#include "report/report_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <exception>
+#include <filesystem>
+
+#include "report/code_page.h"
+
+namespace mero::report {
+namespace {
+
+/// An open file; closes itself.
+class OpenFile {
+  public:
+    explicit OpenFile(const std::string& path)
+        : descriptor_(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {}
+    ~OpenFile() { static_cast<void>(closeIt()); }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
+
+    /// True for a file of a file system; a device or a pipe that the path leads to is none of ours to remove.
+    [[nodiscard]] bool isRegular() const {
+        struct stat status {};
+        return fstat(descriptor_, &status) == 0 && S_ISREG(status.st_mode);
+    }
+
+    [[nodiscard]] bool writeAll(std::string_view bytes) const {
+        while (!bytes.empty()) {
+            const ssize_t count = write(descriptor_, bytes.data(), bytes.size());
+            if (count < 0 && errno == EINTR) {
+                continue;
+            }
+            if (count <= 0) {
+                return false;
+            }
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        }
+        return true;
+    }
+
+    /// Some file systems report a full disk only here.
+    [[nodiscard]] bool closeIt() {
+        const int descriptor = descriptor_;
+        descriptor_ = -1;
+        return descriptor < 0 || close(descriptor) == 0;
+    }
+
+  private:
+    int descriptor_;
+};
+
+/// Errors of opening that mean: there, but not for us now. A file protected against writing, by its rights,
+/// as immutable or by its file system; a file in use, which network shares report as busy.
+bool isPermissionDenied(int error) {
+    return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == ETXTBSY;
+}
+
+WriteResult writeBytes(const std::string& path, std::string_view bytes) {
+    OpenFile file(path);
+    if (!file.isOpen()) {
+        return isPermissionDenied(errno) ? WriteResult::PermissionDenied : WriteResult::Failed;
+    }
+    const bool removable = file.isRegular();
+    const bool written = file.writeAll(bytes);
+    const bool closed = file.closeIt();
+    if (written && closed) {
+        return WriteResult::Written;
+    }
+    if (removable) {
+        removeReport(path);
+    }
+    return WriteResult::Failed;
+}
+
+}  // namespace
+
+WriteResult writeReport(const std::string& path, std::string_view html_utf8) {
+    // A path is cut at a zero character, and the cut path is another file's.
+    if (path.empty() || path.find('\0') != std::string::npos) {
+        return WriteResult::Failed;
+    }
+    try {
+        return writeBytes(path, toWindows1250(html_utf8));
+    } catch (const std::exception&) {
+        return WriteResult::Failed;
+    }
+}
+
+void removeReport(const std::string& path) {
+    if (!path.empty() && path.find('\0') == std::string::npos) {
+        static_cast<void>(unlink(path.c_str()));
+    }
+}
+
+std::string lookUpFileName(const std::string& path) {
+    std::error_code ignored;
+    const std::filesystem::path file(path);
+    return std::filesystem::is_regular_file(file, ignored) ? file.filename().string() : std::string();
+}
+
+}  // namespace mero::report

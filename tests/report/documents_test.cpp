@@ -1,0 +1,27 @@
+/// Where the documents lie.
+#include "report/documents.h"
+
+#include <gtest/gtest.h>
+
+namespace mero::report {
+namespace {
+
+TEST(ReportPath, IsNamedAfterTheProject) {
+    EXPECT_EQ(reportPath("/opt/mero", "Test"), "/opt/mero/Mero_Test");
+    EXPECT_EQ(reportPath("/opt/mero", ""), "/opt/mero/Mero_");
+    EXPECT_EQ(reportPath("/home/jiří/má data", "Žďár 2. etapa"), "/home/jiří/má data/Mero_Žďár 2. etapa");
+}
+
+TEST(ReportPath, TakesTheNameAsTyped) {
+    EXPECT_EQ(reportPath("/opt/mero", "a/b"), "/opt/mero/Mero_a/b");
+    EXPECT_EQ(reportPath("/opt/mero", " x.html "), "/opt/mero/Mero_ x.html ");
+}
+
+TEST(DescriptionPagePath, IsNumberedByType) {
+    EXPECT_EQ(descriptionPagePath("/opt/mero", 1), "/opt/mero/Webs/Desc01.htm");
+    EXPECT_EQ(descriptionPagePath("/opt/mero", 4), "/opt/mero/Webs/Desc04.htm");
+    EXPECT_EQ(descriptionPagePath("/má data", 6), "/má data/Webs/Desc06.htm");
+}
+
+}  // namespace
+}  // namespace mero::report

@@ -1,0 +1,187 @@
+/// The whole report of each type and option against files that were written from the format's rules.
+#include "report/html_report.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "report/code_page.h"
+#include "report/sample_project.h"
+
+namespace mero::report {
+namespace {
+
+using test::sampleProject;
+
+std::string contentOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// Compares bytes as they reach the file. On a difference the report is left beside the golden as
+/// NAME.html.out.
+void expectGolden(const std::string& name, const ReportData& data) {
+    const std::filesystem::path golden = std::filesystem::path(MERO_GOLDEN_FOLDER) / (name + ".html");
+    const std::filesystem::path out = golden.string() + ".out";
+    ASSERT_TRUE(std::filesystem::exists(golden)) << golden;
+    const std::string bytes = toWindows1250(htmlReport(data));
+    if (bytes == contentOf(golden)) {
+        std::filesystem::remove(out);
+        return;
+    }
+    std::ofstream(out, std::ios::binary) << bytes;
+    FAIL() << "differs from " << golden << "; see " << out;
+}
+
+std::size_t count(const std::string& text, const std::string& part) {
+    std::size_t found = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + part.size())) {
+        ++found;
+    }
+    return found;
+}
+
+TEST(HtmlReport, WithoutATypeHasNoTypeSection) {
+    expectGolden("no_type", sampleProject(0));
+}
+
+TEST(HtmlReport, OutsideTheTypesHasNoTypeSectionEither) {
+    ReportData data = sampleProject(6);
+    for (const int type : {-1, 7, 1000}) {
+        data.infiltration_type = type;
+        EXPECT_EQ(count(htmlReport(data), "Celková odvodňovaná plocha"), 0U) << type;
+    }
+}
+
+TEST(HtmlReport, Surface) {
+    expectGolden("surface", sampleProject(1));
+}
+
+TEST(HtmlReport, WithoutAreasHasAnEmptyTable) {
+    ReportData data = sampleProject(1);
+    data.partial_areas.clear();
+    data.subsoil.clear();
+    data.subsoil_filtration_m_s = 0.00005F;
+    data.rain.chosen_duration_min = 0;
+    expectGolden("surface_without_areas", data);
+    EXPECT_NE(htmlReport(data).find("Dílčí typ povrchu</th></tr>\r\n</table><br>\r\n"), std::string::npos);
+}
+
+TEST(HtmlReport, Swale) {
+    expectGolden("swale", sampleProject(2));
+}
+
+TEST(HtmlReport, TypedTextsGoInAsTheyAre) {
+    ReportData data = sampleProject(2);
+    data.project_name = "A<B>\"C\" \xF0\x9F\x92\xA7 \xFF";  // a drop and a stray byte: "?" each
+    data.description = "První řádek<br>druhý & \"třetí\" <i>řádek</i>";
+    expectGolden("swale_described", data);
+}
+
+TEST(HtmlReport, Combined) {
+    ReportData data = sampleProject(3);
+    data.rain.chosen_duration_min = 5;
+    data.pipes.drain = true;  // the trench page's option is none of this type's
+    expectGolden("combined", data);
+}
+
+TEST(HtmlReport, CombinedWithThrottledOverflow) {
+    ReportData data = sampleProject(3);
+    data.rain.chosen_duration_min = 120;
+    data.pipes.throttled_overflow = true;
+    expectGolden("combined_overflow", data);
+}
+
+TEST(HtmlReport, Trench) {
+    ReportData data = sampleProject(4);
+    data.pipes.throttled_overflow = true;  // the combined page's option is none of this type's
+    expectGolden("trench", data);
+}
+
+TEST(HtmlReport, TrenchWithDrain) {
+    ReportData data = sampleProject(4);
+    data.pipes.drain = true;
+    expectGolden("trench_drain", data);
+}
+
+TEST(HtmlReport, RoundShaft) {
+    expectGolden("shaft_round", sampleProject(5));
+}
+
+TEST(HtmlReport, RectangularShaftWithSandLayer) {
+    ReportData data = sampleProject(5);
+    data.shaft.shape = 1;
+    data.shaft.ring = "RSD 240/190/..";
+    data.shaft.wall_thickness_m = 0.1F;
+    data.shaft.sand_layer = true;
+    expectGolden("shaft_rectangular_sand", data);
+}
+
+TEST(HtmlReport, ShaftOfNoKnownShapeHasNoCrossSection) {
+    ReportData data = sampleProject(5);
+    data.shaft.shape = -1;
+    data.shaft.ring.clear();
+    data.shaft.wall_thickness_m = 0.1F;
+    expectGolden("shaft_without_shape", data);
+}
+
+TEST(HtmlReport, Tank) {
+    expectGolden("tank", sampleProject(6));
+}
+
+TEST(HtmlReport, TankWithUpstreamSettling) {
+    ReportData data = sampleProject(6);
+    data.tank.upstream_settling = true;
+    expectGolden("tank_settling", data);
+}
+
+TEST(HtmlReport, MarksExactlyTheRowOfTheChosenDuration) {
+    ReportData data = sampleProject(1);
+    const std::string third =
+        "<tr><th width=150 align=center>15</th><th width=150 align=center>161.5</th></tr>";
+    EXPECT_EQ(count(htmlReport(data), third), 1U);
+    EXPECT_EQ(count(htmlReport(data), "<tr><th width=150 align=center>"), 3U);  // and two headers
+    for (const float none : {0.0F, 15.5F, -15.0F}) {
+        data.rain.chosen_duration_min = none;
+        EXPECT_EQ(count(htmlReport(data), "<tr><th width=150 align=center>"), 2U) << none;
+    }
+}
+
+TEST(HtmlReport, MarksEveryRowThatHasTheChosenDuration) {
+    ReportData data = sampleProject(1);
+    data.rain.durations_min[3] = 15;
+    EXPECT_EQ(count(htmlReport(data), "<tr><th width=150 align=center>15</th>"), 2U);
+}
+
+TEST(HtmlReport, EndsEveryLineWithCarriageReturnAndLineFeed) {
+    for (int type = 0; type <= 6; ++type) {
+        ReportData data = sampleProject(type);
+        data.description = "popis";
+        const std::string html = htmlReport(data);
+        EXPECT_EQ(count(html, "\r\n"), count(html, "\n"));
+        EXPECT_TRUE(html.ends_with("</div></body><html>\r\n"));
+    }
+}
+
+TEST(HtmlReport, OfAnEmptyProjectIsComplete) {
+    const std::string html = htmlReport(ReportData{});
+    EXPECT_NE(html.find("<TH align=left width=450></TH><TD rowspan=4"), std::string::npos);
+    EXPECT_EQ(count(html, "Detailní popis"), 0U);
+    // Nine durations of 0 all equal the chosen duration of 0.
+    EXPECT_EQ(count(html, "<tr><th width=150 align=center>0</th><th width=150 align=center>0</th></tr>\r\n"),
+              9U);
+}
+
+TEST(HtmlReport, WritesNegativeAndLargeResultsInFull) {
+    ReportData data = sampleProject(1);
+    data.infiltration_area_m2 = -2000;
+    EXPECT_NE(htmlReport(data).find(">-2 000.00</TH>"), std::string::npos);
+    data.infiltration_area_m2 = 1e10F;
+    EXPECT_NE(htmlReport(data).find(">10 000 000 000.00</TH>"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace mero::report

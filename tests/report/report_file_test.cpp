@@ -1,0 +1,211 @@
+/// The report file under real faults: rights, folders, a full disk, names that no file system takes.
+#include "report/report_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/types.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "report/documents.h"
+
+namespace mero::report {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A folder of its own for each test, gone with it.
+class ReportFile : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::string name = (fs::temp_directory_path() / "mero report ěš XXXXXX").string();
+        ASSERT_NE(mkdtemp(name.data()), nullptr);
+        folder_ = name;
+        // The unprivileged process of some tests must be able to write here.
+        fs::permissions(folder_, fs::perms::all);
+    }
+    void TearDown() override { fs::remove_all(folder_); }
+
+    [[nodiscard]] std::string path(const std::string& project) const { return reportPath(folder_, project); }
+
+    static std::string contentOf(const std::string& file) {
+        std::ifstream in(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    }
+
+    static void put(const std::string& file, const std::string& content) {
+        std::ofstream(file, std::ios::binary) << content;
+    }
+
+    std::string folder_;
+};
+
+/// Runs the action in a process of its own and gives its result. Root's rights know no denial, so the
+/// process gives them up first.
+template <typename Action>
+WriteResult inUnprivilegedProcess(Action action) {
+    constexpr int kNotRun = 99;
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr uid_t kNobody = 65534;
+        const bool unprivileged = geteuid() != 0 || (setgid(kNobody) == 0 && setuid(kNobody) == 0);
+        _exit(unprivileged ? static_cast<int>(action()) : kNotRun);
+    }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_NE(WEXITSTATUS(status), kNotRun);
+    return static_cast<WriteResult>(WEXITSTATUS(status));
+}
+
+TEST_F(ReportFile, IsWrittenInWindows1250) {
+    ASSERT_EQ(writeReport(path("Test"), "déšť\r\n\xF0\x9F\x92\xA7"), WriteResult::Written);
+    EXPECT_EQ(contentOf(folder_ + "/Mero_Test"), "d\xE9\x9A\x9D\r\n?");
+}
+
+TEST_F(ReportFile, ReplacesTheFormerReportWhole) {
+    put(path("Test"), std::string(100000, 'x'));
+    ASSERT_EQ(writeReport(path("Test"), "nový"), WriteResult::Written);
+    EXPECT_EQ(contentOf(path("Test")), "nov\xFD");
+}
+
+TEST_F(ReportFile, MayBeEmptyAndMayBeLarge) {
+    EXPECT_EQ(writeReport(path(""), ""), WriteResult::Written);
+    EXPECT_TRUE(fs::is_empty(path("")));
+    const std::string large(3000000, 'm');
+    EXPECT_EQ(writeReport(path("velký"), large), WriteResult::Written);
+    EXPECT_EQ(contentOf(path("velký")), large);
+}
+
+TEST_F(ReportFile, TakesAnyNameThatTheFileSystemTakes) {
+    for (const std::string name :
+         {"\"uvozovky\"", "<b>", "a:b*c?", "\xF0\x9F\x92\xA7", "\xFF\xFE", ".", " ", "-rf"}) {
+        EXPECT_EQ(writeReport(path(name), "x"), WriteResult::Written) << name;
+        EXPECT_EQ(contentOf(folder_ + "/Mero_" + name), "x") << name;
+    }
+}
+
+TEST_F(ReportFile, FailsUnderANameThatNoFileCanHave) {
+    EXPECT_EQ(writeReport(path("a/b"), "x"), WriteResult::Failed);
+    EXPECT_EQ(writeReport(path("../x"), "x"), WriteResult::Failed);
+    EXPECT_EQ(writeReport(path(std::string(300, 'n')), "x"), WriteResult::Failed);
+    EXPECT_EQ(writeReport(path(std::string("a\0b", 3)), "x"), WriteResult::Failed);
+    EXPECT_EQ(writeReport("", "x"), WriteResult::Failed);
+    EXPECT_TRUE(fs::is_empty(folder_));
+}
+
+TEST_F(ReportFile, FailsWhereAFolderStandsAndLeavesIt) {
+    fs::create_directory(path("složka"));
+    EXPECT_EQ(writeReport(path("složka"), "x"), WriteResult::Failed);
+    EXPECT_TRUE(fs::is_directory(path("složka")));
+}
+
+TEST_F(ReportFile, FailsInAMissingFolder) {
+    EXPECT_EQ(writeReport(reportPath(folder_ + "/není", "x"), "x"), WriteResult::Failed);
+    EXPECT_FALSE(fs::exists(folder_ + "/není"));
+}
+
+TEST_F(ReportFile, IsDeniedWhereTheFileIsProtectedAndKeepsItsContent) {
+    put(path("chráněný"), "starý");
+    fs::permissions(path("chráněný"), fs::perms::owner_read | fs::perms::others_read);
+    EXPECT_EQ(inUnprivilegedProcess([&] { return writeReport(path("chráněný"), "nový"); }),
+              WriteResult::PermissionDenied);
+    EXPECT_EQ(contentOf(path("chráněný")), "starý");
+}
+
+TEST_F(ReportFile, IsDeniedInAProtectedFolder) {
+    fs::permissions(folder_, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_exec);
+    const WriteResult result = inUnprivilegedProcess([&] { return writeReport(path("Test"), "x"); });
+    fs::permissions(folder_, fs::perms::all);
+    EXPECT_EQ(result, WriteResult::PermissionDenied);
+    EXPECT_TRUE(fs::is_empty(folder_));
+}
+
+TEST_F(ReportFile, IsDeniedWhileAnotherProgramHasTheFileInUse) {
+    // A program that runs is the one kind of file that the system itself holds against writing.
+    fs::copy_file("/bin/sleep", path("běží"));
+    const std::string running = path("běží");
+    const pid_t other = fork();
+    if (other == 0) {
+        execl(running.c_str(), "sleep", "60", nullptr);
+        _exit(1);
+    }
+    const auto size = fs::file_size(running);
+    // Until the other process has begun to run the file, it can still be opened; wait without touching it.
+    const std::string image = "/proc/" + std::to_string(other) + "/exe";
+    std::error_code ignored;
+    bool runs = false;
+    for (int wait = 0; wait < 10000 && !runs; ++wait) {
+        usleep(1000);
+        runs = fs::read_symlink(image, ignored) == fs::path(running);
+    }
+    EXPECT_TRUE(runs);
+    EXPECT_EQ(writeReport(running, "x"), WriteResult::PermissionDenied);
+    EXPECT_EQ(fs::file_size(running), size);
+    EXPECT_EQ(lookUpFileName(running), "Mero_běží");
+    kill(other, SIGKILL);
+    waitpid(other, nullptr, 0);
+}
+
+TEST_F(ReportFile, LeavesNoHalfReportWhenTheDiskIsFull) {
+    put(path("Test"), "starý");
+    // The file may grow to 4096 bytes and no further, as on a disk that fills up while it is written.
+    fs::permissions(path("Test"), fs::perms::all);
+    const WriteResult full = inUnprivilegedProcess([&] {
+        const rlimit limit{4096, 4096};
+        std::signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        return writeReport(path("Test"), std::string(100000, 'x'));
+    });
+    EXPECT_EQ(full, WriteResult::Failed);
+    EXPECT_FALSE(fs::exists(path("Test")));
+}
+
+TEST_F(ReportFile, LeavesADeviceThatThePathLeadsTo) {
+    fs::create_symlink("/dev/full", path("Test"));
+    EXPECT_EQ(writeReport(path("Test"), "x"), WriteResult::Failed);
+    EXPECT_TRUE(fs::is_symlink(path("Test")));
+}
+
+TEST_F(ReportFile, IsRemovedWithoutComplaint) {
+    put(path("Test"), "x");
+    removeReport(path("Test"));
+    EXPECT_TRUE(fs::is_empty(folder_));
+    removeReport(path("Test"));
+    removeReport(path(std::string(300, 'n')));
+    removeReport(folder_ + "/není/Mero_");
+}
+
+TEST_F(ReportFile, IsNotRemovedUnderAnEmptyOrCutPath) {
+    put(path("a"), "x");
+    removeReport("");
+    removeReport(path(std::string("a\0b", 3)));
+    EXPECT_TRUE(fs::exists(path("a")));
+}
+
+TEST_F(ReportFile, RemovesNoFolder) {
+    fs::create_directory(path("složka"));
+    removeReport(path("složka"));
+    removeReport(folder_);
+    EXPECT_TRUE(fs::is_directory(path("složka")));
+}
+
+TEST_F(ReportFile, IsLookedUpByItsBareName) {
+    put(path("Test"), "x");
+    fs::create_directory(path("složka"));
+    EXPECT_EQ(lookUpFileName(path("Test")), "Mero_Test");
+    EXPECT_EQ(lookUpFileName(path("není")), "");
+    EXPECT_EQ(lookUpFileName(path("složka")), "");
+    EXPECT_EQ(lookUpFileName(""), "");
+}
+
+}  // namespace
+}  // namespace mero::report
