@@ -1,7 +1,10 @@
 """clang-tidy on the sources under src/, several at a time; a file that passed is remembered until it, a header
-that it includes, its compile command or .clang-tidy changes.
+that it includes, its compile command or .clang-tidy changes. The tests are left out: the analyzer needs up to half
+a minute for each of them.
 
-Use: tidy.py ROOT   (needs ROOT/build/dev/compile_commands.json)
+Use: tidy.py ROOT [SECONDS]   (needs ROOT/build/dev/compile_commands.json)
+
+The newest files come first. After SECONDS no further file is begun; what is left is said and waits for the next call.
 """
 
 import hashlib
@@ -9,6 +12,7 @@ import json
 import os
 import subprocess
 import sys
+import time
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
@@ -37,7 +41,10 @@ def key_of(root: Path, entry: dict) -> str:
     return digest.hexdigest()
 
 
-def tidy(database: Path, file: str) -> subprocess.CompletedProcess:
+def tidy(database: Path, file: str, deadline: float) -> subprocess.CompletedProcess | None:
+    """The finished check of one file, None when there was no time left to begin it."""
+    if time.monotonic() > deadline:
+        return None
     return subprocess.run(
         [CLANG_TIDY, "--quiet", "-p", str(database), file], capture_output=True, text=True, check=False
     )
@@ -45,6 +52,7 @@ def tidy(database: Path, file: str) -> subprocess.CompletedProcess:
 
 def main() -> int:
     root = Path(sys.argv[1]).resolve()
+    deadline = time.monotonic() + (float(sys.argv[2]) if len(sys.argv) > 2 else float("inf"))
     database = root / "build" / "dev"
     entries = json.loads((database / "compile_commands.json").read_text(encoding="utf-8"))
     stamps = root / "build" / "tidy"
@@ -54,14 +62,21 @@ def main() -> int:
     waiting = [file for file, key in keys.items() if not (stamps / key).exists()]
     print(f"tidy: {len(keys)} files, {len(waiting)} new or changed", flush=True)
 
-    failed = 0
+    waiting.sort(key=lambda file: os.stat(file).st_mtime, reverse=True)
+
+    failed = left = 0
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        for file, result in zip(waiting, pool.map(lambda name: tidy(database, name), waiting)):
+        for file, result in zip(waiting, pool.map(lambda name: tidy(database, name, deadline), waiting)):
+            if result is None:
+                left += 1
+                continue
             if result.returncode == 0:
                 (stamps / keys[file]).touch()
                 continue
             failed += 1
             print(f"{Path(file).relative_to(root)}:\n{result.stdout}{result.stderr}", flush=True)
+    if left:
+        print(f"tidy: the time is up; {left} files are left for the next call")
     # What no source has any more is forgotten.
     for stamp in stamps.iterdir():
         if stamp.name not in keys.values():
