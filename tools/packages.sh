@@ -71,7 +71,7 @@ apt() {
         apt-get -qq -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300 "$@" </dev/null >>"$log" 2>&1
 }
 echo "packages: refreshing the package lists"
-apt update || echo "packages: the package lists could not be refreshed; trying with those that are here"
+apt -o APT::Update::Error-Mode=any update || echo "packages: the package lists could not be refreshed; trying with those that are here"
 echo "packages: installing ${names[*]}"
 if ! apt install -y --no-install-recommends "${names[@]}"; then
     tail -n 15 "$log" >&2
