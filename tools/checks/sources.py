@@ -1,0 +1,40 @@
+"""The project's C++ sources as the checks see them: which files there are, their code without comments and
+texts, and what they include."""
+
+import re
+from pathlib import Path
+
+FOLDERS = ("src", "tests", "bench", "fuzz")
+INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<(?P<system>[^>]+)>|"(?P<own>[^"]+)")', re.MULTILINE)
+# In this order, so that what begins first wins: a quote in a comment is no text, slashes in a text no comment.
+# A ' between digits groups them (10'000).
+COMMENT_OR_TEXT = re.compile(
+    r"""
+    //(?:\\\n|[^\n])*
+    | /\*.*?\*/
+    | R"(?P<delimiter>[^()\s\\]{0,16})\(.*?\)(?P=delimiter)"
+    | "(?:\\.|[^"\\\n])*"
+    | (?<![0-9A-Fa-f])'(?:\\.|[^'\\\n])+'
+    """,
+    re.VERBOSE | re.DOTALL,
+)
+
+
+def source_files(root: Path) -> list[Path]:
+    """Every .h and .cpp file of the project, sorted."""
+    found = (path for folder in FOLDERS for path in (root / folder).rglob("*"))
+    return sorted(path for path in found if path.suffix in (".h", ".cpp"))
+
+
+def code_only(text: str) -> str:
+    """The text with comments and texts emptied; every line keeps its number."""
+    return COMMENT_OR_TEXT.sub(lambda match: '""' + "\n" * match.group().count("\n"), text)
+
+
+def includes(text: str) -> list[tuple[int, str, bool]]:
+    """(line, name, own) of every include; `own` when it is written with quotes."""
+    found = []
+    for match in INCLUDE.finditer(text):
+        line = text.count("\n", 0, match.start("own" if match["own"] else "system")) + 1
+        found.append((line, match["own"] or match["system"], match["own"] is not None))
+    return found
