@@ -60,9 +60,13 @@ void storeFiltration(platform::TextBox& box, float& stored) {
         box.setText("");
         return;
     }
-    trapConversion(text, stored, [](const std::string& typed) {
-        return numbers::toSingle(numbers::leadingNumber(typed));
-    });
+    trapConversion(text, stored,
+                   [](const std::string& typed) { return numbers::toSingle(numbers::leadingNumber(typed)); });
+}
+
+bool storeDimension(platform::TextBox& box, float& stored) {
+    storeNumber(box, stored);
+    return box.text().empty();
 }
 
 void formatFiltration(platform::TextBox& box, const float& stored) {

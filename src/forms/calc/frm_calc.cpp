@@ -41,8 +41,10 @@ void frmCalc::bindInputs() {
     txtSelDTrvDeste.changed = [this] { txtSelDTrvDeste_Change(); };
     txtSoucFiltrace.changed = [this] { txtSoucFiltrace_Change(); };
     txtSoucFiltrace.lost_focus = [this] { txtSoucFiltrace_LostFocus(); };
-    cmdEdit.forEach([this](int Index, Button& button) { button.clicked = [this, Index] { cmdEdit_Click(Index); }; });
-    lblOdkaz.forEach([this](int Index, Label& label) { label.clicked = [this, Index] { lblOdkaz_Click(Index); }; });
+    cmdEdit.forEach(
+        [this](int Index, Button& button) { button.clicked = [this, Index] { cmdEdit_Click(Index); }; });
+    lblOdkaz.forEach(
+        [this](int Index, Label& label) { label.clicked = [this, Index] { lblOdkaz_Click(Index); }; });
 }
 
 void frmCalc::bindFacilityInputs() {
@@ -85,23 +87,29 @@ void frmCalc::bindFacilityInputs() {
 }
 
 void frmCalc::bindTypeChoice() {
-    optSelType.forEach(
-        [this](int Index, OptionButton& option) { option.clicked = [this, Index] { optSelType_Click(Index); }; });
+    optSelType.forEach([this](int Index, OptionButton& option) {
+        option.clicked = [this, Index] { optSelType_Click(Index); };
+    });
     cboSelType.clicked = [this] { cboSelType_Click(); };
     cboSelType.got_focus = [this] { cboSelType_GotFocus(); };
-    optSelTypPudy2.forEach(
-        [this](int Index, OptionButton& option) { option.clicked = [this, Index] { optSelTypPudy2_Click(Index); }; });
-    optSelTypPudy3.forEach(
-        [this](int Index, OptionButton& option) { option.clicked = [this, Index] { optSelTypPudy3_Click(Index); }; });
+    optSelTypPudy2.forEach([this](int Index, OptionButton& option) {
+        option.clicked = [this, Index] { optSelTypPudy2_Click(Index); };
+    });
+    optSelTypPudy3.forEach([this](int Index, OptionButton& option) {
+        option.clicked = [this, Index] { optSelTypPudy3_Click(Index); };
+    });
     chkSelPretok.forEach(
         [this](int Index, CheckBox& box) { box.clicked = [this, Index] { chkSelPretok_Click(Index); }; });
-    cmdOK.forEach([this](int Index, Button& button) { button.clicked = [this, Index] { cmdOK_Click(Index); }; });
-    cmdCalcul.forEach([this](int Index, Button& button) { button.clicked = [this, Index] { cmdCalcul_Click(Index); }; });
+    cmdOK.forEach(
+        [this](int Index, Button& button) { button.clicked = [this, Index] { cmdOK_Click(Index); }; });
+    cmdCalcul.forEach(
+        [this](int Index, Button& button) { button.clicked = [this, Index] { cmdCalcul_Click(Index); }; });
 }
 
 void frmCalc::bindShaft() {
-    optSelTypPudy5.forEach(
-        [this](int Index, OptionButton& option) { option.clicked = [this, Index] { optSelTypPudy5_Click(Index); }; });
+    optSelTypPudy5.forEach([this](int Index, OptionButton& option) {
+        option.clicked = [this, Index] { optSelTypPudy5_Click(Index); };
+    });
     optSelTypSachty.forEach(
         [this](int, OptionButton& option) { option.clicked = [this] { optSelTypSachty_Click(); }; });
     cboTypSachty.clicked = [this] { cboTypSachty_Click(); };

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "calc/shaft.h"
+#include "calc/trench_section.h"
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
 #include "forms/calc/frm_calc_controls.h"
@@ -35,10 +37,10 @@ class frmCalc : public frmCalcControls {
     frmCoefDialog coefDialog;
 
     /// Form-level state that the calculation reads.
-    int TypeGroup = 0;      ///< 0 decentralised, 1 centralised
-    int SelectedType = 0;   ///< 0 none, 1 to 6
-    int SoilVariant = 0;    ///< member chosen last in the soil or shaft variant options
-    int ShaftShape = 0;     ///< 0 round, 1 rectangular
+    int TypeGroup = 0;     ///< 0 decentralised, 1 centralised
+    int SelectedType = 0;  ///< 0 none, 1 to 6
+    int SoilVariant = 0;   ///< member chosen last in the soil or shaft variant options
+    int ShaftShape = 0;    ///< 0 round, 1 rectangular
 
     // Start and end.
     void Form_Load();
@@ -106,11 +108,31 @@ class frmCalc : public frmCalcControls {
     void message(const std::string& text, platform::MessageIcon icon);
     void error(const std::string& text);
     void hideResultPanels();
-    [[nodiscard]] bool refusesMissingInputs();
+    /// Tells the user of a missing drained area or filtration coefficient; true when one is missing.
+    bool refusesMissingInputs();
 
+    // CalcInfiltArea, type by type.
     void calcSurface();
     void calcSwaleArea();
     void calcSwaleTrenchArea();
+    void calcTrenchArea();
+    void calcShaftBalance();
+    // CalcDesign, type by type.
+    void designSwale();
+    void designSwaleTrench();
+    void judgeSwaleTrenchArea();
+    void designTrench();
+    void judgeDrainOutflow();
+    void designShaft();
+    void designTank();
+    void showStorageCoefficient();
+
+    [[nodiscard]] calc::shaft::Balance shaftBalance() const;
+    [[nodiscard]] calc::TrenchSection trenchSection() const;
+    /// Index of the selected soil option, -1 when none is.
+    [[nodiscard]] static int soilOption(const ControlArray<OptionButton>& options);
+    void fillShaftList();
+    void recomputeShaftDiameters();
 
     void enterTechnologyTab(int previous_tab);
     void enterResultsTab(int previous_tab);

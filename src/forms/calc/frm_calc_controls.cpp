@@ -99,6 +99,7 @@ void frmCalcControls::addSubPanels() {
 }
 
 void frmCalcControls::setInitialState() {
+    txtDetails.setMultiLine(true);
     cboSelType.setEnabled(false);
     picResults.forEach([](int, Panel& panel) { panel.hide(); });
     picPretokSkrOdtok.forEach([](int, Panel& panel) { panel.hide(); });

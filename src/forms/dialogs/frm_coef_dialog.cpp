@@ -17,7 +17,9 @@ constexpr int kChoiceColumn = 2;
 
 frmCoefDialog::frmCoefDialog(platform::Form& main, platform::Desk& desk, data::modPublicVariables& values,
                              Target target)
-    : Dialog("frmCoefDialog", "Součinitel filtrace", main, desk), values_(&values), target_(std::move(target)) {
+    : Dialog("frmCoefDialog", "Součinitel filtrace", main, desk),
+      values_(&values),
+      target_(std::move(target)) {
     fgCoefProp.cell_changed = [this](platform::GridCell left) {
         if (left.column == kChoiceColumn && fgCoefProp.hasDataCell(left)) {
             fgCoefProp.setMark(left, false);
@@ -44,7 +46,8 @@ void frmCoefDialog::fgCoefProp_Click() {
     }
     const platform::GridCell cell = fgCoefProp.current();
     fgCoefProp.setMark(cell, true);
-    values_->txtSoucFiltrace = numbers::toSingle(values_->SoucFiltracePudy.at(static_cast<std::size_t>(cell.row) - 1));
+    values_->txtSoucFiltrace =
+        numbers::toSingle(values_->SoucFiltracePudy.at(static_cast<std::size_t>(cell.row) - 1));
     cmdOK.setEnabled(true);
 }
 

@@ -21,7 +21,8 @@ class frmCoefDialog : public Dialog {
         std::function<void()> RebuildCalc;
     };
 
-    frmCoefDialog(platform::Form& main, platform::Desk& desk, data::modPublicVariables& values, Target target);
+    frmCoefDialog(platform::Form& main, platform::Desk& desk, data::modPublicVariables& values,
+                  Target target);
 
     platform::Grid fgCoefProp{*this, "fgCoefProp"};
     platform::Button cmdOK{*this, "cmdOK", "OK"};

@@ -13,7 +13,8 @@ constexpr int kChoiceColumn = 3;
 
 }  // namespace
 
-frmDialog::frmDialog(platform::Form& main, platform::Desk& desk, data::modPublicVariables& values, Target target)
+frmDialog::frmDialog(platform::Form& main, platform::Desk& desk, data::modPublicVariables& values,
+                     Target target)
     : Dialog("frmDialog", "Střední odtokový součinitel", main, desk), values_(&values), target_(target) {
     fgSoucPovrchOdtok.cell_changed = [this](platform::GridCell left) {
         if (left.column == kChoiceColumn && fgSoucPovrchOdtok.hasDataCell(left)) {

@@ -47,8 +47,8 @@ void frmDialog::RefreshEntryTable() {
 void frmDialog::SumReducedArea() {
     values_->RedukovanaPlocha = 0;
     for (int i = 1; i <= entryCount(); ++i) {
-        values_->RedukovanaPlocha = calc::addPartialArea(values_->RedukovanaPlocha, values_->OdtokovySoucinitel(i),
-                                                         values_->DilciPlocha(i));
+        values_->RedukovanaPlocha = calc::addPartialArea(
+            values_->RedukovanaPlocha, values_->OdtokovySoucinitel(i), values_->DilciPlocha(i));
     }
     txtOdvodNepPlocha.setText(numbers::general(values_->RedukovanaPlocha));
 }

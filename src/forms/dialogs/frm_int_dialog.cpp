@@ -54,6 +54,7 @@ frmIntDialog::frmIntDialog(platform::Form& main, platform::Desk& desk, data::mod
     cmdOK.clicked = [this] { cmdOK_Click(); };
     cmdEdit.clicked = [this] { cmdEdit_Click(); };
     cmdCloseHelp.clicked = [this] { cmdCloseHelp_Click(); };
+    txtHelp.setMultiLine(true);
     cmdCloseHelp_Click();
     lblDemo.hide();
 }
@@ -157,9 +158,10 @@ bool frmIntDialog::noIntensities() const {
 
 void frmIntDialog::cmdOK_Click() {
     if (noIntensities()) {
-        desk().showMessage({"Nejsou zadány žádné intenzity deště. Vyberte dešťoměrnou stanici, nebo zadejte "
-                            "hodnoty ručně.",
-                            platform::MessageIcon::Critical});
+        desk().showMessage(
+            {"Nejsou zadány žádné intenzity deště. Vyberte dešťoměrnou stanici, nebo zadejte "
+             "hodnoty ručně.",
+             platform::MessageIcon::Critical});
         return;
     }
     if (values_->VybranaIntenzita > 0) {

@@ -17,9 +17,27 @@ void TextBox::showText(std::string text) {
 }
 
 void TextBox::userEdit(const std::string& text) {
-    if (text != text_) {
-        setText(text);
+    std::string entered = accepted(text);
+    if (entered != text_) {
+        setText(std::move(entered));
     }
+}
+
+std::string TextBox::accepted(const std::string& text) const {
+    std::string entered;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        const bool line_break = c == '\n' || c == '\r';
+        if (line_break && multi_line_) {
+            entered += "\r\n";
+            if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+                ++i;
+            }
+        } else if (static_cast<unsigned char>(c) >= ' ' || (c == '\t' && multi_line_)) {
+            entered += c;
+        }
+    }
+    return entered;
 }
 
 void TextBox::setGreyed(bool greyed) {

@@ -24,8 +24,15 @@ class TextBox : public Control {
     void setText(std::string text);
     /// Shows a text without running the change handler (the opening text of the cell editor).
     void showText(std::string text);
-    /// The user makes the text `text`: the change handler runs when it differs.
+    /// The user makes the text `text`: the change handler runs when it differs. Line breaks become "\r\n";
+    /// a single-line box takes no control characters.
     void userEdit(const std::string& text);
+    /// What of `text` the box takes when a user enters it.
+    [[nodiscard]] std::string accepted(const std::string& text) const;
+
+    [[nodiscard]] bool multiLine() const { return multi_line_; }
+    /// Set while the form is built.
+    void setMultiLine(bool multi_line) { multi_line_ = multi_line; }
 
     [[nodiscard]] bool greyed() const { return greyed_; }
     /// Button-face background instead of the normal window background.
@@ -43,6 +50,7 @@ class TextBox : public Control {
   private:
     std::string text_;
     bool greyed_ = false;
+    bool multi_line_ = false;
 };
 
 }  // namespace mero::platform

@@ -1,0 +1,67 @@
+/// Start, events and end of a running program.
+/// Whatever ends it, the same clean-up runs: separators restored, report file deleted.
+#include "forms/calc/program.h"
+
+namespace mero::forms {
+
+Program::Program(const Surroundings& surroundings)
+    : desk_(&surroundings.desk), window_(values_, surroundings) {
+    window_.close_requested = [this] { close(); };
+}
+
+void Program::start() {
+    enter([this] {
+        window_.Form_Load();
+        window_.show();
+    });
+}
+
+void Program::enter(const std::function<void()>& event) {
+    if (ended_) {
+        return;
+    }
+    try {
+        event();
+    } catch (const RuntimeError& error) {
+        desk_->reportError(error);
+        if (error.endsProgram()) {
+            end(1);
+        }
+    }
+}
+
+void Program::close() {
+    end(0);
+}
+
+void Program::end(int exit_status) {
+    if (ended_) {
+        return;
+    }
+    ended_ = true;
+    exit_status_ = exit_status;
+    window_.Form_QueryUnload();
+    for (platform::Form* form : forms()) {
+        form->hide();
+    }
+    desk_->formClosed(window_.name());
+    desk_->ended();
+    if (on_ended) {
+        on_ended();
+    }
+}
+
+platform::Form* Program::form(std::string_view name) {
+    for (platform::Form* form : forms()) {
+        if (form->name() == name) {
+            return form;
+        }
+    }
+    return nullptr;
+}
+
+std::vector<platform::Form*> Program::forms() {
+    return {&window_, &window_.intDialog, &window_.areaDialog, &window_.coefDialog};
+}
+
+}  // namespace mero::forms

@@ -1,0 +1,106 @@
+/// The tabs of the main window, the report and the description pages.
+/// The report is rebuilt from the current values whenever the results tab is entered.
+#include "forms/calc/frm_calc.h"
+#include "forms/calc/report_data.h"
+#include "report/documents.h"
+#include "report/html_report.h"
+#include "report/report_file.h"
+#include "report/saved_copy.h"
+
+namespace mero::forms {
+namespace {
+
+/// Replaces every CR LF pair by a line-break tag.
+std::string withBreakTags(std::string text) {
+    constexpr std::string_view kLineEnd = "\r\n";
+    constexpr std::string_view kTag = "<br>";
+    for (std::size_t at = text.find(kLineEnd); at != std::string::npos;
+         at = text.find(kLineEnd, at + kTag.size())) {
+        text.replace(at, kLineEnd.size(), kTag);
+    }
+    return text;
+}
+
+}  // namespace
+
+void frmCalc::SSTab1_Click(int PreviousTab) {
+    switch (SSTab1.position()) {
+        case kTabDesign:
+            report::removeReport(values_->ResultsFilePath);
+            break;
+        case kTabTechnology:
+            enterTechnologyTab(PreviousTab);
+            break;
+        case kTabResults:
+            enterResultsTab(PreviousTab);
+            break;
+        default:
+            break;
+    }
+}
+
+void frmCalc::refuseTab(int previous_tab) {
+    SSTab1.setPosition(previous_tab);
+    message("Není vybrána technologie", platform::MessageIcon::Exclamation);
+}
+
+void frmCalc::enterTechnologyTab(int previous_tab) {
+    wbShowPopisTech.hide();
+    if (SelectedType < kSurface) {
+        refuseTab(previous_tab);
+        return;
+    }
+    const std::string page = report::descriptionPagePath(folder_, SelectedType);
+    wbShowPopisTech.navigate(page);
+    desk_->navigated(wbShowPopisTech.name(), page);
+    wbShowPopisTech.show();
+}
+
+void frmCalc::enterResultsTab(int previous_tab) {
+    wbShowResults.hide();
+    cmdSaveResults.hide();
+    cmdPrint.hide();
+    cmdPrint.setEnabled(true);
+    if (SelectedType < kSurface) {
+        refuseTab(previous_tab);
+        return;
+    }
+    values_->ResultsFilePath = report::reportPath(folder_, values_->txtProjName);
+    BuildResultsHtml();
+    wbShowResults.navigate(values_->ResultsFilePath);
+    desk_->navigated(wbShowResults.name(), values_->ResultsFilePath);
+    wbShowResults.show();
+    cmdSaveResults.show();
+    cmdPrint.show();
+}
+
+void frmCalc::BuildResultsHtml() {
+    if (values_->ResultsFilePath.empty()) {
+        return;
+    }
+    // The description keeps the tags from now on.
+    values_->txtDetails = withBreakTags(values_->txtDetails);
+    const std::string html = report::htmlReport(reportData(*this, clock_->now()));
+    if (report::writeReport(values_->ResultsFilePath, html) == report::WriteResult::PermissionDenied) {
+        values_->ResultsFileName = report::lookUpFileName(values_->ResultsFilePath);
+        error("Soubor " + values_->ResultsFileName + " je otevřený jinou aplikací.");
+    }
+}
+
+void frmCalc::cmdSaveResults_Click() {
+    cmdSaveResults.setEnabled(false);
+    if (const auto path = desk_->askSavePath(values_->ResultsFilePath + ".html")) {
+        if (report::saveCopy(values_->ResultsFilePath, folder_, *path)) {
+            desk_->saved(*path);
+        } else {
+            error("Zprávu se nepodařilo uložit do souboru " + *path + ".");
+        }
+    }
+    cmdSaveResults.setEnabled(true);
+}
+
+void frmCalc::cmdPrint_Click() {
+    desk_->openPrintPreview(values_->ResultsFilePath);
+}
+
+}  // namespace mero::forms
