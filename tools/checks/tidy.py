@@ -1,6 +1,6 @@
 """clang-tidy on the sources under src/, several at a time; a file that passed is remembered until it, a header
-that it includes, its compile command, .clang-tidy or this file changes. The tests are left out: the analyzer needs up to half
-a minute for each of them.
+that it includes, its compile command, .clang-tidy or this file changes. The tests are left out: the analyzer needs up
+to half a minute for each of them.
 
 Use: tidy.py ROOT [SECONDS]   (needs ROOT/build/dev/compile_commands.json)
 
