@@ -195,12 +195,12 @@ def shaft():
     for x1, x2 in ((left - wall - 4, left - wall - 24), (right + wall + 4, right + wall + 16)):
         c.flow((x1, 232), (x2, 232))
     c.across(left, right, 392, "DN $D_i$", reach=(bottom, bottom), below=True)
-    c.across(left - wall, right + wall, 436, "vnější průměr $D_a = D_i$ + 2 $t$",
+    c.across(left - wall, right + wall, 436, "vnější průměr $D_a = D_i$ + 2 $t_s$",
              reach=(bottom, bottom), below=True)
-    c.note((left - 8, 334), (196, 372), "Tloušťka stěny $t$", align="right", backed=True)
+    c.note((left - 8, 334), (196, 372), "Tloušťka stěny $t_s$", align="right", backed=True)
     groundwater(c, water_table, mark_x=120)
     c.text(24, 544, "Součinitel filtrace podloží $k_f$", backed=True)
-    c.text(24, 574, "Pravoúhlá šachta: DN / Šířka $a$, Délka $b$, Tloušťka $t$; počítá se s náhradními "
+    c.text(24, 574, "Pravoúhlá šachta: DN / Šířka $a$, Délka $b$, Tloušťka $t_s$; počítá se s náhradními "
            "průměry.", backed=True)
     return c
 
