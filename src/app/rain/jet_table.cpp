@@ -79,10 +79,16 @@ RowExtent lastRow(const MdbTableDef& table, MdbHandle& handle) {
     return row;
 }
 
+/// The library takes a Decimal's precision for its scale and the other way round; the scale is never the
+/// larger.
+int decimalsOf(const MdbColumn& column) {
+    return std::min(column.col_scale, column.col_prec);
+}
+
 StationTable::Value valueOf(const Field& field, const RowExtent& row, const MdbHandle& handle) {
     const int start = field.column->cur_value_start;
     const int length = field.column->cur_value_len;
-    if (length == 0) {
+    if (length == 0 || field.type == FieldType::Other) {
         return std::nullopt;
     }
     if (start < row.start || length < 0 ||
@@ -92,7 +98,7 @@ StationTable::Value valueOf(const Field& field, const RowExtent& row, const MdbH
     const std::span page(std::as_const(handle.pg_buf));
     return numberOf(field.type,
                     page.subspan(static_cast<std::size_t>(start), static_cast<std::size_t>(length)),
-                    field.column->col_scale);
+                    decimalsOf(*field.column));
 }
 
 bool isPageOf(const MdbTableDef& table, MdbHandle& handle) {
