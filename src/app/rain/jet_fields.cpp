@@ -89,15 +89,15 @@ int fieldsEver(const MdbTableDef& table, MdbHandle& handle) {
 
 }  // namespace
 
-std::vector<Field> readFields(MdbTableDef& table, MdbHandle& handle) {
+Fields readFields(MdbTableDef& table, MdbHandle& handle) {
     if (::mdb_read_columns(&table) == nullptr || table.columns->len != table.num_cols) {
         failRead("the fields cannot be read");
     }
-    const int fields_ever = fieldsEver(table, handle);
-    std::vector<Field> fields;
+    Fields fields;
+    fields.ever = fieldsEver(table, handle);
     Shares bytes(MDB_PGSIZE);
-    Shares places(fields_ever);
-    Shares numbers(fields_ever);
+    Shares places(fields.ever);
+    Shares numbers(fields.ever);
     for (const MdbColumn* column : elementsOf<MdbColumn>(*table.columns)) {
         const Field field{column, typeOf(*column, handle.f->jet_version != MDB_VER_JET3)};
         const bool has_own_bytes = column->is_fixed != 0 && column->col_type != MDB_BOOL;
@@ -106,7 +106,7 @@ std::vector<Field> readFields(MdbTableDef& table, MdbHandle& handle) {
             (has_own_bytes && !bytes.take(column->fixed_offset, column->col_size))) {
             failRead(std::string("the field is not where or what it can be: ") + column->name);
         }
-        fields.push_back(field);
+        fields.present.push_back(field);
     }
     return fields;
 }

@@ -21,11 +21,17 @@ struct Field {
     FieldType type = FieldType::Other;
 };
 
-/// The fields in the table's order.
+/// A table's fields in its own order.
+struct Fields {
+    std::vector<Field> present;
+    int ever = 0;  ///< deleted ones included; no row has more
+};
+
+/// Reads the table's header.
 /// @throws TableError ReadFailed when a field overlaps another, has another size than its type, or is of no
 /// known
 ///         type
-[[nodiscard]] std::vector<Field> readFields(MdbTableDef& table, MdbHandle& handle);
+[[nodiscard]] Fields readFields(MdbTableDef& table, MdbHandle& handle);
 
 /// The elements of one of the library's arrays of pointers.
 template <typename Element>

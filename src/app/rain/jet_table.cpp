@@ -3,9 +3,12 @@
 #include "app/rain/jet_table.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <filesystem>
 #include <iterator>
 #include <memory>
 #include <span>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -38,6 +41,12 @@ Handle open(const std::string& path) {
     if (!handle || ::mdb_read_catalog(handle.get(), MDB_TABLE) == nullptr) {
         throw TableError(ReaderExit::CannotOpen, "not a database that can be read: " + path);
     }
+    // The library fills a page that is cut with zeros, which read as nulls.
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    if (error || size % static_cast<std::uintmax_t>(handle->fmt->pg_size) != 0) {
+        failRead("the file ends within a page");
+    }
     return handle;
 }
 
@@ -67,7 +76,7 @@ struct RowExtent {
     std::size_t length = 0;
 };
 
-RowExtent lastRow(const MdbTableDef& table, MdbHandle& handle) {
+RowExtent lastRow(const MdbTableDef& table, MdbHandle& handle, int fields_ever) {
     RowExtent row;
     const bool found =
         ::mdb_find_row(&handle, static_cast<int>(table.cur_row) - 1, &row.start, &row.length) == 0;
@@ -75,6 +84,12 @@ RowExtent lastRow(const MdbTableDef& table, MdbHandle& handle) {
     if (!found || std::cmp_greater(row.length, std::size(handle.pg_buf)) ||
         std::cmp_greater(row.start, std::size(handle.pg_buf) - row.length)) {
         failRead("a row lies outside its page");
+    }
+    const bool has_narrow_count = handle.f->jet_version == MDB_VER_JET3;
+    const int fields =
+        has_narrow_count ? ::mdb_pg_get_byte(&handle, row.start) : ::mdb_pg_get_int16(&handle, row.start);
+    if (fields < 1 || fields > fields_ever) {
+        failRead("a row has another number of fields than its table");
     }
     return row;
 }
@@ -121,8 +136,8 @@ StationTable readTable(const std::string& path, const std::string& table_name) {
     if (!table) {
         failRead("the table's header cannot be read");
     }
-    const std::vector<Field> fields = readFields(*table, *handle);
-    for (const Field& field : fields) {
+    const Fields fields = readFields(*table, *handle);
+    for (const Field& field : fields.present) {
         result.columns.emplace_back(field.column->name);
     }
     ::mdb_rewind_table(table.get());
@@ -130,9 +145,9 @@ StationTable readTable(const std::string& path, const std::string& table_name) {
         if (!isPageOf(*table, *handle)) {
             failRead("a row lies on a page of another table");
         }
-        const RowExtent extent = lastRow(*table, *handle);
+        const RowExtent extent = lastRow(*table, *handle, fields.ever);
         auto& row = result.rows.emplace_back();
-        for (const Field& field : fields) {
+        for (const Field& field : fields.present) {
             row.push_back(valueOf(field, extent, *handle));
         }
     }
