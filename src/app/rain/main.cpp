@@ -11,6 +11,7 @@
 
 #include "app/rain/jet_table.h"
 #include "app/rain/limits.h"
+#include "app/rain/table_error.h"
 #include "data/rain_protocol.h"
 
 namespace {
