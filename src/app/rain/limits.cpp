@@ -13,9 +13,10 @@
 namespace mero::rain {
 namespace {
 
+constexpr int kFirstFreeDescriptor = STDERR_FILENO + 1;
 constexpr rlim_t kProcessorSeconds = 2;
 // The library itself takes a few MiB; a damaged length field asks for gigabytes.
-constexpr rlim_t kMemoryBytes = 256U << 20U;
+constexpr rlim_t kMemoryBytes = 128U << 20U;
 
 void limit(decltype(RLIMIT_CORE) resource, rlim_t most) {
     const rlimit bound{most, most};
@@ -37,14 +38,18 @@ void setLimits() {
     }
 }
 
-int takeStandardOutput() {
-    const int kept = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
+Streams takeStandardStreams() {
+    const Streams streams{::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, kFirstFreeDescriptor),
+                          ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, kFirstFreeDescriptor)};
     const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-    if (nowhere >= 0 && nowhere != STDOUT_FILENO) {
+    if (nowhere >= 0) {
         ::dup2(nowhere, STDOUT_FILENO);
+        ::dup2(nowhere, STDERR_FILENO);
+    }
+    if (nowhere >= kFirstFreeDescriptor) {
         ::close(nowhere);
     }
-    return kept;
+    return streams;
 }
 
 }  // namespace mero::rain
