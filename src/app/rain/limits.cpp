@@ -17,6 +17,11 @@ constexpr int kFirstFreeDescriptor = STDERR_FILENO + 1;
 constexpr rlim_t kProcessorSeconds = 2;
 // The library itself takes a few MiB; a damaged length field asks for gigabytes.
 constexpr rlim_t kMemoryBytes = 128U << 20U;
+#ifdef MERO_SANITIZED
+constexpr bool kLimitsMemory = false;
+#else
+constexpr bool kLimitsMemory = true;
+#endif
 
 void limit(decltype(RLIMIT_CORE) resource, rlim_t most) {
     const rlimit bound{most, most};
@@ -28,11 +33,9 @@ void limit(decltype(RLIMIT_CORE) resource, rlim_t most) {
 void setLimits() {
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_CPU, kProcessorSeconds);
-#if !defined(__SANITIZE_ADDRESS__) && !defined(MERO_SANITIZED)
-    limit(RLIMIT_AS, kMemoryBytes);
-#else
-    static_cast<void>(kMemoryBytes);  // the sanitizer reserves terabytes of addresses
-#endif
+    if (kLimitsMemory) {
+        limit(RLIMIT_AS, kMemoryBytes);
+    }
     for (const char* variable : data::kLibraryVariables) {
         ::unsetenv(variable);
     }
