@@ -47,7 +47,7 @@ class TemporaryFolder {
 
     /// Writes a shell script that stands in for the reader.
     [[nodiscard]] std::string script(const std::string& commands) const {
-        const std::string path = write("reader", "#!/bin/sh\n" + commands + "\n");
+        std::string path = write("reader", "#!/bin/sh\n" + commands + "\n");
         std::filesystem::permissions(path, std::filesystem::perms::owner_all);
         return path;
     }

@@ -15,6 +15,10 @@ expect() {
         echo "exit status $status, expected $1: $2 $3"
         failures=1
     fi
+    if [ "$(wc -l <"$work/err")" -ne $((status != 0)) ]; then
+        echo "not one line for one failure: $(head -c 200 "$work/err")"
+        failures=1
+    fi
     if [ "$status" -ne 0 ] && [ -s "$work/out" ]; then
         echo "a failed read printed: $(head -c 200 "$work/out")"
         failures=1
