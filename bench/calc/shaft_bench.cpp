@@ -15,10 +15,7 @@ constexpr float kFilterLayer = 0.5F;
 constexpr float kSeepagePath = 1.5F;
 
 void ShaftDesign(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const shaft::Balance balance{
             .reduced_area_m2 = site.reduced_area_m2,
             .filtration_m_s = site.filtration_m_s,
@@ -35,16 +32,12 @@ void ShaftDesign(benchmark::State& state) {
         benchmark::DoNotOptimize(shaft::storageVolume(balance, area, found.rain.value_or(Rain{})));
         benchmark::DoNotOptimize(
             shaft::requiredFilterPermeability(level, balance.shafts, site.filtration_m_s));
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(ShaftDesign);
 
 void ShaftDesignByHand(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const double area = site.reduced_area_m2;
         const double kf = site.filtration_m_s;
         const double factor = site.safety_factor;
@@ -81,8 +74,7 @@ void ShaftDesignByHand(benchmark::State& state) {
                                static_cast<double>(rain.duration_min) * factor));
         benchmark::DoNotOptimize(static_cast<float>((one_outer * one_outer + 2.0 * level * one_outer) /
                                                     (one_inner * one_inner) * kf));
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(ShaftDesignByHand);
 

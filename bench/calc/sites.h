@@ -2,6 +2,8 @@
 /// Each benchmark stands beside a loop of the same formulas written by hand without checks.
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <array>
 #include <cstddef>
 
@@ -41,6 +43,17 @@ inline std::array<Site, kSites> makeSites() {
         }
     }
     return sites;
+}
+
+/// Runs `design` over the sites, one per iteration.
+template <typename Design>
+void overSites(benchmark::State& state, Design design) {
+    const auto sites = makeSites();
+    std::size_t n = 0;
+    for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores): how the library counts
+        design(sites[n++ % kSites]);
+    }
+    state.SetItemsProcessed(state.iterations());
 }
 
 /// What the hand-written loops give back: the maximum and its row, -1 for none.

@@ -11,10 +11,7 @@ namespace mero::calc::bench {
 namespace {
 
 void SwaleDesign(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const float area = swale::startingArea(site.reduced_area_m2, 0, 0.0F);
         const CriticalRain storage = swale::storageVolume({.reduced_area_m2 = site.reduced_area_m2,
                                                            .infiltration_area_m2 = area,
@@ -24,16 +21,12 @@ void SwaleDesign(benchmark::State& state) {
         const float depth = swale::pondingDepth(numbers::toSingle(storage.maximum), area);
         benchmark::DoNotOptimize(storage);
         benchmark::DoNotOptimize(swale::emptyingTimeHours(depth, site.filtration_m_s));
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(SwaleDesign);
 
 void SwaleDesignByHand(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const auto area = static_cast<float>(0.1 * static_cast<double>(site.reduced_area_m2));
         const double collected =
             (static_cast<double>(site.reduced_area_m2) + static_cast<double>(area)) * 1e-7;
@@ -53,8 +46,7 @@ void SwaleDesignByHand(benchmark::State& state) {
         benchmark::DoNotOptimize(found);
         benchmark::DoNotOptimize(static_cast<float>(2.0 * static_cast<double>(depth) /
                                                     static_cast<double>(site.filtration_m_s) / 3600.0));
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(SwaleDesignByHand);
 

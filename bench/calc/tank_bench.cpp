@@ -15,10 +15,7 @@ constexpr float kSpecificIntensity = 5.0F;
 constexpr float kSlope = 1.5F;
 
 void TankDesign(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const float flow = tank::infiltrationFlow(kSpecificIntensity, site.reduced_area_m2);
         benchmark::DoNotOptimize(tank::requiredStorage({.reduced_area_m2 = site.reduced_area_m2,
                                                         .infiltration_flow_m3_s = flow,
@@ -33,16 +30,12 @@ void TankDesign(benchmark::State& state) {
         const double mean_flow =
             tank::meanInfiltrationFlow(shape, tank::effectiveFiltration(site.filtration_m_s, false));
         benchmark::DoNotOptimize(tank::judgeInfiltration(mean_flow, flow));
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(TankDesign);
 
 void TankDesignByHand(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const double area = site.reduced_area_m2;
         const double factor = site.safety_factor;
         const auto stored_flow = static_cast<float>(1e-7 * static_cast<double>(kSpecificIntensity) * area);
@@ -69,8 +62,7 @@ void TankDesignByHand(benchmark::State& state) {
         const double kf = static_cast<double>(site.filtration_m_s) / 5.0;
         benchmark::DoNotOptimize((width * length * kf / 2.0 + top_width * top_length * kf / 2.0) / 2.0 >=
                                  flow);
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(TankDesignByHand);
 

@@ -15,10 +15,7 @@ constexpr float kPorosity = 0.35F;
 constexpr float kSwaleVolume = 5.0F;
 
 void TrenchDesign(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const trench::Balance balance{.reduced_area_m2 = site.reduced_area_m2,
                                       .safety_factor = site.safety_factor,
                                       .section = {.width_m = site.width_m,
@@ -29,16 +26,12 @@ void TrenchDesign(benchmark::State& state) {
         const float length = numbers::toSingle(found.maximum);
         benchmark::DoNotOptimize(trench::storageVolume(balance, length, found.rain.value_or(Rain{})));
         benchmark::DoNotOptimize(trench::infiltrationArea(site.height_m, site.width_m, length));
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(TrenchDesign);
 
 void TrenchDesignByHand(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const double area = site.reduced_area_m2;
         const double factor = site.safety_factor;
         const double width = site.width_m;
@@ -66,16 +59,12 @@ void TrenchDesignByHand(benchmark::State& state) {
                               static_cast<double>(rain.duration_min) * 60.0 * factor;
         benchmark::DoNotOptimize(static_cast<float>(volume));
         benchmark::DoNotOptimize(static_cast<float>((height / 2.0 + width) * length));
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(TrenchDesignByHand);
 
 void CombinedLength(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         benchmark::DoNotOptimize(
             swale_trench::trenchLength({.reduced_area_m2 = site.reduced_area_m2,
                                         .infiltration_area_m2 = site.reduced_area_m2 * 0.125F,
@@ -87,16 +76,12 @@ void CombinedLength(benchmark::State& state) {
                                                    .storage_coefficient = kPorosity,
                                                    .filtration_m_s = site.filtration_m_s}},
                                        site.rains));
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(CombinedLength);
 
 void CombinedLengthByHand(benchmark::State& state) {
-    const auto sites = makeSites();
-    std::size_t n = 0;
-    for (auto _ : state) {
-        const Site& site = sites[n++ % kSites];
+    overSites(state, [](const Site& site) {
         const double factor = site.safety_factor;
         const double width = site.width_m;
         const double height = site.height_m;
@@ -120,8 +105,7 @@ void CombinedLengthByHand(benchmark::State& state) {
             }
         }
         benchmark::DoNotOptimize(found);
-    }
-    state.SetItemsProcessed(state.iterations());
+    });
 }
 BENCHMARK(CombinedLengthByHand);
 

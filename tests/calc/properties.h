@@ -65,10 +65,10 @@ inline float filtration() {
 /// Nine rows; one in five has no duration, as in a table that is only partly read.
 inline Table rains() {
     Table table{};
-    for (std::size_t k = 0; k < table.size(); ++k) {
+    for (Rain& rain : table) {
         const bool empty = *rc::gen::inRange(0, 5) == 0;
-        table[k] = {.duration_min = empty ? 0.0F : number(1.0, 180.0, 0.5),
-                    .intensity_l_s_ha = number(0.0, 500.0, 0.1)};
+        rain.duration_min = empty ? 0.0F : number(1.0, 180.0, 0.5);
+        rain.intensity_l_s_ha = number(0.0, 500.0, 0.1);
     }
     return table;
 }
