@@ -23,12 +23,10 @@ namespace mero::numbers {
 /// dividend / divisor.
 /// @throws RuntimeError DivisionByZero when the divisor is 0, Overflow when the quotient is not finite
 [[nodiscard]] inline double divide(double dividend, double divisor) {
-    if (divisor == 0.0) {
-        throw RuntimeError(ErrorNumber::DivisionByZero);
-    }
+    // One test for the usual case: whatever goes wrong gives a quotient that is not finite.
     const double quotient = dividend / divisor;
     if (!std::isfinite(quotient)) {
-        throw RuntimeError(ErrorNumber::Overflow);
+        throw RuntimeError(divisor == 0.0 ? ErrorNumber::DivisionByZero : ErrorNumber::Overflow);
     }
     return quotient;
 }
