@@ -114,6 +114,10 @@ void FieldGrid::beside(QWidget& widget) {
     grid_->addWidget(&widget, row_ - 1, kBeside);
 }
 
+void FieldGrid::besideField(QWidget& widget) {
+    grid_->addWidget(&widget, row_ - 1, kUnit, Qt::AlignLeft | Qt::AlignVCenter);
+}
+
 void FieldGrid::line(QWidget& widget) {
     grid_->addWidget(&widget, row_, kCaption, 1, kRest + 1, Qt::AlignLeft | Qt::AlignVCenter);
     ++row_;

@@ -27,6 +27,8 @@ class FieldGrid {
     void widget(const QString& caption, QWidget& widget);
     /// A widget on the right of the last row.
     void beside(QWidget& widget);
+    /// A widget in place of the last row's unit.
+    void besideField(QWidget& widget);
     /// A widget as wide as its contents, over all columns.
     void line(QWidget& widget);
     /// A widget over all columns.

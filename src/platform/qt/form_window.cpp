@@ -56,8 +56,8 @@ void FormWindow::showForm() {
     show();
     raise();
     activateWindow();
-    if (QWidget* field = firstField(); field != nullptr) {
-        field->setFocus(Qt::OtherFocusReason);
+    if (focusWidget() == nullptr) {
+        focusNextChild();
     }
 }
 

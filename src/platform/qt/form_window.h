@@ -17,8 +17,6 @@ class FormWindow : public QWidget {
   protected:
     /// Puts the widgets into `content`, which is disabled while the form is.
     virtual void build(QWidget& content) = 0;
-    /// The widget that has the focus when the window opens; null leaves it to the order of the widgets.
-    [[nodiscard]] virtual QWidget* firstField() const { return nullptr; }
 
     [[nodiscard]] WidgetKit& kit() const { return *kit_; }
 
