@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calc/critical_rain.h"
+#include "platform/numbers/checked.h"
 
 namespace mero::calc::swale {
 
@@ -12,7 +13,17 @@ namespace mero::calc::swale {
 /// @param previous_area_m2 the area stored before, kept for any other soil option [m2]
 /// @return infiltration area [m2]; the field that shows it stores it back with one decimal
 /// @throws RuntimeError Overflow
-[[nodiscard]] float startingArea(float reduced_area_m2, int soil_option, float previous_area_m2);
+[[nodiscard]] inline float startingArea(float reduced_area_m2, int soil_option, float previous_area_m2) {
+    const double area = reduced_area_m2;
+    switch (soil_option) {
+        case 0:
+            return numbers::toSingle(0.1 * area);
+        case 1:
+            return numbers::toSingle(0.2 * area);
+        default:
+            return previous_area_m2;
+    }
+}
 
 /// What the water balance of a swale depends on.
 struct Balance {
@@ -26,17 +37,35 @@ struct Balance {
 /// soaks away through half the saturated conductivity, over the rain's duration times the safety factor.
 /// All nine rows take part, those with a negative duration too.
 /// @return volume [m3] and the critical rain; 0 and none when the soil keeps up with every rain
-[[nodiscard]] CriticalRain storageVolume(const Balance& balance, RainTable rains);
+[[nodiscard]] inline CriticalRain storageVolume(const Balance& balance, RainTable rains) {
+    const double reduced_area = balance.reduced_area_m2;
+    const double infiltration_area = balance.infiltration_area_m2;
+    const double filtration = balance.filtration_m_s;
+    const double safety_factor = balance.safety_factor;
+
+    const double collected = (reduced_area + infiltration_area) * kRatePerIntensity;
+    const double soaked_m3_s = infiltration_area * filtration / 2.0;
+    return findCriticalRain<Rows::All>(rains, [=](const Rain& rain) {
+        const double intensity = rain.intensity_l_s_ha;
+        const double duration = rain.duration_min;
+        return (collected * intensity - soaked_m3_s) * duration * kSecondsPerMinute * safety_factor;
+    });
+}
 
 /// Depth of the water when the whole volume stands on the infiltration area [m].
 /// @throws RuntimeError DivisionByZero when the area is 0, Overflow
-[[nodiscard]] float pondingDepth(float volume_m3, float infiltration_area_m2);
+[[nodiscard]] inline float pondingDepth(float volume_m3, float infiltration_area_m2) {
+    return numbers::toSingle(numbers::divide(volume_m3, infiltration_area_m2));
+}
 
 /// Time in hours until the water has soaked away, at half the saturated conductivity (the soil above the
 /// groundwater is not saturated). The safety factor is already in the volume and applies once.
 /// @param depth_m        depth of the water [m]
 /// @param filtration_m_s coefficient of the layer that it soaks into [m/s]; the caller checks that it is > 0
 /// @throws RuntimeError DivisionByZero when the coefficient is 0, Overflow
-[[nodiscard]] float emptyingTimeHours(float depth_m, float filtration_m_s);
+[[nodiscard]] inline float emptyingTimeHours(float depth_m, float filtration_m_s) {
+    const double depth = depth_m;
+    return numbers::toSingle(numbers::divide(2.0 * depth, filtration_m_s) / kSecondsPerHour);
+}
 
 }  // namespace mero::calc::swale

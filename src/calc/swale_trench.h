@@ -5,6 +5,7 @@
 
 #include "calc/critical_rain.h"
 #include "calc/trench_section.h"
+#include "platform/numbers/checked.h"
 
 namespace mero::calc::swale_trench {
 
@@ -22,15 +23,33 @@ struct Balance {
 /// divided by what one metre of trench takes. Rows without a positive duration are left out.
 /// @return length [m] and the critical rain; 0 and none when the swale alone is enough
 /// @throws RuntimeError DivisionByZero when the safety factor or what one metre takes is 0, Overflow
-[[nodiscard]] CriticalRain trenchLength(const Balance& balance, RainTable rains);
+[[nodiscard]] inline CriticalRain trenchLength(const Balance& balance, RainTable rains) {
+    const double reduced_area = balance.reduced_area_m2;
+    const double infiltration_area = balance.infiltration_area_m2;
+    const double throttled = balance.throttled_m3_s;
+    const double swale_volume = balance.swale_volume_m3;
+    const double safety_factor = balance.safety_factor;
+    const TrenchSection trench = balance.trench;
 
-/// Depth of the swale over the trench: its volume spread over the trench's length and width [m].
-/// @throws RuntimeError DivisionByZero when length or width is 0, Overflow
-[[nodiscard]] float swaleDepth(float swale_volume_m3, float trench_length_m, float swale_width_m);
+    const double collected = (reduced_area + infiltration_area) * kRatePerIntensity;
+    return findCriticalRain<Rows::PositiveDuration>(rains, [=](const Rain& rain) {
+        const double intensity = rain.intensity_l_s_ha;
+        const double seconds = balanceSeconds(rain, safety_factor);
+        const double to_trench_m3_s =
+            collected * intensity - throttled - numbers::divide(swale_volume, seconds);
+        return numbers::divide(to_trench_m3_s, uptakePerMetre(trench, seconds));
+    });
+}
 
 /// Ground plan of the swale over the trench [m2], as the area verdict compares and shows it.
 [[nodiscard]] constexpr double designedArea(float trench_length_m, float swale_width_m) {
     return static_cast<double>(trench_length_m) * static_cast<double>(swale_width_m);
+}
+
+/// Depth of the swale over the trench: its volume spread over the trench's length and width [m].
+/// @throws RuntimeError DivisionByZero when length or width is 0, Overflow
+[[nodiscard]] inline float swaleDepth(float swale_volume_m3, float trench_length_m, float swale_width_m) {
+    return numbers::toSingle(numbers::divide(swale_volume_m3, designedArea(trench_length_m, swale_width_m)));
 }
 
 enum class AreaVerdict { Sufficient, Insufficient };

@@ -3,13 +3,18 @@
 #pragma once
 
 #include "calc/critical_rain.h"
+#include "platform/numbers/checked.h"
 
 namespace mero::calc::tank {
 
 /// Infiltration flow that the design assumes: a specific intensity over the reduced area [m3/s].
 /// @param specific_intensity_l_s_ha specific infiltration intensity [l/(s.ha)]
 /// @throws RuntimeError Overflow
-[[nodiscard]] float infiltrationFlow(float specific_intensity_l_s_ha, float reduced_area_m2);
+[[nodiscard]] inline float infiltrationFlow(float specific_intensity_l_s_ha, float reduced_area_m2) {
+    const double specific_intensity = specific_intensity_l_s_ha;
+    const double area = reduced_area_m2;
+    return numbers::toSingle(kRatePerIntensity * specific_intensity * area);
+}
 
 /// What the water balance of a tank depends on.
 struct Balance {
@@ -21,14 +26,30 @@ struct Balance {
 /// Required storage under the critical rain: inflow less the assumed infiltration flow, over the duration
 /// times the safety factor. All nine rows take part, those with a negative duration too.
 /// @return volume [m3] and the critical rain; 0 and none when the flow keeps up with every rain
-[[nodiscard]] CriticalRain requiredStorage(const Balance& balance, RainTable rains);
+[[nodiscard]] inline CriticalRain requiredStorage(const Balance& balance, RainTable rains) {
+    const double reduced_area = balance.reduced_area_m2;
+    const double infiltration_flow = balance.infiltration_flow_m3_s;
+    const double safety_factor = balance.safety_factor;
+
+    const double collected = kRatePerIntensity * reduced_area;
+    return findCriticalRain<Rows::All>(rains, [=](const Rain& rain) {
+        const double intensity = rain.intensity_l_s_ha;
+        const double duration = rain.duration_min;
+        return (collected * intensity - infiltration_flow) * duration * kSecondsPerMinute * safety_factor;
+    });
+}
 
 /// Length or width of the top: the side slope runs out on both sides of the bottom [m].
 /// @param bottom_m bottom length or width [m]
 /// @param depth_m  depth of the tank [m]
 /// @param slope    horizontal run per unit of height, 0 for vertical sides [-]
 /// @throws RuntimeError Overflow
-[[nodiscard]] float topSide(float bottom_m, float depth_m, float slope);
+[[nodiscard]] inline float topSide(float bottom_m, float depth_m, float slope) {
+    const double bottom = bottom_m;
+    const double depth = depth_m;
+    const double run = slope;
+    return numbers::toSingle(2.0 * depth * run + bottom);
+}
 
 /// A tank's shape: rectangular bottom and top, the top sides as stored.
 struct Shape {
@@ -42,7 +63,15 @@ struct Shape {
 /// Volume of the shape: frustum of a pyramid, a third of the depth times bottom, top and their geometric
 /// mean [m3].
 /// @throws RuntimeError InvalidCall when the product of the four sides is negative, Overflow
-[[nodiscard]] float volume(const Shape& shape);
+[[nodiscard]] inline float volume(const Shape& shape) {
+    const double bottom_length = shape.bottom_length_m;
+    const double bottom_width = shape.bottom_width_m;
+    const double top_length = shape.top_length_m;
+    const double top_width = shape.top_width_m;
+    const double depth = shape.depth_m;
+    const double mean = numbers::squareRoot(top_length * bottom_length * bottom_width * top_width);
+    return numbers::toSingle(depth / 3.0 * (top_length * top_width + bottom_length * bottom_width + mean));
+}
 
 enum class VolumeVerdict { Sufficient, TooSmall };
 
@@ -62,7 +91,15 @@ enum class VolumeVerdict { Sufficient, TooSmall };
 /// What soaks away on average between the empty tank (its bottom) and the full one (its top), at half the
 /// effective coefficient [m3/s].
 /// @param effective_filtration_m_s as effectiveFiltration() gives it
-[[nodiscard]] double meanInfiltrationFlow(const Shape& shape, double effective_filtration_m_s);
+[[nodiscard]] inline double meanInfiltrationFlow(const Shape& shape, double effective_filtration_m_s) {
+    const double bottom_length = shape.bottom_length_m;
+    const double bottom_width = shape.bottom_width_m;
+    const double top_length = shape.top_length_m;
+    const double top_width = shape.top_width_m;
+    const double bottom_flow = bottom_width * bottom_length * effective_filtration_m_s / 2.0;
+    const double top_flow = top_width * top_length * effective_filtration_m_s / 2.0;
+    return (bottom_flow + top_flow) / 2.0;
+}
 
 enum class InfiltrationVerdict { Proven, Exceeded };
 

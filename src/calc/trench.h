@@ -4,6 +4,7 @@
 
 #include "calc/critical_rain.h"
 #include "calc/trench_section.h"
+#include "platform/numbers/checked.h"
 
 namespace mero::calc::trench {
 
@@ -18,16 +19,42 @@ struct Balance {
 /// trench takes. Rows without a positive duration are left out.
 /// @return length [m] and the critical rain; 0 and none without a rain
 /// @throws RuntimeError DivisionByZero when the safety factor or what one metre takes is 0, Overflow
-[[nodiscard]] CriticalRain requiredLength(const Balance& balance, RainTable rains);
+[[nodiscard]] inline CriticalRain requiredLength(const Balance& balance, RainTable rains) {
+    const double reduced_area = balance.reduced_area_m2;
+    const double safety_factor = balance.safety_factor;
+    const TrenchSection section = balance.section;
+
+    const double collected = kRatePerIntensity * reduced_area;
+    return findCriticalRain<Rows::PositiveDuration>(rains, [=](const Rain& rain) {
+        const double intensity = rain.intensity_l_s_ha;
+        const double seconds = balanceSeconds(rain, safety_factor);
+        return numbers::divide(collected * intensity, uptakePerMetre(section, seconds));
+    });
+}
 
 /// Storage volume of the trench under the picked rain: inflow less what soaks away through the infiltration
 /// area at half the saturated conductivity, over the duration times the safety factor [m3].
 /// @throws RuntimeError Overflow
-[[nodiscard]] float storageVolume(const Balance& balance, float length_m, const Rain& picked_rain);
+[[nodiscard]] inline float storageVolume(const Balance& balance, float length_m, const Rain& picked_rain) {
+    const double reduced_area = balance.reduced_area_m2;
+    const double safety_factor = balance.safety_factor;
+    const double filtration = balance.section.filtration_m_s;
+    const double length = length_m;
+    const double intensity = picked_rain.intensity_l_s_ha;
+    const double duration = picked_rain.duration_min;
+
+    const double inflow_m3_s = kRatePerIntensity * reduced_area * intensity;
+    const double soaked_m3_s =
+        infiltrationWidth(balance.section.width_m, balance.section.height_m) * length * filtration / 2.0;
+    return numbers::toSingle((inflow_m3_s - soaked_m3_s) * duration * kSecondsPerMinute * safety_factor);
+}
 
 /// Infiltration area: bottom and half the wall height, along the length [m2].
 /// @throws RuntimeError Overflow
-[[nodiscard]] float infiltrationArea(float height_m, float width_m, float length_m);
+[[nodiscard]] inline float infiltrationArea(float height_m, float width_m, float length_m) {
+    const double length = length_m;
+    return numbers::toSingle(infiltrationWidth(width_m, height_m) * length);
+}
 
 /// The openings of the drain pipes through which water leaves.
 struct DrainOutlet {
@@ -38,7 +65,14 @@ struct DrainOutlet {
 
 /// What the drain lets out along the whole trench (continuity, area times velocity) [l/s].
 /// @throws RuntimeError Overflow
-[[nodiscard]] float drainOutflow(const DrainOutlet& outlet, float length_m);
+[[nodiscard]] inline float drainOutflow(const DrainOutlet& outlet, float length_m) {
+    const double openings = outlet.openings_cm2_m;
+    const double pipe_count = outlet.pipe_count;
+    const double velocity = outlet.velocity_m_s;
+    const double length = length_m;
+    return numbers::toSingle(openings / kSquareCentimetresPerSquareMetre * pipe_count * velocity * length *
+                             kLitresPerCubicMetre);
+}
 
 enum class OutflowVerdict { Met, NotMet };
 

@@ -1,17 +1,18 @@
-/// Catalog, fields and rows through libmdb, each checked before its values are believed.
-/// The library follows damaged structures without a word, so the file's redundancy is compared here.
+/// Catalog and rows through libmdb.
+/// The library skips what it cannot read without a word, so what comes is compared with what was promised.
 #include "app/rain/jet_table.h"
-
-#include <mdbtools.h>
 
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
+#include <iterator>
 #include <memory>
 #include <span>
+#include <system_error>
 #include <utility>
 #include <vector>
 
-#include "app/rain/jet_value.h"
+#include "app/rain/jet_fields.h"
 
 namespace mero::rain {
 namespace {
@@ -23,6 +24,8 @@ using data::StationTable;
 constexpr const char* kDemoTable = "Demo";
 /// Where every data page says which table it belongs to.
 constexpr int kPageOwnerOffset = 4;
+/// A row's entry on its page: its place, without the flags.
+constexpr int kRowStartBits = 0x1fff;
 
 struct CloseHandle {
     void operator()(MdbHandle* handle) const { ::mdb_close(handle); }
@@ -33,24 +36,16 @@ struct FreeTable {
 using Handle = std::unique_ptr<MdbHandle, CloseHandle>;
 using Table = std::unique_ptr<MdbTableDef, FreeTable>;
 
-[[noreturn]] void failRead(const std::string& what) {
-    throw TableError(ReaderExit::ReadFailed, what);
-}
-
-/// The elements of one of the library's arrays of pointers.
-template <typename Element>
-std::vector<Element*> elementsOf(const GPtrArray& array) {
-    std::vector<Element*> elements;
-    for (void* element : std::span(array.pdata, array.len)) {
-        elements.push_back(static_cast<Element*>(element));
-    }
-    return elements;
-}
-
 Handle open(const std::string& path) {
     Handle handle(::mdb_open(path.c_str(), MDB_NOFLAGS));
     if (!handle || ::mdb_read_catalog(handle.get(), MDB_TABLE) == nullptr) {
         throw TableError(ReaderExit::CannotOpen, "not a database that can be read: " + path);
+    }
+    // The library fills a page that is cut with zeros, which read as nulls.
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    if (error || size % static_cast<std::uintmax_t>(handle->fmt->pg_size) != 0) {
+        failRead("the file ends within a page");
     }
     return handle;
 }
@@ -75,87 +70,50 @@ MdbCatalogEntry* findEntry(const MdbHandle& handle, const std::string& name) {
     return *found;
 }
 
-FieldType typeOf(const MdbColumn& column, bool has_wide_text) {
-    switch (column.col_type) {
-        case MDB_BYTE:
-            return FieldType::Byte;
-        case MDB_INT:
-            return FieldType::Integer;
-        case MDB_LONGINT:
-            return FieldType::LongInteger;
-        case MDB_FLOAT:
-            return FieldType::Single;
-        case MDB_DOUBLE:
-            return FieldType::Double;
-        case MDB_MONEY:
-            return FieldType::Currency;
-        case MDB_NUMERIC:
-            return FieldType::Decimal;
-        case MDB_TEXT:
-            return has_wide_text ? FieldType::WideText : FieldType::NarrowText;
-        default:
-            return FieldType::Other;
-    }
-}
-
-/// One field and how to read it.
-struct Field {
-    const MdbColumn* column = nullptr;
-    FieldType type = FieldType::Other;
+/// The bytes of the row that was fetched last.
+struct RowExtent {
+    int start = 0;
+    std::size_t length = 0;
 };
 
-void checkField(const Field& field, std::vector<bool>& taken) {
-    const std::size_t size = storedSize(field.type);
-    if (size == 0) {
-        return;
+RowExtent lastRow(const MdbTableDef& table, MdbHandle& handle, int fields_ever) {
+    RowExtent row;
+    const bool found =
+        ::mdb_find_row(&handle, static_cast<int>(table.cur_row) - 1, &row.start, &row.length) == 0;
+    row.start &= kRowStartBits;
+    if (!found || std::cmp_greater(row.length, std::size(handle.pg_buf)) ||
+        std::cmp_greater(row.start, std::size(handle.pg_buf) - row.length)) {
+        failRead("a row lies outside its page");
     }
-    const MdbColumn& column = *field.column;
-    if (field.type != FieldType::Decimal && column.is_fixed == 0) {
-        failRead(std::string("a number of varying size: ") + column.name);
+    const bool has_narrow_count = handle.f->jet_version == MDB_VER_JET3;
+    const int fields =
+        has_narrow_count ? ::mdb_pg_get_byte(&handle, row.start) : ::mdb_pg_get_int16(&handle, row.start);
+    if (fields < 1 || fields > fields_ever) {
+        failRead("a row has another number of fields than its table");
     }
-    if (std::cmp_not_equal(column.col_size, size)) {
-        failRead(std::string("the size of the field is not its type's: ") + column.name);
-    }
-    if (column.is_fixed == 0) {
-        return;
-    }
-    for (std::size_t at = 0; at < size; ++at) {
-        const int offset = column.fixed_offset + static_cast<int>(at);
-        if (offset < 0 || std::cmp_greater_equal(offset, taken.size()) ||
-            taken[static_cast<std::size_t>(offset)]) {
-            failRead(std::string("the field lies upon another: ") + column.name);
-        }
-        taken[static_cast<std::size_t>(offset)] = true;
-    }
+    return row;
 }
 
-std::vector<Field> fieldsOf(MdbTableDef& table, const MdbHandle& handle) {
-    if (::mdb_read_columns(&table) == nullptr || table.columns->len != table.num_cols) {
-        failRead("the fields cannot be read");
-    }
-    std::vector<Field> fields;
-    std::vector<bool> taken(MDB_PGSIZE);
-    for (const MdbColumn* column : elementsOf<MdbColumn>(*table.columns)) {
-        fields.push_back({column, typeOf(*column, handle.f->jet_version != MDB_VER_JET3)});
-        checkField(fields.back(), taken);
-    }
-    return fields;
+/// The library takes a Decimal's precision for its scale and the other way round; the scale is never the
+/// larger.
+int decimalsOf(const MdbColumn& column) {
+    return std::min(column.col_scale, column.col_prec);
 }
 
-StationTable::Value valueOf(const Field& field, const MdbHandle& handle) {
-    const std::span page(std::as_const(handle.pg_buf));
+StationTable::Value valueOf(const Field& field, const RowExtent& row, const MdbHandle& handle) {
     const int start = field.column->cur_value_start;
     const int length = field.column->cur_value_len;
-    if (length == 0) {
+    if (length == 0 || field.type == FieldType::Other) {
         return std::nullopt;
     }
-    if (start < 0 || length < 0 || std::cmp_greater(start, page.size()) ||
-        std::cmp_greater(length, page.size() - static_cast<std::size_t>(start))) {
-        failRead(std::string("a value lies outside its page: ") + field.column->name);
+    if (start < row.start || length < 0 ||
+        std::cmp_greater_equal(start - row.start + length, row.length)) {  // flags of the fields end a row
+        failRead(std::string("a value lies outside its row: ") + field.column->name);
     }
+    const std::span page(std::as_const(handle.pg_buf));
     return numberOf(field.type,
                     page.subspan(static_cast<std::size_t>(start), static_cast<std::size_t>(length)),
-                    field.column->col_scale);
+                    decimalsOf(*field.column));
 }
 
 bool isPageOf(const MdbTableDef& table, MdbHandle& handle) {
@@ -178,8 +136,8 @@ StationTable readTable(const std::string& path, const std::string& table_name) {
     if (!table) {
         failRead("the table's header cannot be read");
     }
-    const std::vector<Field> fields = fieldsOf(*table, *handle);
-    for (const Field& field : fields) {
+    const Fields fields = readFields(*table, *handle);
+    for (const Field& field : fields.present) {
         result.columns.emplace_back(field.column->name);
     }
     ::mdb_rewind_table(table.get());
@@ -187,9 +145,10 @@ StationTable readTable(const std::string& path, const std::string& table_name) {
         if (!isPageOf(*table, *handle)) {
             failRead("a row lies on a page of another table");
         }
+        const RowExtent extent = lastRow(*table, *handle, fields.ever);
         auto& row = result.rows.emplace_back();
-        for (const Field& field : fields) {
-            row.push_back(valueOf(field, *handle));
+        for (const Field& field : fields.present) {
+            row.push_back(valueOf(field, extent, *handle));
         }
     }
     if (result.rows.size() != table->num_rows) {

@@ -1,24 +1,12 @@
 /// One table of a Jet database file, read whole or not at all.
-/// The only place that knows libmdb.
+/// Catalog and rows; the fields have a file of their own.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 
 #include "data/rain_database.h"
-#include "data/rain_protocol.h"
 
 namespace mero::rain {
-
-/// Why there is no table.
-class TableError : public std::runtime_error {
-  public:
-    TableError(data::ReaderExit exit, const std::string& what) : std::runtime_error(what), exit_(exit) {}
-    [[nodiscard]] data::ReaderExit exit() const { return exit_; }
-
-  private:
-    data::ReaderExit exit_;
-};
 
 /// Reads a table, its name in any case, and whether the file has the table `Demo`.
 ///

@@ -13,9 +13,15 @@
 namespace mero::rain {
 namespace {
 
+constexpr int kFirstFreeDescriptor = STDERR_FILENO + 1;
 constexpr rlim_t kProcessorSeconds = 2;
 // The library itself takes a few MiB; a damaged length field asks for gigabytes.
-constexpr rlim_t kMemoryBytes = 256U << 20U;
+constexpr rlim_t kMemoryBytes = 128U << 20U;
+#ifdef MERO_SANITIZED
+constexpr bool kLimitsMemory = false;
+#else
+constexpr bool kLimitsMemory = true;
+#endif
 
 void limit(decltype(RLIMIT_CORE) resource, rlim_t most) {
     const rlimit bound{most, most};
@@ -27,24 +33,26 @@ void limit(decltype(RLIMIT_CORE) resource, rlim_t most) {
 void setLimits() {
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_CPU, kProcessorSeconds);
-#if !defined(__SANITIZE_ADDRESS__) && !defined(MERO_SANITIZED)
-    limit(RLIMIT_AS, kMemoryBytes);
-#else
-    static_cast<void>(kMemoryBytes);  // the sanitizer reserves terabytes of addresses
-#endif
+    if (kLimitsMemory) {
+        limit(RLIMIT_AS, kMemoryBytes);
+    }
     for (const char* variable : data::kLibraryVariables) {
         ::unsetenv(variable);
     }
 }
 
-int takeStandardOutput() {
-    const int kept = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
+Streams takeStandardStreams() {
+    const Streams streams{::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, kFirstFreeDescriptor),
+                          ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, kFirstFreeDescriptor)};
     const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-    if (nowhere >= 0 && nowhere != STDOUT_FILENO) {
+    if (nowhere >= 0) {
         ::dup2(nowhere, STDOUT_FILENO);
+        ::dup2(nowhere, STDERR_FILENO);
+    }
+    if (nowhere >= kFirstFreeDescriptor) {
         ::close(nowhere);
     }
-    return kept;
+    return streams;
 }
 
 }  // namespace mero::rain

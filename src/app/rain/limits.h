@@ -8,8 +8,14 @@ namespace mero::rain {
 /// answers.
 void setLimits();
 
-/// Keeps standard output for the caller alone: what the library prints there goes to /dev/null.
-/// @return the descriptor that leads to the former standard output, or -1
-[[nodiscard]] int takeStandardOutput();
+/// The former standard streams, as descriptors; -1 when there is none.
+struct Streams {
+    int output;
+    int errors;
+};
+
+/// Keeps the standard streams for the caller alone: what the library prints there, millions of lines for some
+/// damaged files, goes to /dev/null.
+[[nodiscard]] Streams takeStandardStreams();
 
 }  // namespace mero::rain

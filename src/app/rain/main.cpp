@@ -5,12 +5,12 @@
 #include <cerrno>
 #include <cstddef>
 #include <exception>
-#include <iostream>
 #include <string>
 #include <string_view>
 
 #include "app/rain/jet_table.h"
 #include "app/rain/limits.h"
+#include "app/rain/table_error.h"
 #include "data/rain_protocol.h"
 
 namespace {
@@ -31,20 +31,26 @@ bool writeAll(int descriptor, std::string_view text) {
     return true;
 }
 
-ReaderExit run(const std::string& path, const std::string& table_name, int output) {
+ReaderExit fail(ReaderExit exit, const std::string& what, int errors) {
+    static_cast<void>(writeAll(errors, "mero-rain: " + what + "\n"));
+    return exit;
+}
+
+ReaderExit run(const std::string& path, const std::string& table_name, const mero::rain::Streams& streams) {
     try {
         const auto text = mero::data::encode(mero::rain::readTable(path, table_name));
         if (!text) {
-            std::cerr << "mero-rain: the table holds what no station's table holds\n";
-            return ReaderExit::ReadFailed;
+            return fail(ReaderExit::ReadFailed, "the table holds what no station's table holds",
+                        streams.errors);
         }
-        return writeAll(output, *text) ? ReaderExit::Done : ReaderExit::ReadFailed;
+        if (!writeAll(streams.output, *text)) {
+            return fail(ReaderExit::ReadFailed, "the table cannot be written", streams.errors);
+        }
+        return ReaderExit::Done;
     } catch (const mero::rain::TableError& error) {
-        std::cerr << "mero-rain: " << error.what() << '\n';
-        return error.exit();
+        return fail(error.exit(), error.what(), streams.errors);
     } catch (const std::exception& error) {  // out of memory: a damaged length
-        std::cerr << "mero-rain: " << error.what() << '\n';
-        return ReaderExit::ReadFailed;
+        return fail(ReaderExit::ReadFailed, error.what(), streams.errors);
     }
 }
 
@@ -52,10 +58,9 @@ ReaderExit run(const std::string& path, const std::string& table_name, int outpu
 
 int main(int argc, char** argv) {
     if (argc != 3) {
-        std::cerr << "usage: mero-rain FILE TABLE\n";
+        static_cast<void>(writeAll(STDERR_FILENO, "usage: mero-rain FILE TABLE\n"));
         return static_cast<int>(ReaderExit::WrongArguments);
     }
     mero::rain::setLimits();
-    const int output = mero::rain::takeStandardOutput();
-    return static_cast<int>(run(argv[1], argv[2], output));
+    return static_cast<int>(run(argv[1], argv[2], mero::rain::takeStandardStreams()));
 }

@@ -87,7 +87,7 @@ final class RainDatabaseWriter {
         table.addRow(note);
     }
 
-    private static void fixCatalogTimes(Database database) throws IOException {
+    static void fixCatalogTimes(Database database) throws IOException {
         Table catalog = database.getSystemTable("MSysObjects");
         for (Row row : catalog) {
             row.put("DateCreate", CATALOG_TIME);

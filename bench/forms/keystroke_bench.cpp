@@ -1,0 +1,108 @@
+// Time of one keystroke in a field of the main window, without the window system.
+// Every text box of the form is typed into; the slowest is the one that counts.
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "data/rain_database.h"
+#include "forms/calc/program.h"
+#include "platform/clock.h"
+#include "platform/desk.h"
+#include "platform/locale_settings.h"
+#include "platform/numbers/number_text.h"
+
+namespace {
+
+using namespace mero;
+
+/// A desk whose user answers everything at once and to whom nothing is told.
+class SilentDesk : public platform::Desk {
+  public:
+    void showMessage(const platform::Message& /*message*/) override {}
+    void reportError(const RuntimeError& /*error*/) override {}
+    void openAddress(const std::string& /*address*/) override {}
+    void formOpened(const std::string& /*form*/) override {}
+    void formClosed(const std::string& /*form*/) override {}
+    void navigated(const std::string& /*view*/, const std::string& /*path*/) override {}
+    void openPrintPreview(const std::string& /*path*/) override {}
+    std::optional<std::string> askSavePath(const std::string& /*suggested_path*/) override {
+        return std::nullopt;
+    }
+    void saved(const std::string& /*path*/) override {}
+    void ended() override {}
+};
+
+/// One station with the same heavy rain in every row.
+class OneRain : public data::RainDatabase {
+  public:
+    data::StationTable read(std::int16_t /*station_number*/, const std::string& /*path*/) override {
+        data::StationTable table;
+        table.columns = {"doba", "5", "2", "1", "05", "02", "01", "005"};
+        table.rows.assign(9, std::vector<data::StationTable::Value>(8, 150.0));
+        return table;
+    }
+};
+
+/// A program with rain, area and soil entered, and one type chosen.
+struct Site {
+    SilentDesk desk;
+    platform::SystemClock clock;
+    platform::ProgramLocale locale{".", "", ","};
+    OneRain rain;
+    forms::Program program{{desk, clock, locale, rain, "."}};
+
+    explicit Site(int type) {
+        program.start();
+        forms::frmCalc& window = program.window();
+        window.cmdEdit[0].userClick();
+        window.intDialog.cboSelStanice.userSelect(4);
+        window.intDialog.cboSelPeriod.userSelect(4);
+        window.intDialog.fgIntDeste.userClick({3, 2});
+        window.intDialog.cmdOK.userClick();
+        window.cmdEdit[1].userClick();
+        window.areaDialog.fgSoucPovrchOdtok.userClick({8, 3});
+        window.areaDialog.txtPlocha.userEdit("800");
+        window.areaDialog.cmdZapsat.userClick();
+        window.areaDialog.OKButton.userClick();
+        window.txtSoucFiltrace.userEdit("1e-4");
+        window.optSelType[type == forms::kTank ? 1 : 0].userClick();
+        window.cboSelType.userSelect(type == forms::kTank ? 0 : type);
+    }
+};
+
+void typeInto(benchmark::State& state, Site& site, platform::TextBox& box) {
+    bool longer = false;
+    for (auto _ : state) {
+        longer = !longer;
+        site.program.enter([&] { box.userEdit(longer ? "2.5" : "2"); });
+    }
+}
+
+/// One benchmark for every text box that stands on the first tab or on the type's panel.
+void registerFields(Site& site, int type) {
+    for (platform::Control* control : site.program.window().controls()) {
+        auto* box = dynamic_cast<platform::TextBox*>(control);
+        if (box == nullptr || !box->container()->visible() || !box->enabled()) {
+            continue;
+        }
+        const std::string name = "type " + numbers::general(type) + " " + box->name();
+        benchmark::RegisterBenchmark(name.c_str(), [&site, box](benchmark::State& state) {
+            typeInto(state, site, *box);
+        })->Unit(benchmark::kMicrosecond);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    std::vector<std::unique_ptr<Site>> sites;
+    for (int type = forms::kSurface; type <= forms::kTank; ++type) {
+        sites.push_back(std::make_unique<Site>(type));
+        registerFields(*sites.back(), type);
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,78 @@
+/// Puts the program together without a window and lets the script drive it.
+/// The trace is all that goes to standard output.
+#include "app/batch/run_command.h"
+
+#include <fstream>
+#include <iostream>
+#include <memory>
+
+#include "app/common/options.h"
+#include "app/common/program_folder.h"
+#include "automation/headless_user.h"
+#include "automation/script_runner.h"
+#include "automation/trace_desk.h"
+#include "data/rain_database.h"
+
+namespace mero::app {
+namespace {
+
+constexpr int kUnusable = 2;
+
+constexpr const char* kHelp =
+    "usage: mero-batch run [--folder DIR] [--clock 2026-11-20T14:05:09] SCRIPT\n"
+    "\n"
+    "Drives the forms from a script without a window and prints the trace, one JSON object per line.\n"
+    "\n"
+    "  SCRIPT         a UTF-8 file, - for standard input\n"
+    "  --folder DIR   the program's folder: mero.mdb, Webs, the report file\n"
+    "  --clock TIME   freezes date and time\n"
+    "\n"
+    "Exit status: 0 the script ran to its end, 1 a run-time error ended the program, 2 unusable script or\n"
+    "arguments.\n";
+
+int runScript(const RunOptions& options, std::istream& script) {
+    const std::string folder = options.folder.empty() ? defaultProgramFolder() : options.folder;
+    automation::TraceDesk desk(std::cout, nullptr, folder);
+    std::unique_ptr<platform::Clock> clock = std::make_unique<platform::SystemClock>();
+    if (options.frozen_moment) {
+        clock = std::make_unique<platform::FrozenClock>(*options.frozen_moment);
+    }
+    platform::ProgramLocale locale;
+    data::MdbRainDatabase rain_database(rainReaderProgram());
+    forms::Program program({desk, *clock, locale, rain_database, folder});
+    automation::HeadlessUser user(program);
+    automation::ScriptRunner runner(program, user, desk, std::cerr, options.script);
+    program.start();
+    return runner.run(script);
+}
+
+}  // namespace
+
+int runCommand(std::span<const std::string_view> arguments) {
+    try {
+        const RunOptions options = parseRunOptions(arguments, ScriptArgument::Plain);
+        if (options.help) {
+            std::cout << kHelp;
+            return 0;
+        }
+        if (options.script.empty()) {
+            throw UsageError("which script? (see mero-batch run --help)");
+        }
+        if (options.script == "-") {
+            return runScript(options, std::cin);
+        }
+        std::ifstream script(options.script);
+        if (!script || script.peek() == std::ifstream::traits_type::eof()) {
+            if (!script.eof()) {
+                throw UsageError("cannot read the script " + options.script);
+            }
+            script.clear();
+        }
+        return runScript(options, script);
+    } catch (const UsageError& error) {
+        std::cerr << "mero-batch: " << error.what() << '\n';
+        return kUnusable;
+    }
+}
+
+}  // namespace mero::app

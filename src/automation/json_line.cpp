@@ -1,0 +1,67 @@
+/// JSON texts of the trace's values.
+/// The JSON library escapes texts; numbers come from the texts of numbers, which are valid JSON.
+#include "automation/json_line.h"
+
+#include <nlohmann/json.hpp>
+
+#include "platform/numbers/number_text.h"
+
+namespace mero::automation {
+
+std::string json(std::string_view text) {
+    constexpr int kOneLine = -1;
+    return nlohmann::json(text).dump(kOneLine, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+std::string json(const std::string& text) {
+    return json(std::string_view(text));
+}
+
+std::string json(const char* text) {
+    return json(std::string_view(text));
+}
+
+std::string json(bool value) {
+    return value ? "true" : "false";
+}
+
+std::string json(int value) {
+    return numbers::general(value);
+}
+
+std::string json(std::int16_t value) {
+    return numbers::general(static_cast<int>(value));
+}
+
+std::string json(float value) {
+    return numbers::general(value);
+}
+
+std::string json(double value) {
+    return numbers::general(value);
+}
+
+std::string json(const data::RoundShaft& shaft) {
+    return jsonArray({json(shaft.designation), json(shaft.inner_diameter_m), json(shaft.wall_m)});
+}
+
+std::string json(const data::RectangularShaft& shaft) {
+    return jsonArray({json(shaft.designation), json(shaft.side1_m), json(shaft.side2_m), json(shaft.wall_m)});
+}
+
+std::string jsonArray(const std::vector<std::string>& elements) {
+    std::string text;
+    for (const std::string& element : elements) {
+        text += text.empty() ? "" : ", ";
+        text += element;
+    }
+    return "[" + text + "]";
+}
+
+JsonLine& JsonLine::addJson(std::string_view name, const std::string& value) {
+    members_ += members_.empty() ? "" : ", ";
+    members_ += json(name) + ": " + value;
+    return *this;
+}
+
+}  // namespace mero::automation

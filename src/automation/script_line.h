@@ -1,0 +1,37 @@
+/// One line of a script, split into words.
+/// A word with blanks stands in double quotes; \" \\ \n \r \t inside are escapes.
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mero::automation {
+
+/// A script that cannot be followed: syntax, an unknown name, an entry that is not there.
+class ScriptError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+struct Word {
+    std::string text;
+    bool quoted = false;
+};
+
+/// The words of a line; none for a blank line and for a comment (first character "#").
+/// @throws ScriptError for an open quote, an unknown escape, text that touches a quote, bytes that are not
+/// UTF-8
+[[nodiscard]] std::vector<Word> splitLine(std::string_view line);
+
+/// A whole number of at most nine digits; nothing for any other text.
+[[nodiscard]] std::optional<int> wholeNumber(std::string_view text);
+
+/// The keys that a user presses for a text: UTF-8 characters, a line break ("\r\n", "\n", "\r") being one.
+[[nodiscard]] std::vector<std::string> keysOf(std::string_view text);
+/// The text without its last character (a "\r\n" pair counts as one).
+[[nodiscard]] std::string withoutLastCharacter(std::string_view text);
+
+}  // namespace mero::automation

@@ -1,0 +1,43 @@
+/// The desk of a script: prints a trace line for everything that reaches the user, answers the boxes, and
+/// keeps what the next save dialog will be answered with.
+#pragma once
+
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "automation/json_line.h"
+#include "platform/desk.h"
+
+namespace mero::automation {
+
+class TraceDesk : public platform::Desk {
+  public:
+    /// @param trace  where the lines go; flushed after each
+    /// @param inner  the real desk of a window, which shows the same things; null without a window
+    /// @param folder where relative answers of the save dialog lead
+    TraceDesk(std::ostream& trace, platform::Desk* inner, std::string folder);
+
+    void print(const JsonLine& line);
+    /// Answer of the next save dialog; nothing cancels it.
+    void answerSave(std::optional<std::string> path) { save_answer_ = std::move(path); }
+
+    void showMessage(const platform::Message& message) override;
+    void reportError(const RuntimeError& error) override;
+    void openAddress(const std::string& address) override;
+    void formOpened(const std::string& form) override;
+    void formClosed(const std::string& form) override;
+    void navigated(const std::string& view, const std::string& path) override;
+    void openPrintPreview(const std::string& path) override;
+    std::optional<std::string> askSavePath(const std::string& suggested_path) override;
+    void saved(const std::string& path) override;
+    void ended() override;
+
+  private:
+    std::ostream* trace_;
+    platform::Desk* inner_;
+    std::string folder_;
+    std::optional<std::string> save_answer_;
+};
+
+}  // namespace mero::automation

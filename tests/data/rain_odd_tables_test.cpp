@@ -1,0 +1,74 @@
+/// What an office's own database may hold: other numbers of rows, every type of field, deleted rows.
+/// odd_tables.mdb is written by ReaderFixture of tools/rain-database: row r holds r and r + 0.25.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "data/rain_database.h"
+#include "data/rain_support.h"
+
+namespace mero::data {
+namespace {
+
+using test::read;
+using test::valueAt;
+using ::testing::ElementsAre;
+
+/// The whole numbers of a table's first field.
+std::vector<int> numbersOf(std::int16_t station) {
+    const auto outcome = read(MERO_ODD_TABLES, station);
+    std::vector<int> numbers;
+    if (outcome.table() == nullptr) {
+        ADD_FAILURE() << outcome.error()->description();
+        return numbers;
+    }
+    for (std::size_t row = 0; row < outcome.table()->rows.size(); ++row) {
+        const double number = valueAt(*outcome.table(), row, "doba").value();
+        EXPECT_EQ(valueAt(*outcome.table(), row, "5"), number + 0.25);
+        numbers.push_back(static_cast<int>(number));
+    }
+    return numbers;
+}
+
+TEST(RainOddTables, MoreAndFewerRowsThanNineComeAsTheyAre) {
+    EXPECT_THAT(numbersOf(1), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12));
+    EXPECT_THAT(numbersOf(2), ElementsAre(1, 2, 3, 4, 5));
+    EXPECT_THAT(numbersOf(5), ElementsAre());
+}
+
+TEST(RainOddTables, RowsOverSeveralPagesKeepTheirOrder) {
+    const std::vector<int> numbers = numbersOf(7);
+    ASSERT_EQ(numbers.size(), 600U);
+    for (std::size_t at = 0; at < numbers.size(); ++at) {
+        ASSERT_EQ(numbers[at], static_cast<int>(at) + 1);
+    }
+}
+
+TEST(RainOddTables, DeletedRowsAreNotRead) {
+    EXPECT_THAT(numbersOf(6), ElementsAre(1, 2, 4, 5, 6, 7, 8, 9, 10));
+}
+
+TEST(RainOddTables, ATableIsFoundInAnyCaseButNotByPartOfItsName) {
+    EXPECT_EQ(numbersOf(4).size(), 9U);                                  // LIST4
+    EXPECT_EQ(read(MERO_ODD_TABLES, 12).errorNumber(), kTableNotFound);  // List12 (záloha)
+}
+
+TEST(RainOddTables, EveryTypeOfFieldGivesItsNumber) {
+    const auto outcome = read(MERO_ODD_TABLES, 3);
+    ASSERT_NE(outcome.table(), nullptr) << outcome.error()->description();
+    const StationTable& table = *outcome.table();
+    EXPECT_THAT(table.columns, ElementsAre("byte", "integer", "long", "single", "double", "currency",
+                                           "decimal", "text", "narrow", "date", "yesno", "poznámka"));
+    const auto single = [](float value) { return StationTable::Value(static_cast<double>(value)); };
+    const auto none = StationTable::Value();
+    ASSERT_EQ(table.rows.size(), 3U);
+    EXPECT_THAT(table.rows[0],
+                ElementsAre(200.0, 120.0, 100000.0, single(0.15F), 131.2, 131.2, 123456789012345678.9012,
+                            single(131.2F), single(131.2F), none, none, none));
+    EXPECT_THAT(table.rows[1], ElementsAre(0.0, -120.0, -100000.0, single(-1.5e-7F), -1e300, -131.2345,
+                                           -0.0001, none, none, none, none, none))
+        << "a decimal comma and a word are no numbers";
+    EXPECT_THAT(table.rows[2], ::testing::Each(none)) << "nulls";
+}
+
+}  // namespace
+}  // namespace mero::data
