@@ -12,6 +12,8 @@ using platform::Aspect;
 /// The editor's edges lie this far inside the cell [twips, 1/1440 inch].
 constexpr int kInsetTwips = 50;
 constexpr int kTwipsPerInch = 1440;
+/// The grid draws its lines on a cell's right and lower edge.
+constexpr int kLine = 1;
 
 }  // namespace
 
@@ -24,8 +26,8 @@ QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view
     const auto place = [&line, &view, &grid] {
         const QRect cell = view.cellRect(grid.current());
         const int inset = qMax(1, kInsetTwips * view.logicalDpiX() / kTwipsPerInch);
-        line.setGeometry(cell.left() + inset, cell.top() + inset, qMax(1, cell.width() - inset),
-                         qMax(1, cell.height() - inset));
+        line.setGeometry(cell.left() + inset, cell.top() + inset, qMax(1, cell.width() - inset - kLine),
+                         qMax(1, cell.height() - inset - kLine));
     };
     view.cells_moved = [&line, place] {
         if (line.isVisible()) {

@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QPalette>
+#include <QTextCursor>
 #include <QUrl>
 
 #include "platform/qt/texts.h"
@@ -21,6 +22,12 @@ void setPaperColours(QTextBrowser& browser) {
     browser.setPalette(palette);
 }
 
+/// Loads a page and shows its beginning.
+void load(QTextBrowser& browser, LocalDocument& document, const QString& path) {
+    document.load(path);
+    browser.moveCursor(QTextCursor::Start);
+}
+
 void followLink(QTextBrowser& browser, LocalDocument& document, const DocumentServices& services,
                 const QUrl& link) {
     const QString scheme = link.scheme().toLower();
@@ -30,7 +37,7 @@ void followLink(QTextBrowser& browser, LocalDocument& document, const DocumentSe
     }
     const QString path = document.resolve(link);
     if (!path.isEmpty() && QFileInfo(path) != QFileInfo(document.path())) {
-        document.load(path);
+        load(browser, document, path);
     }
     if (link.hasFragment()) {
         browser.scrollToAnchor(link.fragment());
@@ -48,9 +55,9 @@ QTextBrowser& makeDocumentView(WidgetKit& kit, platform::BrowserView& view, cons
     browser.setOpenLinks(false);
     setPaperColours(browser);
     bindCommon(kit, view, browser);
-    const auto show = [&view, document] {
+    const auto show = [&view, &browser, document] {
         if (!view.path().empty()) {
-            document->load(shown(view.path()));
+            load(browser, *document, shown(view.path()));
         }
     };
     show();

@@ -11,7 +11,10 @@ enum Column { kCaption, kField, kUnit, kBeside, kRest };
 
 constexpr int kNumberCharacters = 14;
 constexpr int kLongestCaptionLine = 36;
-constexpr int kAreaLines = 3;
+constexpr int kLeastAreaLines = 3;
+constexpr int kMostAreaLines = 14;
+/// A text area takes the room that there is before the empty end of the grid does.
+constexpr int kAreaStretch = 1000;
 
 /// The text in lines of about the same length, none longer than a caption may be unless a word is.
 QString broken(const QString& text) {
@@ -92,11 +95,12 @@ QPlainTextEdit& FieldGrid::area(platform::TextBox& box, const QString& text) {
     QPlainTextEdit& edit = makeTextArea(*kit_, box, *parent_);
     label.setBuddy(&edit);
     describe(edit, text);
-    const int least = edit.fontMetrics().lineSpacing() * kAreaLines + 2 * gap(edit);
-    edit.setMinimumHeight(least);
+    const int line = edit.fontMetrics().lineSpacing();
+    edit.setMinimumHeight(line * kLeastAreaLines + 2 * gap(edit));
+    edit.setMaximumHeight(line * kMostAreaLines + 2 * gap(edit));
     grid_->setAlignment(&label, Qt::AlignLeft | Qt::AlignTop);
     grid_->addWidget(&edit, row_, kField, 1, kRest - kField + 1);
-    grid_->setRowStretch(row_, 1);
+    grid_->setRowStretch(row_, kAreaStretch);
     ++row_;
     return edit;
 }

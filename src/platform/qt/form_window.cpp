@@ -82,15 +82,23 @@ void FormWindow::setFormEnabled(bool enabled) {
 }
 
 void FormWindow::placeOverOwner() {
-    const QScreen* screen = owner_->screen();
-    const QRect room = screen->availableGeometry();
-    const QSize size(std::min(width(), room.width()), std::min(height(), room.height()));
-    resize(size);
-    const int dpi = owner_->logicalDpiX();
-    const QPoint wanted =
-        owner_->frameGeometry().topLeft() + QPoint(kLeftTwips, kTopTwips) * dpi / kTwipsPerInch;
-    move(std::clamp(wanted.x(), room.left(), std::max(room.left(), room.right() + 1 - size.width())),
-         std::clamp(wanted.y(), room.top(), std::max(room.top(), room.bottom() + 1 - size.height())));
+    resize(size().boundedTo(owner_->screen()->availableGeometry().size()));
+    const QPoint offset = QPoint(kLeftTwips, kTopTwips) * owner_->logicalDpiX() / kTwipsPerInch;
+    moveOntoScreen(owner_->frameGeometry().topLeft() + offset);
+}
+
+void FormWindow::moveOntoScreen(QPoint wanted) {
+    const QRect room = owner_->screen()->availableGeometry();
+    move(std::clamp(wanted.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
+         std::clamp(wanted.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    // What a dialog shows later may make it larger.
+    if (owner_ != nullptr && isVisible() && !owner_->screen()->availableGeometry().contains(geometry())) {
+        moveOntoScreen(pos());
+    }
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

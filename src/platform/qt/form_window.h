@@ -21,6 +21,7 @@ class FormWindow : public QWidget {
     [[nodiscard]] WidgetKit& kit() const { return *kit_; }
 
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void showForm();
@@ -28,6 +29,8 @@ class FormWindow : public QWidget {
     void setFormEnabled(bool enabled);
     /// Where the owner's form places its dialogs, moved so that the whole window is on the screen.
     void placeOverOwner();
+    /// Moves a dialog so that all of it is on the screen, as far as it fits.
+    void moveOntoScreen(QPoint wanted);
 
     WidgetKit* kit_;
     platform::Form* form_;

@@ -19,17 +19,10 @@ namespace {
 using platform::Aspect;
 using platform::GridCell;
 
-/// Width that a grid asks for; its dialog may give it more.
-constexpr int kHintCharacters = 46;
-
 }  // namespace
 
-GridView::GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, int shown_rows, QWidget& parent)
-    : QTableView(&parent),
-      kit_(&kit),
-      grid_(&grid),
-      model_(grid, choice_column, nullptr),
-      shown_rows_(shown_rows) {
+GridView::GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent)
+    : QTableView(&parent), kit_(&kit), grid_(&grid), model_(grid, choice_column, nullptr), room_(room) {
     setModel(&model_);
     setItemDelegate(new GridDelegate(model_, this));
     setSelectionMode(QAbstractItemView::NoSelection);
@@ -170,11 +163,9 @@ void GridView::reveal(GridCell cell) {
 }
 
 QSize GridView::sizeHint() const {
-    int height = horizontalHeader()->sizeHint().height() + 2 * frameWidth();
-    for (int row = 0; row < qMin(shown_rows_, model_.rowCount()); ++row) {
-        height += rowHeight(row);
-    }
-    return {textWidth(*this, kHintCharacters), height};
+    const QSize room = {textWidth(*this, room_.characters), GridDelegate::textHeight({}, width(), font())};
+    return {room.width(), horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
+                              room.height() * qMin(room_.rows, model_.rowCount())};
 }
 
 std::optional<GridCell> GridView::cellAt(QPoint position) const {
@@ -250,8 +241,8 @@ void GridView::scrollContentsBy(int dx, int dy) {
     }
 }
 
-GridView& makeGrid(WidgetKit& kit, platform::Grid& grid, int choice_column, int shown_rows, QWidget& parent) {
-    return *new GridView(kit, grid, choice_column, shown_rows, parent);
+GridView& makeGrid(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent) {
+    return *new GridView(kit, grid, choice_column, room, parent);
 }
 
 }  // namespace mero::qt

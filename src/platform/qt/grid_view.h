@@ -10,11 +10,17 @@
 
 namespace mero::qt {
 
+/// The room that a grid asks for; its window may give it more or less.
+struct GridRoom {
+    int characters;  ///< width in average characters
+    int rows;        ///< data rows that are seen without scrolling
+};
+
 class GridView : public QTableView {
   public:
     /// @param choice_column column of the pictures, where a click picks the row
-    /// @param shown_rows    data rows that the grid wants to show without scrolling
-    GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, int shown_rows, QWidget& parent);
+    /// @param room          what the grid asks for
+    GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent);
 
     /// Brings the view in step with the grid at once instead of after the running event.
     void refresh();
@@ -50,13 +56,13 @@ class GridView : public QTableView {
     WidgetKit* kit_;
     platform::Grid* grid_;
     GridModel model_;
-    int shown_rows_;
+    GridRoom room_;
     bool stale_ = false;
     bool laying_out_ = false;
     std::optional<platform::GridCell> pressed_;
 };
 
 /// Builds the view of a grid and binds it.
-GridView& makeGrid(WidgetKit& kit, platform::Grid& grid, int choice_column, int shown_rows, QWidget& parent);
+GridView& makeGrid(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent);
 
 }  // namespace mero::qt

@@ -17,8 +17,8 @@ namespace mero::forms {
 namespace {
 
 /// The size that the window asks for, where the screen has room for it.
-constexpr int kWidthCharacters = 150;
-constexpr int kHeightLines = 42;
+constexpr int kWidthCharacters = 166;
+constexpr int kHeightLines = 44;
 
 }  // namespace
 

@@ -22,7 +22,7 @@ QWidget& buildChoice(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent)
     row->setSpacing(2 * qt::gap(frame));
     row->addWidget(&buildOptions(kit, form.optSelType, frame));
     QComboBox& types = qt::makeDropList(kit, form.cboSelType, frame);
-    types.setMinimumContentsLength(42);
+    types.setMinimumContentsLength(32);
     qt::describe(types, QStringLiteral("Typ vsakování"));
     row->addWidget(&types);
     row->addStretch(1);

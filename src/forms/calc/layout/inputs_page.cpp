@@ -46,6 +46,7 @@ QWidget& buildFields(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent)
     addButton(kit, fields, form.cmdEdit[2], soil);
     fields.text(form.txtTypPudyPodlozi, QStringLiteral("Typ nesoudržné horniny"));
     fields.input(form.txtHPV, QStringLiteral("Hladina podzemní vody (pod povrchem)"), QStringLiteral("m"));
+    fields.end();
     return frame;
 }
 

@@ -21,6 +21,9 @@ const QString kHours = QStringLiteral("h");
 const QString kMetresPerSecond = QStringLiteral("m/s");
 const QString kMillimetres = QStringLiteral("mm");
 
+/// In a very wide window the results stay near the inputs [characters].
+constexpr int kWidestPanel = 200;
+
 void addArea(frmCalcControls& form, int type, FieldGrid& results) {
     results.result(form.txtVsakPlocha[type], QStringLiteral("Plocha potřebná pro vsakování"), kSquareMetres);
 }
@@ -144,6 +147,7 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalcControls& form, int type, QWidg
     auto* whole = new QVBoxLayout(&panel);
     whole->setContentsMargins(0, 0, 0, 0);
     auto* columns = new qt::FlowPair(panel);
+    columns->setMaximumWidth(qt::textWidth(panel, kWidestPanel));
     auto& inputs_box = *new QGroupBox(QStringLiteral("Vstupy"), columns);
     auto& results_box = *new QGroupBox(QStringLiteral("Výsledky"), columns);
     columns->add(inputs_box, 1);

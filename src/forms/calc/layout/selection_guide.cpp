@@ -29,12 +29,12 @@ struct Region {
 
 const std::array<Region, 7>& regions() {
     static const std::array<Region, 7> kRegions{{
-        {"vícesložkový systém", {0.0, 0.0, 0.25, 0.64}, {0.25, 0.35, 0.4}},
+        {"vícesložkový systém", {0.0, 0.0, 0.3, 0.64}, {0.25, 0.35, 0.4}},
         {"vsakovací nádrže", {0.0, 0.67, 0.48, 0.33}, {0.4, 0.6, 0}},
         {"plošné vsakování", {0.5, 0.8, 0.5, 0.2}, {1, 0, 0}},
         {"vsakování v průlehu", {0.5, 0.59, 0.5, 0.19}, {0.7, 0.3, 0}},
-        {"kombinace průlehu a rýhy", {0.27, 0.39, 0.55, 0.18}, {0.5, 0.5, 0}},
-        {"vsakování rýhové a trubní", {0.37, 0.19, 0.63, 0.18}, {0.55, 0.45, 0}},
+        {"kombinace průlehu a rýhy", {0.32, 0.39, 0.56, 0.18}, {0.5, 0.5, 0}},
+        {"vsakování rýhové a trubní", {0.4, 0.19, 0.6, 0.18}, {0.55, 0.45, 0}},
         {"šachtové vsakování", {0.5, 0.0, 0.5, 0.17}, {0.65, 0.35, 0}},
     }};
     return kRegions;
@@ -47,8 +47,8 @@ constexpr std::array<const char*, 3> kLegend{"vsakování", "akumulace", "přeto
 constexpr const char* kCapacityAxis = "vsakovací schopnost podloží";
 constexpr const char* kAreaAxis = "Vhodných ploch k dispozici";
 
-constexpr int kHintCharacters = 58;
-constexpr int kLeastCharacters = 44;
+constexpr int kHintCharacters = 62;
+constexpr int kLeastCharacters = 52;
 constexpr int kHintLines = 24;
 constexpr int kLeastLines = 19;
 

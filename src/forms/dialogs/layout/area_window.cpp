@@ -14,9 +14,8 @@ namespace {
 
 constexpr int kSurfaceChoiceColumn = 3;
 constexpr int kEntryChoiceColumn = 4;
-constexpr int kShownSurfaces = 9;
-constexpr int kShownEntries = 4;
-constexpr int kWidthCharacters = 118;
+constexpr qt::GridRoom kSurfaceRoom{.characters = 128, .rows = 10};
+constexpr qt::GridRoom kEntryRoom{.characters = 128, .rows = 4};
 constexpr int kNumberCharacters = 14;
 
 QLabel& caption(const QString& text, QWidget& parent) {
@@ -47,16 +46,13 @@ QLineEdit& addField(qt::WidgetKit& kit, QHBoxLayout& row, QWidget& parent, platf
 void AreaWindow::build(QWidget& content) {
     auto* column = new QVBoxLayout(&content);
     qt::GridView& surfaces =
-        qt::makeGrid(kit(), form_->fgSoucPovrchOdtok, kSurfaceChoiceColumn, kShownSurfaces, content);
+        qt::makeGrid(kit(), form_->fgSoucPovrchOdtok, kSurfaceChoiceColumn, kSurfaceRoom, content);
     qt::describe(surfaces, QStringLiteral("Typy ploch"));
-    surfaces.setMinimumHeight(fontMetrics().height() * 6);
+    surfaces.setMinimumHeight(fontMetrics().height() * 5);
     column->addWidget(&surfaces, 3);
     column->addWidget(&buildEntry(content));
     column->addWidget(&buildEntries(content), 2);
     column->addWidget(&buildFoot(content));
-    // The widths of the columns follow from the window's, and the heights of the rows from theirs.
-    content.setMinimumWidth(qt::textWidth(content, kWidthCharacters / 2));
-    resize(qt::textWidth(*this, kWidthCharacters), fontMetrics().height() * 38);
 }
 
 QWidget& AreaWindow::buildEntry(QWidget& parent) {
@@ -74,12 +70,12 @@ QWidget& AreaWindow::buildEntries(QWidget& parent) {
     auto& place = *new QWidget(&parent);
     auto* row = new QHBoxLayout(&place);
     row->setContentsMargins(0, 0, 0, 0);
-    qt::GridView& entries = qt::makeGrid(kit(), form_->fgZapisTab, kEntryChoiceColumn, kShownEntries, place);
+    qt::GridView& entries = qt::makeGrid(kit(), form_->fgZapisTab, kEntryChoiceColumn, kEntryRoom, place);
     qt::describe(entries, QStringLiteral("Zapsané dílčí plochy"));
     qt::makeCellEditor(kit(), form_->txtSChange, entries, form_->fgZapisTab);
     row->addWidget(&entries, 1);
     // The grid is hidden while there are no entries; its place stays, so that nothing jumps.
-    place.setMinimumHeight(fontMetrics().height() * 9);
+    place.setMinimumHeight(fontMetrics().height() * 6);
     return place;
 }
 

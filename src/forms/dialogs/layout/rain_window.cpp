@@ -1,6 +1,7 @@
 /// Setting out of the rain dialog.
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
@@ -15,7 +16,7 @@ namespace mero::forms {
 namespace {
 
 constexpr int kChoiceColumn = 2;
-constexpr int kShownRows = 9;
+constexpr qt::GridRoom kRoom{.characters = 58, .rows = 9};
 
 }  // namespace
 
@@ -54,7 +55,7 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     note.setFont(font);
     column->addWidget(&note);
 
-    qt::GridView& table = qt::makeGrid(kit(), form_->fgIntDeste, kChoiceColumn, kShownRows, side);
+    qt::GridView& table = qt::makeGrid(kit(), form_->fgIntDeste, kChoiceColumn, kRoom, side);
     qt::describe(table, QStringLiteral("Intenzity trvání deště"));
     qt::makeCellEditor(kit(), form_->txtSChange, table, form_->fgIntDeste);
     column->addWidget(&table, 1);
@@ -78,6 +79,12 @@ QWidget& RainWindow::buildHelp(QWidget& parent) {
     qt::describe(help, QStringLiteral("Nápověda"));
     column->addWidget(&help, 1);
     column->addWidget(&qt::makeButton(kit(), form_->cmdCloseHelp, side), 0, Qt::AlignRight);
+    // The help widens the window; without it the window is as it was.
+    qt::follow(form_->txtHelp, *this, [this](platform::Aspect aspect) {
+        if (aspect == platform::Aspect::Visible && !form_->txtHelp.visible()) {
+            QTimer::singleShot(0, this, [this] { adjustSize(); });
+        }
+    });
     return side;
 }
 

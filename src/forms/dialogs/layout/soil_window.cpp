@@ -10,13 +10,13 @@ namespace mero::forms {
 namespace {
 
 constexpr int kChoiceColumn = 2;
-constexpr int kShownRows = 8;
+constexpr qt::GridRoom kRoom{.characters = 76, .rows = 8};
 
 }  // namespace
 
 void SoilWindow::build(QWidget& content) {
     auto* column = new QVBoxLayout(&content);
-    qt::GridView& soils = qt::makeGrid(kit(), form_->fgCoefProp, kChoiceColumn, kShownRows, content);
+    qt::GridView& soils = qt::makeGrid(kit(), form_->fgCoefProp, kChoiceColumn, kRoom, content);
     qt::describe(soils, QStringLiteral("Součinitel filtrace"));
     column->addWidget(&soils, 1);
     auto* foot = new QHBoxLayout;
