@@ -1,0 +1,164 @@
+// mero: the program with its window.
+// With --script a script's hands work the same widgets, and the trace goes to standard output.
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTimer>
+#include <QTranslator>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "app/common/options.h"
+#include "app/common/program_folder.h"
+#include "app/mero/qt_desk.h"
+#include "app/mero/qt_user.h"
+#include "app/mero/script_feed.h"
+#include "automation/script_runner.h"
+#include "automation/trace_desk.h"
+#include "data/rain_database.h"
+#include "forms/calc/layout/calc_window.h"
+#include "forms/calc/program.h"
+#include "platform/locale_settings.h"
+#include "platform/numbers/numeric_locale.h"
+#include "report/code_page.h"
+
+namespace {
+
+using namespace mero;
+
+constexpr int kUnusable = 2;
+constexpr int kClockPeriodMs = 1000;
+
+constexpr const char* kHelp =
+    "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--script SCRIPT]\n"
+    "\n"
+    "Design of stormwater infiltration facilities.\n"
+    "\n"
+    "  --folder DIR      the program's folder: mero.mdb, Webs, the report file\n"
+    "  --clock TIME      freezes date and time\n"
+    "  --script SCRIPT   works the window from a script (a UTF-8 file, - for standard input), prints the\n"
+    "                    trace, one JSON object per line, and exits when the script ends\n"
+    "  --help            this text\n"
+    "  --version         the version\n"
+    "\n"
+    "Exit status: 0 ordinary end, 1 a run-time error ended the program, 2 unusable script or arguments.\n";
+
+std::string readScript(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::string script{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    if (!file.is_open() || file.bad() || (file.fail() && !file.eof())) {
+        throw app::UsageError("cannot read the script " + path);
+    }
+    return script;
+}
+
+/// The window system's own texts (context menus, file dialogs) in the program's language, where installed.
+void translateSystemTexts(QTranslator& translator) {
+    if (translator.load(QStringLiteral("qtbase_cs"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&translator);
+    }
+}
+
+/// The running program with its window.
+class Mero {
+  public:
+    Mero(const app::RunOptions& options, std::string script)
+        : scripted_(!options.script.empty()),
+          script_name_(options.script),
+          script_(std::move(script)),
+          folder_(options.folder.empty() ? app::defaultProgramFolder() : options.folder),
+          real_desk_(scripted_ ? app::Sitter::Script : app::Sitter::Person, report::fromWindows1250),
+          trace_desk_(std::cout, &real_desk_, folder_),
+          clock_(options.frozen_moment ? std::unique_ptr<platform::Clock>(
+                                             std::make_unique<platform::FrozenClock>(*options.frozen_moment))
+                                       : std::make_unique<platform::SystemClock>()),
+          rain_database_(app::rainReaderProgram()),
+          program_({desk(), *clock_, locale_, rain_database_, folder_}),
+          kit_([this](const std::function<void()>& event) { program_.enter(event); },
+               scripted_ ? qt::FocusEvents::RunNothing : qt::FocusEvents::RunHandlers),
+          window_(kit_, program_.window(), {report::fromWindows1250, [this](const std::string& address) {
+                                                desk().openAddress(address);
+                                            }}) {
+        real_desk_.setMainWindow(&window_);
+        program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
+    }
+
+    int run() {
+        program_.start();
+        if (program_.ended()) {
+            return program_.exitStatus();
+        }
+        return scripted_ ? runScript() : runForPerson();
+    }
+
+  private:
+    platform::Desk& desk() {
+        return scripted_ ? static_cast<platform::Desk&>(trace_desk_)
+                         : static_cast<platform::Desk&>(real_desk_);
+    }
+
+    int runForPerson() {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &window_,
+                         [this] { program_.enter([this] { program_.window().Timer1_Timer(); }); });
+        timer.start(kClockPeriodMs);
+        return QApplication::exec();
+    }
+
+    int runScript() {
+        app::QtUser user(program_, kit_);
+        automation::ScriptRunner runner(program_, user, trace_desk_, std::cerr, script_name_);
+        app::ScriptFeed feed(runner, [](int exit_status) { QApplication::exit(exit_status); });
+        QTimer::singleShot(0, &feed, [this, &feed] {
+            script_name_ == "-" ? feed.feedStandardInput() : feed.feedAll(script_);
+        });
+        return QApplication::exec();
+    }
+
+    bool scripted_;
+    std::string script_name_;
+    std::string script_;
+    std::string folder_;
+    app::QtDesk real_desk_;
+    automation::TraceDesk trace_desk_;
+    std::unique_ptr<platform::Clock> clock_;
+    platform::ProgramLocale locale_;
+    data::MdbRainDatabase rain_database_;
+    forms::Program program_;
+    qt::WidgetKit kit_;
+    forms::CalcWindow window_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+        const app::RunOptions options = app::parseRunOptions(arguments, app::ScriptArgument::WithOption);
+        if (options.help || options.version) {
+            std::cout << (options.help ? kHelp : "mero " MERO_VERSION "\n");
+            return 0;
+        }
+        std::string script;
+        if (!options.script.empty() && options.script != "-") {
+            script = readScript(options.script);
+        }
+        // All arguments are the program's own; the window system gets none of them.
+        int window_system_arguments = 1;
+        QApplication application(window_system_arguments, argv);
+        numbers::useNumericCLocale();
+        QTranslator translator;
+        translateSystemTexts(translator);
+        QApplication::setQuitOnLastWindowClosed(false);
+        Mero mero(options, std::move(script));
+        return mero.run();
+    } catch (const app::UsageError& error) {
+        std::cerr << "mero: " << error.what() << '\n';
+        return kUnusable;
+    }
+}

@@ -1,0 +1,109 @@
+/// Boxes and dialogs of the window system.
+/// A printer is asked for only when the preview opens: looking for the default printer can take long.
+#include "app/mero/qt_desk.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QUrl>
+#include <utility>
+
+#include "platform/qt/texts.h"
+
+namespace mero::app {
+namespace {
+
+using qt::shown;
+
+QMessageBox::Icon boxIcon(platform::MessageIcon icon) {
+    switch (icon) {
+        case platform::MessageIcon::Critical:
+            return QMessageBox::Critical;
+        case platform::MessageIcon::Exclamation:
+            return QMessageBox::Warning;
+        case platform::MessageIcon::Information:
+            return QMessageBox::Information;
+        case platform::MessageIcon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+QtDesk::QtDesk(Sitter sitter, qt::Decoder decode) : sitter_(sitter), decode_(std::move(decode)) {}
+
+QWidget* QtDesk::window() const {
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr ? active : main_window_.data();
+}
+
+void QtDesk::showMessage(const platform::Message& message) {
+    QMessageBox box(boxIcon(message.icon), shown(message.title.value_or(platform::kApplicationTitle)),
+                    shown(message.text).replace(QLatin1String("\r\n"), QLatin1String("\n")).trimmed(),
+                    QMessageBox::Ok, window());
+    box.setObjectName(QStringLiteral("message"));
+    box.setTextFormat(Qt::PlainText);
+    if (sitter_ == Sitter::Person) {
+        box.exec();
+        return;
+    }
+    box.setWindowModality(Qt::ApplicationModal);
+    box.show();
+    QApplication::processEvents();
+    box.done(QMessageBox::Ok);
+}
+
+void QtDesk::reportError(const RuntimeError& error) {
+    QString text = QStringLiteral("Chyba za běhu programu č. %1: %2.")
+                       .arg(QString::number(error.number()), shown(error.description()));
+    if (error.endsProgram()) {
+        text += QStringLiteral("\n\nProgram bude ukončen.");
+    }
+    showMessage({qt::stored(text), platform::MessageIcon::Critical});
+}
+
+void QtDesk::openAddress(const std::string& address) {
+    if (sitter_ == Sitter::Person && !QDesktopServices::openUrl(QUrl(shown(address)))) {
+        showMessage({"Adresu " + address + " se nepodařilo otevřít.", platform::MessageIcon::Exclamation});
+    }
+}
+
+// What happens to forms and views is seen on the screen.
+void QtDesk::formOpened(const std::string& /*form*/) {}
+void QtDesk::formClosed(const std::string& /*form*/) {}
+void QtDesk::navigated(const std::string& /*view*/, const std::string& /*path*/) {}
+void QtDesk::saved(const std::string& /*path*/) {}
+void QtDesk::ended() {}
+
+void QtDesk::openPrintPreview(const std::string& path) {
+    if (sitter_ == Sitter::Script) {
+        return;
+    }
+    qt::LocalDocument document(decode_);
+    document.setDefaultFont(QApplication::font());
+    document.load(shown(path));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    QPrintPreviewDialog preview(&printer, window());
+    preview.setWindowTitle(QStringLiteral("Náhled před tiskem"));
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &document,
+                     [&document](QPrinter* target) { document.print(target); });
+    preview.exec();
+}
+
+std::optional<std::string> QtDesk::askSavePath(const std::string& suggested_path) {
+    QFileDialog dialog(window(), QStringLiteral("Uložit výsledky"), shown(suggested_path),
+                       QStringLiteral("Stránka HTML (*.html *.htm)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("html"));
+    if (sitter_ == Sitter::Script || dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return qt::stored(dialog.selectedFiles().constFirst());
+}
+
+}  // namespace mero::app

@@ -1,0 +1,43 @@
+/// The real desk: message boxes, the browser, save dialog and print preview of the window system.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/desk.h"
+#include "platform/qt/local_document.h"
+
+namespace mero::app {
+
+/// Who sits at the desk: a person, who closes boxes and dialogs, or a script, for which boxes are shown and
+/// closed at once and nothing leaves the program.
+enum class Sitter { Person, Script };
+
+class QtDesk : public platform::Desk {
+  public:
+    /// @param decode see LocalDocument; for the print preview
+    QtDesk(Sitter sitter, qt::Decoder decode);
+
+    /// The window over which boxes show while no other window of the program is active.
+    void setMainWindow(QWidget* window) { main_window_ = window; }
+
+    void showMessage(const platform::Message& message) override;
+    void reportError(const RuntimeError& error) override;
+    void openAddress(const std::string& address) override;
+    void formOpened(const std::string& form) override;
+    void formClosed(const std::string& form) override;
+    void navigated(const std::string& view, const std::string& path) override;
+    void openPrintPreview(const std::string& path) override;
+    std::optional<std::string> askSavePath(const std::string& suggested_path) override;
+    void saved(const std::string& path) override;
+    void ended() override;
+
+  private:
+    [[nodiscard]] QWidget* window() const;
+
+    Sitter sitter_;
+    qt::Decoder decode_;
+    QPointer<QWidget> main_window_;
+};
+
+}  // namespace mero::app

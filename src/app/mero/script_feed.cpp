@@ -1,0 +1,80 @@
+/// Reading and performing of a script's lines.
+/// While a line is performed, boxes let other events run: no second line is begun then.
+#include "app/mero/script_feed.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <utility>
+
+namespace mero::app {
+namespace {
+
+constexpr std::size_t kChunkBytes = 4096;
+
+}  // namespace
+
+using Step = automation::ScriptRunner::Step;
+
+ScriptFeed::ScriptFeed(automation::ScriptRunner& runner, std::function<void(int)> finished)
+    : runner_(&runner), finished_(std::move(finished)) {}
+
+void ScriptFeed::feedAll(const std::string& script) {
+    pending_ = script;
+    performLines();
+    if (!done_ && !pending_.empty()) {
+        perform(std::exchange(pending_, {}));
+    }
+    finish();
+}
+
+void ScriptFeed::feedStandardInput() {
+    notifier_ = std::make_unique<QSocketNotifier>(STDIN_FILENO, QSocketNotifier::Read);
+    connect(notifier_.get(), &QSocketNotifier::activated, this, [this] { readMore(); });
+}
+
+void ScriptFeed::readMore() {
+    if (performing_ || done_) {
+        return;
+    }
+    notifier_->setEnabled(false);
+    std::array<char, kChunkBytes> chunk{};
+    const ssize_t count = read(STDIN_FILENO, chunk.data(), chunk.size());
+    if (count > 0) {
+        pending_.append(chunk.data(), static_cast<std::size_t>(count));
+        performLines();
+    } else if (count == 0 || errno != EINTR) {
+        if (!pending_.empty()) {
+            perform(std::exchange(pending_, {}));
+        }
+        finish();
+    }
+    notifier_->setEnabled(!done_);
+}
+
+void ScriptFeed::performLines() {
+    for (std::size_t end = pending_.find('\n'); end != std::string::npos && !done_;
+         end = pending_.find('\n')) {
+        const std::string line = pending_.substr(0, end);
+        pending_.erase(0, end + 1);
+        perform(line);
+    }
+}
+
+void ScriptFeed::perform(const std::string& line) {
+    performing_ = true;
+    last_ = runner_->execute(line, ++line_number_);
+    performing_ = false;
+    if (last_ != Step::Continue) {
+        finish();
+    }
+}
+
+void ScriptFeed::finish() {
+    if (!std::exchange(done_, true)) {
+        finished_(runner_->exitStatus(last_));
+    }
+}
+
+}  // namespace mero::app

@@ -1,0 +1,42 @@
+/// Brings a script's lines to the runner while the window lives: from a file, or as they arrive on standard
+/// input.
+#pragma once
+
+#include <QObject>
+#include <QSocketNotifier>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "automation/script_runner.h"
+
+namespace mero::app {
+
+class ScriptFeed : public QObject {
+  public:
+    /// @param finished called once with the exit status: at the script's end, at the program's, or at an
+    ///                 unusable line
+    ScriptFeed(automation::ScriptRunner& runner, std::function<void(int exit_status)> finished);
+
+    /// Performs all lines of a text.
+    void feedAll(const std::string& script);
+    /// Performs the lines of standard input as they come.
+    void feedStandardInput();
+
+  private:
+    void readMore();
+    void performLines();
+    void perform(const std::string& line);
+    void finish();
+
+    automation::ScriptRunner* runner_;
+    std::function<void(int)> finished_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+    std::string pending_;
+    int line_number_ = 0;
+    bool performing_ = false;
+    bool done_ = false;
+    automation::ScriptRunner::Step last_ = automation::ScriptRunner::Step::Continue;
+};
+
+}  // namespace mero::app

@@ -1,0 +1,50 @@
+/// Building of the main window.
+/// Only the first tab is built at the start; everything else when it is first shown.
+#include "forms/calc/layout/calc_window.h"
+
+#include <QScreen>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "forms/calc/layout/design_page.h"
+#include "forms/calc/layout/documents_pages.h"
+#include "forms/calc/layout/inputs_page.h"
+#include "forms/dialogs/layout/dialog_windows.h"
+#include "platform/qt/look.h"
+#include "platform/qt/tab_view.h"
+
+namespace mero::forms {
+namespace {
+
+/// The size that the window asks for, where the screen has room for it.
+constexpr int kWidthCharacters = 166;
+constexpr int kHeightLines = 44;
+
+}  // namespace
+
+CalcWindow::CalcWindow(qt::WidgetKit& kit, frmCalc& form, qt::DocumentServices services)
+    : FormWindow(kit, form, nullptr),
+      form_(&form),
+      services_(std::move(services)),
+      rain_window_(std::make_unique<RainWindow>(kit, form.intDialog, *this)),
+      area_window_(std::make_unique<AreaWindow>(kit, form.areaDialog, *this)),
+      soil_window_(std::make_unique<SoilWindow>(kit, form.coefDialog, *this)) {}
+
+CalcWindow::~CalcWindow() = default;
+
+void CalcWindow::build(QWidget& content) {
+    auto* column = new QVBoxLayout(&content);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto& tabs = *new qt::TabView(kit(), form_->SSTab1, content);
+    column->addWidget(&tabs);
+    tabs.setPage(kTabInputs, [this](QWidget& page) { buildInputsPage(kit(), *form_, page); });
+    tabs.setPage(kTabDesign, [this](QWidget& page) { buildDesignPage(kit(), *form_, page); });
+    tabs.setPage(kTabTechnology,
+                 [this](QWidget& page) { buildTechnologyPage(kit(), *form_, services_, page); });
+    tabs.setPage(kTabResults, [this](QWidget& page) { buildResultsPage(kit(), *form_, services_, page); });
+
+    const QSize wanted(qt::textWidth(*this, kWidthCharacters), fontMetrics().height() * kHeightLines);
+    resize(wanted.boundedTo(screen()->availableGeometry().size()));
+}
+
+}  // namespace mero::forms

@@ -1,0 +1,33 @@
+/// The main window: the tab control with its four tabs, and the windows of the three dialogs.
+#pragma once
+
+#include <memory>
+
+#include "forms/calc/frm_calc.h"
+#include "platform/qt/document_view.h"
+#include "platform/qt/form_window.h"
+#include "platform/qt/widget_kit.h"
+
+namespace mero::forms {
+
+class CalcWindow : public qt::FormWindow {
+  public:
+    CalcWindow(qt::WidgetKit& kit, frmCalc& form, qt::DocumentServices services);
+    ~CalcWindow() override;
+    CalcWindow(const CalcWindow&) = delete;
+    CalcWindow& operator=(const CalcWindow&) = delete;
+    CalcWindow(CalcWindow&&) = delete;
+    CalcWindow& operator=(CalcWindow&&) = delete;
+
+  protected:
+    void build(QWidget& content) override;
+
+  private:
+    frmCalc* form_;
+    qt::DocumentServices services_;
+    std::unique_ptr<qt::FormWindow> rain_window_;
+    std::unique_ptr<qt::FormWindow> area_window_;
+    std::unique_ptr<qt::FormWindow> soil_window_;
+};
+
+}  // namespace mero::forms

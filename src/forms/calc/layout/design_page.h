@@ -1,0 +1,13 @@
+/// The tab "Výpočet": the choice of the type and the six result panels.
+#pragma once
+
+#include <QWidget>
+
+#include "forms/calc/frm_calc_controls.h"
+#include "platform/qt/widget_kit.h"
+
+namespace mero::forms {
+
+void buildDesignPage(qt::WidgetKit& kit, frmCalcControls& form, QWidget& page);
+
+}  // namespace mero::forms

@@ -1,0 +1,13 @@
+/// The tab "Základní informace": project, hydraulic inputs, selection guide, clock, links.
+#pragma once
+
+#include <QWidget>
+
+#include "forms/calc/frm_calc_controls.h"
+#include "platform/qt/widget_kit.h"
+
+namespace mero::forms {
+
+void buildInputsPage(qt::WidgetKit& kit, frmCalcControls& form, QWidget& page);
+
+}  // namespace mero::forms

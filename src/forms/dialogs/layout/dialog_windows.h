@@ -1,0 +1,57 @@
+/// The windows of the three input dialogs.
+#pragma once
+
+#include "forms/dialogs/frm_coef_dialog.h"
+#include "forms/dialogs/frm_dialog.h"
+#include "forms/dialogs/frm_int_dialog.h"
+#include "platform/qt/form_window.h"
+
+namespace mero::forms {
+
+/// The design rain: station, periodicity, the table of intensities, help.
+class RainWindow : public qt::FormWindow {
+  public:
+    RainWindow(qt::WidgetKit& kit, frmIntDialog& form, FormWindow& owner)
+        : FormWindow(kit, form, &owner), form_(&form) {}
+
+  protected:
+    void build(QWidget& content) override;
+
+  private:
+    QWidget& buildTable(QWidget& parent);
+    QWidget& buildHelp(QWidget& parent);
+
+    frmIntDialog* form_;
+};
+
+/// The drained area: the surfaces, the entry of a partial area, the table of entries.
+class AreaWindow : public qt::FormWindow {
+  public:
+    AreaWindow(qt::WidgetKit& kit, frmDialog& form, FormWindow& owner)
+        : FormWindow(kit, form, &owner), form_(&form) {}
+
+  protected:
+    void build(QWidget& content) override;
+
+  private:
+    QWidget& buildEntry(QWidget& parent);
+    QWidget& buildEntries(QWidget& parent);
+    QWidget& buildFoot(QWidget& parent);
+
+    frmDialog* form_;
+};
+
+/// The soil: the table of filtration coefficients.
+class SoilWindow : public qt::FormWindow {
+  public:
+    SoilWindow(qt::WidgetKit& kit, frmCoefDialog& form, FormWindow& owner)
+        : FormWindow(kit, form, &owner), form_(&form) {}
+
+  protected:
+    void build(QWidget& content) override;
+
+  private:
+    frmCoefDialog* form_;
+};
+
+}  // namespace mero::forms

@@ -1,0 +1,91 @@
+/// Setting out of the rain dialog.
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "forms/dialogs/layout/dialog_windows.h"
+#include "platform/qt/buttons.h"
+#include "platform/qt/cell_editor_box.h"
+#include "platform/qt/drop_list_box.h"
+#include "platform/qt/field_grid.h"
+#include "platform/qt/look.h"
+#include "platform/qt/text_fields.h"
+
+namespace mero::forms {
+namespace {
+
+constexpr int kChoiceColumn = 2;
+constexpr qt::GridRoom kRoom{.characters = 58, .rows = 9};
+
+}  // namespace
+
+void RainWindow::build(QWidget& content) {
+    auto* columns = new QHBoxLayout(&content);
+    columns->addWidget(&buildTable(content), 1);
+    columns->addWidget(&buildHelp(content));
+}
+
+QWidget& RainWindow::buildTable(QWidget& parent) {
+    auto& side = *new QWidget(&parent);
+    auto* column = new QVBoxLayout(&side);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto& choice = *new QWidget(&side);
+    qt::FieldGrid fields(kit(), choice);
+    choice.layout()->setContentsMargins(0, 0, 0, 0);
+    fields.widget(QStringLiteral("Stanice"), qt::makeDropList(kit(), form_->cboSelStanice, choice));
+    QComboBox& periodicity = qt::makeDropList(kit(), form_->cboSelPeriod, choice);
+    periodicity.setMinimumContentsLength(8);
+    QPushButton& help = qt::makeButton(kit(), form_->cmdEdit, choice);
+    help.setAccessibleName(QStringLiteral("Nápověda"));
+    help.setFixedWidth(help.sizeHint().height() * 5 / 4);
+    auto& pair = *new QWidget(&choice);
+    auto* row = new QHBoxLayout(&pair);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(&periodicity);
+    row->addWidget(&help);
+    qt::describe(periodicity, QStringLiteral("Periodicita"));
+    fields.widget(QStringLiteral("Periodicita"), pair);
+    column->addWidget(&choice);
+
+    QLabel& note = qt::makeLabel(kit(), form_->lblDemo, side);
+    note.setWordWrap(true);
+    QFont font = note.font();
+    font.setItalic(true);
+    note.setFont(font);
+    column->addWidget(&note);
+
+    qt::GridView& table = qt::makeGrid(kit(), form_->fgIntDeste, kChoiceColumn, kRoom, side);
+    qt::describe(table, QStringLiteral("Intenzity trvání deště"));
+    qt::makeCellEditor(kit(), form_->txtSChange, table, form_->fgIntDeste);
+    column->addWidget(&table, 1);
+
+    auto* foot = new QHBoxLayout;
+    foot->addStretch(1);
+    foot->addWidget(&qt::makeButton(kit(), form_->cmdOK, side));
+    column->addLayout(foot);
+    return side;
+}
+
+QWidget& RainWindow::buildHelp(QWidget& parent) {
+    auto& side = *new QWidget(&parent);
+    auto* column = new QVBoxLayout(&side);
+    column->setContentsMargins(0, 0, 0, 0);
+    QPlainTextEdit& help = qt::makeTextArea(kit(), form_->txtHelp, side);
+    help.setReadOnly(true);
+    help.setFrameShape(QFrame::StyledPanel);
+    help.setBackgroundRole(QPalette::AlternateBase);
+    help.setFixedWidth(qt::textWidth(help, 46));
+    qt::describe(help, QStringLiteral("Nápověda"));
+    column->addWidget(&help, 1);
+    column->addWidget(&qt::makeButton(kit(), form_->cmdCloseHelp, side), 0, Qt::AlignRight);
+    // The help widens the window; without it the window is as it was.
+    qt::follow(form_->txtHelp, *this, [this](platform::Aspect aspect) {
+        if (aspect == platform::Aspect::Visible && !form_->txtHelp.visible()) {
+            QTimer::singleShot(0, this, [this] { adjustSize(); });
+        }
+    });
+    return side;
+}
+
+}  // namespace mero::forms

@@ -1,0 +1,28 @@
+/// Setting out of the soil dialog.
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "forms/dialogs/layout/dialog_windows.h"
+#include "platform/qt/buttons.h"
+#include "platform/qt/grid_view.h"
+
+namespace mero::forms {
+namespace {
+
+constexpr int kChoiceColumn = 2;
+constexpr qt::GridRoom kRoom{.characters = 76, .rows = 8};
+
+}  // namespace
+
+void SoilWindow::build(QWidget& content) {
+    auto* column = new QVBoxLayout(&content);
+    qt::GridView& soils = qt::makeGrid(kit(), form_->fgCoefProp, kChoiceColumn, kRoom, content);
+    qt::describe(soils, QStringLiteral("Součinitel filtrace"));
+    column->addWidget(&soils, 1);
+    auto* foot = new QHBoxLayout;
+    foot->addStretch(1);
+    foot->addWidget(&qt::makeButton(kit(), form_->cmdOK, content));
+    column->addLayout(foot);
+}
+
+}  // namespace mero::forms

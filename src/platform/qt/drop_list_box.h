@@ -1,0 +1,15 @@
+/// A drop-down list as a widget.
+#pragma once
+
+#include <QComboBox>
+
+#include "platform/controls/drop_list.h"
+#include "platform/qt/widget_kit.h"
+
+namespace mero::qt {
+
+/// Picking an entry runs the handler, also the entry that is selected already. The mouse wheel scrolls the
+/// page and never changes the choice by accident.
+QComboBox& makeDropList(WidgetKit& kit, platform::DropList& list, QWidget& parent);
+
+}  // namespace mero::qt

@@ -1,0 +1,41 @@
+/// The cells of a grid as an item model; the header row is the model's header.
+/// It reads the control itself, so nothing is kept twice but the shape of the table.
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "platform/controls/grid.h"
+
+namespace mero::qt {
+
+class GridModel : public QAbstractTableModel {
+  public:
+    /// @param choice_column column whose cells carry the pictures
+    GridModel(const platform::Grid& grid, int choice_column, QObject* parent);
+
+    /// Takes over what the grid now holds. Returns true when rows or columns were added or removed.
+    bool refresh();
+
+    [[nodiscard]] int choiceColumn() const { return choice_column_; }
+    /// The grid's cell of a model index: the header is row 0 there.
+    [[nodiscard]] static platform::GridCell cellOf(const QModelIndex& index) {
+        return {index.row() + 1, index.column()};
+    }
+    /// The picture of a cell, none outside the grid.
+    [[nodiscard]] std::optional<bool> mark(const QModelIndex& index) const;
+    /// Whether the row of that cell carries the marked picture.
+    [[nodiscard]] bool rowIsMarked(int row) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  private:
+    const platform::Grid* grid_;
+    int choice_column_;
+    int rows_ = 0;
+    int columns_ = 0;
+};
+
+}  // namespace mero::qt

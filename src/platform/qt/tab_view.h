@@ -1,0 +1,33 @@
+/// A tab control as a widget whose pages are built when they are first shown.
+#pragma once
+
+#include <QTabWidget>
+#include <functional>
+#include <map>
+
+#include "platform/controls/containers.h"
+#include "platform/qt/widget_kit.h"
+
+namespace mero::qt {
+
+class TabView : public QTabWidget {
+  public:
+    using Builder = std::function<void(QWidget& page)>;
+
+    TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent);
+
+    /// How a page gets its content. The page that is shown now gets it at once.
+    void setPage(int position, Builder builder);
+
+    /// Where a tab is drawn, in coordinates of the tab bar.
+    [[nodiscard]] QRect tabRect(int position) const;
+
+  private:
+    void showPosition();
+    void buildPage(int position);
+
+    platform::TabControl* tabs_;
+    std::map<int, Builder> builders_;
+};
+
+}  // namespace mero::qt
