@@ -1,0 +1,63 @@
+// The program's own separators: read like the platform's, taken from the environment, set without harm.
+#include "platform/locale_settings.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "support/errors.h"
+
+namespace mero::platform {
+namespace {
+
+std::string read(ProgramLocale& locale, LocaleItem item) {
+    std::vector<char> buffer(locale.read(0, item, {}), 'x');
+    EXPECT_EQ(locale.read(0, item, buffer), buffer.size());
+    EXPECT_EQ(buffer.back(), '\0');
+    return {buffer.begin(), buffer.end() - 1};
+}
+
+TEST(ProgramLocale, TheIdentifiersAreThePlatforms) {
+    EXPECT_EQ(static_cast<int>(LocaleItem::DecimalSeparator), 14);
+    EXPECT_EQ(static_cast<int>(LocaleItem::ThousandsSeparator), 15);
+    EXPECT_EQ(static_cast<int>(LocaleItem::ListSeparator), 12);
+}
+
+TEST(ProgramLocale, ASizeIsToldWithTheClosingZero) {
+    ProgramLocale locale(",", "", "; ");
+    EXPECT_EQ(locale.read(0, LocaleItem::DecimalSeparator, {}), 2U);
+    EXPECT_EQ(locale.read(0, LocaleItem::ThousandsSeparator, {}), 1U);
+    EXPECT_EQ(locale.read(0, LocaleItem::ListSeparator, {}), 3U);
+}
+
+TEST(ProgramLocale, GivesBackWhatWasWritten) {
+    ProgramLocale locale(",", "\xC2\xA0", ";");
+    EXPECT_EQ(read(locale, LocaleItem::ThousandsSeparator), "\xC2\xA0");
+    locale.write(0, LocaleItem::ThousandsSeparator, "");
+    EXPECT_EQ(read(locale, LocaleItem::ThousandsSeparator), "");
+    EXPECT_EQ(locale.text(LocaleItem::DecimalSeparator), ",");
+}
+
+TEST(ProgramLocale, ABufferThatIsTooSmallIsAnError) {
+    ProgramLocale locale("::", "", ";");
+    std::vector<char> small(2);
+    EXPECT_EQ(test::errorNumberOf([&] { return locale.read(0, LocaleItem::DecimalSeparator, small); }), 5);
+}
+
+TEST(ProgramLocale, TheIdentifierFitsIn16Bits) {
+    EXPECT_GT(ProgramLocale().userDefaultLocale(), 0);
+    EXPECT_LE(ProgramLocale().userDefaultLocale(), 32767);
+}
+
+TEST(ProgramLocale, LeavesTheProcesssLocaleAlone) {
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    ProgramLocale locale;
+    locale.write(0, LocaleItem::DecimalSeparator, "!");
+    EXPECT_EQ(std::setlocale(LC_ALL, nullptr), before);
+}
+
+}  // namespace
+}  // namespace mero::platform
