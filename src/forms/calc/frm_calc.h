@@ -132,7 +132,8 @@ class frmCalc : public frmCalcControls {
     /// Index of the selected soil option, -1 when none is.
     [[nodiscard]] static int soilOption(const ControlArray<OptionButton>& options);
     void fillShaftList();
-    void recomputeShaftDiameters();
+    void recomputeRoundOuterDiameter();
+    void recomputeEquivalentDiameters();
 
     void enterTechnologyTab(int previous_tab);
     void enterResultsTab(int previous_tab);

@@ -28,6 +28,10 @@ void frmCalc::optSelTypSachty_Click() {
     txtTloustkaSteny.setText("");
     ShaftShape = optSelTypSachty[kRectangular].selected() ? kRectangular : kRound;
     fillShaftList();
+    if (ShaftShape == kRound) {
+        // The equivalent diameter of a rectangular shaft that was chosen before does not outlive it.
+        recomputeRoundOuterDiameter();
+    }
     // A round shaft's outer diameter follows from its ring: nothing to type there.
     txtPrumerSachtyVnej.setEnabled(ShaftShape == kRectangular);
     txtPrumerSachtyVnej.setGreyed(ShaftShape == kRound);
@@ -52,7 +56,7 @@ void frmCalc::cboTypSachty_Click() {
         values_->txtPrumerSachtyVnit = row.inner_diameter_m;
         values_->txtTloustkaSteny = row.wall_m;
         values_->D_i = row.inner_diameter_m;
-        values_->D_a = calc::shaft_geometry::roundOuterDiameter(row.inner_diameter_m, row.wall_m);
+        recomputeRoundOuterDiameter();
         txtPrumerSachtyVnit.setText(numbers::fixed(row.inner_diameter_m, 2));
         txtPrumerSachtyVnej.setEnabled(false);
         txtTloustkaSteny.setText(numbers::fixed(row.wall_m, 2));
@@ -61,7 +65,7 @@ void frmCalc::cboTypSachty_Click() {
         values_->txtPrumerSachtyVnit = row.side1_m;
         values_->txtPrumerSachtyVnej = row.side2_m;
         values_->txtTloustkaSteny = row.wall_m;
-        recomputeShaftDiameters();
+        recomputeEquivalentDiameters();
         txtPrumerSachtyVnit.setText(numbers::fixed(row.side1_m, 2));
         txtPrumerSachtyVnej.setEnabled(true);
         txtPrumerSachtyVnej.setText(numbers::fixed(row.side2_m, 2));
@@ -69,7 +73,11 @@ void frmCalc::cboTypSachty_Click() {
     }
 }
 
-void frmCalc::recomputeShaftDiameters() {
+void frmCalc::recomputeRoundOuterDiameter() {
+    values_->D_a = calc::shaft_geometry::roundOuterDiameter(values_->D_i, values_->txtTloustkaSteny);
+}
+
+void frmCalc::recomputeEquivalentDiameters() {
     const float side1_m = values_->txtPrumerSachtyVnit;
     const float side2_m = values_->txtPrumerSachtyVnej;
     values_->D_i = calc::shaft_geometry::equivalentInnerDiameter(side1_m, side2_m);
@@ -77,29 +85,34 @@ void frmCalc::recomputeShaftDiameters() {
 }
 
 void frmCalc::txtPrumerSachtyVnit_Change() {
-    const bool emptied = storeDimension(txtPrumerSachtyVnit, values_->txtPrumerSachtyVnit);
     if (ShaftShape == kRound) {
+        storeDimension(txtPrumerSachtyVnit, values_->txtPrumerSachtyVnit);
         values_->D_i = values_->txtPrumerSachtyVnit;
-        values_->D_a = calc::shaft_geometry::roundOuterDiameter(values_->D_i, values_->txtTloustkaSteny);
-    } else if (emptied) {
+        recomputeRoundOuterDiameter();
+        return;
+    }
+    // An emptied box only takes the inner diameter away: the side in store serves the next edit of another box.
+    float side1_m = values_->txtPrumerSachtyVnit;
+    if (storeDimension(txtPrumerSachtyVnit, side1_m)) {
         values_->D_i = 0;
     } else {
-        recomputeShaftDiameters();
+        values_->txtPrumerSachtyVnit = side1_m;
+        recomputeEquivalentDiameters();
     }
 }
 
 void frmCalc::txtPrumerSachtyVnej_Change() {
     if (!storeDimension(txtPrumerSachtyVnej, values_->txtPrumerSachtyVnej)) {
-        recomputeShaftDiameters();
+        recomputeEquivalentDiameters();
     }
 }
 
 void frmCalc::txtTloustkaSteny_Change() {
     const bool emptied = storeDimension(txtTloustkaSteny, values_->txtTloustkaSteny);
     if (ShaftShape == kRound) {
-        values_->D_a = calc::shaft_geometry::roundOuterDiameter(values_->D_i, values_->txtTloustkaSteny);
+        recomputeRoundOuterDiameter();
     } else if (!emptied) {
-        recomputeShaftDiameters();
+        recomputeEquivalentDiameters();
     }
 }
 

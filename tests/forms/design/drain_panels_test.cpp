@@ -1,0 +1,193 @@
+/// The sub-panels of overflow and drain: opening, confirming, refusing, re-opening.
+/// The two pages decide by different tests whether a confirmation is accepted.
+#include "forms/design/design_fixture.h"
+
+namespace mero::forms::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class DrainPanels : public DesignTest {
+  protected:
+    void combined() {
+        project.site("500", "1e-5");
+        project.choose(kSwaleTrench);
+        project.set(window.txtSoucFiltrPruleh[kSwaleTrench], "1e-4");
+        section(kSwaleTrench, "0.5", "0.5");
+    }
+    void trench() {
+        project.site("500", "1e-5");
+        project.choose(kTrench);
+        section(kTrench, "1", "1.5");
+    }
+    void section(int type, const std::string& width, const std::string& height) {
+        project.set(window.txtSirkaRyhy[type], width);
+        project.set(window.txtVyskaRyhy[type], height);
+    }
+    void pipe(int type, const std::string& inner_mm, const std::string& outer_mm) {
+        project.set(window.txtPrumTroubVnit[type], inner_mm);
+        project.set(window.txtPrumTroubVnej[type], outer_mm);
+    }
+    bool panelShown(int type) { return window.picPretokSkrOdtok[type].onScreen(); }
+};
+
+TEST_F(DrainPanels, TickingOpensAtItsOwnHeightAndEditingAtOne) {
+    combined();
+    EXPECT_FALSE(window.cmdEdit[kSwaleTrench].enabled());
+    project.click(window.chkSelPretok[kSwaleTrench]);
+    EXPECT_TRUE(panelShown(kSwaleTrench));
+    EXPECT_EQ(window.picPretokSkrOdtok[kSwaleTrench].left(), 0);
+    EXPECT_EQ(window.picPretokSkrOdtok[kSwaleTrench].top(), 3000);
+    EXPECT_TRUE(window.cmdEdit[kSwaleTrench].enabled());
+
+    trench();
+    EXPECT_FALSE(window.cmdEdit[kTrench].enabled());
+    project.click(window.chkSelPretok[kTrench]);
+    EXPECT_EQ(window.picPretokSkrOdtok[kTrench].left(), 0);
+    EXPECT_EQ(window.picPretokSkrOdtok[kTrench].top(), 2000);
+    pipe(kTrench, "200", "220");
+    project.click(window.cmdOK[kTrench]);
+    EXPECT_FALSE(panelShown(kTrench));
+    project.click(window.cmdEdit[kTrench]);
+    EXPECT_TRUE(panelShown(kTrench));
+    EXPECT_EQ(window.picPretokSkrOdtok[kTrench].left(), 0);
+    EXPECT_EQ(window.picPretokSkrOdtok[kTrench].top(), 3000);
+}
+
+TEST_F(DrainPanels, UntickingHidesAndClearsTheResults) {
+    trench();
+    project.calculate();
+    ASSERT_EQ(window.txtDelkaRyhy[kTrench].text(), "25.9");
+    project.click(window.chkSelPretok[kTrench]);
+    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "");
+    EXPECT_EQ(window.txtObjAkum[kTrench].text(), "");
+    EXPECT_EQ(window.txtVsakPlocha[kTrench].text(), "");
+    pipe(kTrench, "200", "220");
+    project.click(window.cmdOK[kTrench]);
+    project.calculate();
+    ASSERT_EQ(window.txtDelkaRyhy[kTrench].text(), "25.1");
+    project.click(window.chkSelPretok[kTrench]);
+    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "");
+    EXPECT_FALSE(panelShown(kTrench));
+    EXPECT_FALSE(window.cmdEdit[kTrench].enabled());
+    // Without the box the porosity is in force again.
+    project.calculate();
+    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "25.9");
+    EXPECT_EQ(values.s_RR, 0.35F);
+}
+
+TEST_F(DrainPanels, ThrottledOutflowShortensTheTrench) {
+    combined();
+    project.calculate();
+    project.messages();
+    project.click(window.chkSelPretok[kSwaleTrench]);
+    pipe(kSwaleTrench, "200", "220");
+    project.set(window.txtSpecDrenOdtok[kSwaleTrench], "3");
+    project.click(window.cmdOK[kSwaleTrench]);
+    EXPECT_FALSE(panelShown(kSwaleTrench));
+    // The confirmation clears the results and sizes the area again.
+    EXPECT_EQ(window.txtObjAkum[kSwaleTrench].text(), "");
+    EXPECT_EQ(window.txtVsakPlocha[kSwaleTrench].text(), "50.0");
+    EXPECT_EQ(values.Q_dr, 0.00015F);
+    EXPECT_EQ(values.s_RR, 0.42244512F);
+    project.calculate();
+    EXPECT_EQ(window.txtDelkaRyhy[kSwaleTrench].text(), "65.3");
+    EXPECT_EQ(window.txtHloubkaPrulehu[kSwaleTrench].text(), "0.21");
+    EXPECT_EQ(window.txtDobaPrazdneni[kSwaleTrench].text(), "1.2");
+    EXPECT_THAT(project.messages(),
+                ElementsAre(information("Navržená vsakovací plocha je dostatečná ( 32.63 < 50.00 ).")));
+    // Unticked, there is neither outflow nor pipe.
+    project.click(window.chkSelPretok[kSwaleTrench]);
+    project.calculate();
+    EXPECT_EQ(values.Q_dr, 0.0F);
+    EXPECT_EQ(values.s_RR, 0.35F);
+    EXPECT_EQ(window.txtDelkaRyhy[kSwaleTrench].text(), "85.9");
+}
+
+TEST_F(DrainPanels, OverflowWithoutOutflowIsRefused) {
+    combined();
+    project.click(window.chkSelPretok[kSwaleTrench]);
+    pipe(kSwaleTrench, "200", "220");
+    project.click(window.cmdOK[kSwaleTrench]);
+    EXPECT_FALSE(window.chkSelPretok[kSwaleTrench].checked());
+    EXPECT_FALSE(panelShown(kSwaleTrench));
+    EXPECT_FALSE(window.cmdEdit[kSwaleTrench].enabled());
+    EXPECT_EQ(values.Q_dr, 0.0F);
+    // It stopped before the pipe was looked at.
+    EXPECT_EQ(values.s_RR, 0.0F);
+}
+
+TEST_F(DrainPanels, OverflowNeedsNoPipe) {
+    // Without diameters the coefficient is the porosity, which is not 0: accepted.
+    combined();
+    project.click(window.chkSelPretok[kSwaleTrench]);
+    project.set(window.txtSpecDrenOdtok[kSwaleTrench], "3");
+    project.click(window.cmdOK[kSwaleTrench]);
+    EXPECT_TRUE(window.chkSelPretok[kSwaleTrench].checked());
+    EXPECT_FALSE(panelShown(kSwaleTrench));
+    EXPECT_EQ(values.s_RR, 0.35F);
+    project.calculate();
+    EXPECT_EQ(window.txtDelkaRyhy[kSwaleTrench].text(), "75.1");
+}
+
+TEST_F(DrainPanels, DrainNeedsBothDiametersButKeepsTheCoefficient) {
+    trench();
+    project.click(window.chkSelPretok[kTrench]);
+    pipe(kTrench, "200", "");
+    project.click(window.cmdOK[kTrench]);
+    EXPECT_FALSE(window.chkSelPretok[kTrench].checked());
+    EXPECT_FALSE(panelShown(kTrench));
+    // ((0.2^2 / 0.35) pi/4 + 1.5) 0.35 / 1.5 = 0.370944
+    EXPECT_EQ(values.s_RR, 0.37094393F);
+
+    project.click(window.chkSelPretok[kTrench]);
+    pipe(kTrench, "", "220");
+    project.click(window.cmdOK[kTrench]);
+    EXPECT_FALSE(window.chkSelPretok[kTrench].checked());
+    // (-(0.22^2) pi/4 + 1.5) 0.35 / 1.5 = 0.341130
+    EXPECT_EQ(values.s_RR, 0.34113023F);
+}
+
+TEST_F(DrainPanels, CoefficientIsThatOfTheConfirmation) {
+    trench();
+    project.click(window.chkSelPretok[kTrench]);
+    pipe(kTrench, "200", "220");
+    project.set(window.txtPocetPotrubi[kTrench], "2");
+    project.click(window.cmdOK[kTrench]);
+    const float confirmed = values.s_RR;
+    EXPECT_EQ(confirmed, 0.37414837F);
+    project.set(window.txtSirkaRyhy[kTrench], "2");
+    project.calculate();
+    EXPECT_EQ(values.s_RR, confirmed);
+}
+
+TEST_F(DrainPanels, PipeCountReportsWhatItCannotRead) {
+    trench();
+    project.click(window.chkSelPretok[kTrench]);
+    platform::TextBox& count = window.txtPocetPotrubi[kTrench];
+    project.clear(count);
+    EXPECT_THAT(project.errors(), ElementsAre(13));
+    EXPECT_EQ(count.text(), "");
+    EXPECT_EQ(values.txtPocetPotrubi, 1.0F);
+    project.type(count, "3");
+    EXPECT_THAT(project.errors(), IsEmpty());
+    EXPECT_EQ(values.txtPocetPotrubi, 3.0F);
+    project.type(count, "x");
+    EXPECT_THAT(project.errors(), ElementsAre(13));
+    EXPECT_EQ(count.text(), "3x");
+    EXPECT_EQ(values.txtPocetPotrubi, 3.0F);
+    EXPECT_FALSE(project.ended());
+}
+
+TEST_F(DrainPanels, OtherMembersDoNothing) {
+    trench();
+    project.calculate();
+    window.cmdOK_Click(kShaft);
+    window.cmdOK_Click(kSwale);
+    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "25.9");
+    EXPECT_EQ(values.s_RR, 0.35F);
+}
+
+}  // namespace
+}  // namespace mero::forms::test

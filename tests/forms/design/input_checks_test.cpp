@@ -1,0 +1,186 @@
+/// The checks of the calculate command: every text, their order, one box for all.
+/// Nothing is calculated while one fails; what was shown stays.
+#include "forms/design/design_fixture.h"
+
+namespace mero::forms::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class InputChecks : public DesignTest {
+  protected:
+    /// A round shaft that passes all checks.
+    void shaft() {
+        project.choose(kShaft);
+        project.click(window.optSelTypSachty[0]);
+        project.set(window.txtPrumerSachtyVnit, "1");
+        project.set(window.txtTloustkaSteny, "0.1");
+        project.set(window.txtNezamrzHlPritok, "1");
+        project.set(window.txtVyskaFiltrVrstvy, "0.5");
+    }
+    void tank() {
+        project.chooseTank();
+        project.set(window.txtSpecMeroIntenz, "10");
+        project.set(window.txtDelkaDnaNadrz, "20");
+        project.set(window.txtSirkaDnaNadrz, "10");
+        project.set(window.txtHloubkaNadrz, "1");
+    }
+};
+
+TEST_F(InputChecks, CombinedTellsAllFive) {
+    project.choose(kSwaleTrench);
+    project.set(window.txtSoucBezp[kSwaleTrench], "0");
+    project.set(window.txtPorVyplne[kSwaleTrench], "-0.1");
+    project.calculate();
+    EXPECT_THAT(project.messages(),
+                ElementsAre(critical("Součinitel filtrace průlehu je menší nebo rovna nule.\r\n"
+                                     "Součinitel bezpečnosti je menší nebo roven nule.\r\n"
+                                     "Pórovitost výplně je menší nebo rovna nule.\r\n"
+                                     "Výška rýhy je menší nebo rovna nule.\r\n"
+                                     "Šířka rýhy je menší nebo rovna nule.\r\n")));
+    EXPECT_EQ(window.txtObjAkum[kSwaleTrench].text(), "");
+}
+
+TEST_F(InputChecks, CombinedTellsOneAlone) {
+    project.choose(kSwaleTrench);
+    project.set(window.txtSoucFiltrPruleh[kSwaleTrench], "1e-4");
+    project.set(window.txtVyskaRyhy[kSwaleTrench], "1");
+    project.set(window.txtSirkaRyhy[kSwaleTrench], "-1");
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(critical("Šířka rýhy je menší nebo rovna nule.\r\n")));
+}
+
+TEST_F(InputChecks, TrenchTellsHeightThenPorosity) {
+    project.choose(kTrench);
+    project.set(window.txtVyskaRyhy[kTrench], "0");
+    project.set(window.txtSirkaRyhy[kTrench], "1");
+    project.set(window.txtPorVyplne[kTrench], "-1");
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(critical("Výška rýhy je menší nebo rovna nule.\r\n"
+                                                         "Pórovitost výplně je menší nebo rovna nule.\r\n")));
+    project.clear(window.txtSirkaRyhy[kTrench]);
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(critical("Výška rýhy je menší nebo rovna nule.\r\n"
+                                                         "Šířka rýhy je menší nebo rovna nule.\r\n"
+                                                         "Pórovitost výplně je menší nebo rovna nule.\r\n")));
+}
+
+TEST_F(InputChecks, TrenchDoesNotCheckTheSafetyFactor) {
+    project.site("500", "1e-5");
+    project.choose(kTrench);
+    project.set(window.txtVyskaRyhy[kTrench], "1.5");
+    project.set(window.txtSirkaRyhy[kTrench], "1");
+    project.set(window.txtSoucBezp[kTrench], "-1");
+    project.calculate();
+    EXPECT_THAT(project.messages(), IsEmpty());
+    EXPECT_THAT(project.errors(), IsEmpty());
+}
+
+TEST_F(InputChecks, ShaftTellsAllSeven) {
+    project.choose(kShaft);
+    project.click(window.optSelTypPudy5[1]);
+    project.clear(window.txtSoucBezp[kShaft]);
+    project.clear(window.txtMinPrusakDraha);
+    project.calculate();
+    EXPECT_THAT(project.messages(),
+                ElementsAre(critical("Součinitel bezpečnosti je menší nebo roven nule.\r\n"
+                                     "Nezámrzná hloubka přítoku je menší nebo rovna nule.\r\n"
+                                     "Výška filtrační vrstvy je menší nebo rovna nule.\r\n"
+                                     "Vnitřní průměr šachty je menší nebo rovna nule.\r\n"
+                                     "Vnější průměr šachty je menší nebo rovna nule.\r\n"
+                                     "Minimální průsaková dráha je menší nebo rovna nule.\r\n"
+                                     "Výška pískové vrstvy je menší nebo rovna nule.\r\n")));
+}
+
+TEST_F(InputChecks, SandLayerIsCheckedOnTypeBOnly) {
+    project.site("70", "1e-4");
+    shaft();
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(information("Potřebná propustnost filtru je dostačující.")));
+    project.click(window.optSelTypPudy5[1]);
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(critical("Výška pískové vrstvy je menší nebo rovna nule.\r\n")));
+}
+
+TEST_F(InputChecks, ShaftWithoutWallIsToldAlone) {
+    project.site("70", "1e-4");
+    shaft();
+    project.clear(window.txtTloustkaSteny);
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(critical("Vnější průměr šachty je menší než vnitřní průměr.")));
+    EXPECT_EQ(window.txtVyskaVzduti[kShaft].text(), "");
+    EXPECT_EQ(window.txtObjAkum[kShaft].text(), "");
+
+    project.set(window.txtTloustkaSteny, "-0.1");
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(critical("Vnější průměr šachty je menší než vnitřní průměr.")));
+}
+
+TEST_F(InputChecks, DiametersAreComparedAfterAllElsePassed) {
+    project.site("70", "1e-4");
+    shaft();
+    project.clear(window.txtTloustkaSteny);
+    project.clear(window.txtNezamrzHlPritok);
+    project.calculate();
+    EXPECT_THAT(project.messages(),
+                ElementsAre(critical("Nezámrzná hloubka přítoku je menší nebo rovna nule.\r\n")));
+}
+
+TEST_F(InputChecks, TankTellsAllFive) {
+    project.site("5000", "1e-4");
+    project.chooseTank();
+    project.set(window.txtDelkaDnaNadrz, "-1");
+    project.set(window.txtSklonSvahuNadrz, "-0.1");
+    project.calculate();
+    EXPECT_THAT(project.messages(),
+                ElementsAre(critical("Specifická vsakovací intenzita je menší nebo rovna nule.\r\n"
+                                     "Délka dna nádrže je menší nebo rovna nule.\r\n"
+                                     "Šířka dna nádrže je menší nebo rovna nule.\r\n"
+                                     "Hloubka nádrže je menší nebo rovna nule.\r\n"
+                                     "Sklon svahů nádrže je menší než nula.\r\n")));
+}
+
+TEST_F(InputChecks, VerticalSidesOfATankPass) {
+    project.site("5000", "1e-4");
+    tank();
+    project.set(window.txtSklonSvahuNadrz, "-0.1");
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(critical("Sklon svahů nádrže je menší než nula.\r\n")));
+    project.set(window.txtSklonSvahuNadrz, "0");
+    project.calculate();
+    EXPECT_THAT(project.messages(), ElementsAre(information("Objem nádrže je dostačující."),
+                                                exclamation("Vsakovací tok přesahuje průměrný vsakovací tok.")));
+}
+
+TEST_F(InputChecks, ResultsStayWhenACheckFails) {
+    project.site("5000", "1e-4");
+    tank();
+    project.calculate();
+    project.messages();
+    const std::string required = window.txtObjAkum[kTank].text();
+    ASSERT_EQ(required, "113.40");
+    const std::string picked = project.pickedRain();
+    project.set(window.txtHloubkaNadrz, "0");
+    project.calculate();
+    EXPECT_EQ(project.messages().size(), 1U);
+    EXPECT_EQ(window.txtObjAkum[kTank].text(), required);
+    EXPECT_EQ(window.txtVypObjNadrz.text(), "200.00");
+    EXPECT_EQ(project.pickedRain(), picked);
+}
+
+TEST_F(InputChecks, TypesComputedWhileTypingHaveNothingToPress) {
+    project.site("500", "1e-5", kStorm, 3);
+    project.choose(kSurface);
+    EXPECT_FALSE(window.cmdCalcul[kSurface].onScreen());
+    project.choose(kSwale);
+    EXPECT_FALSE(window.cmdCalcul[kSwale].onScreen());
+    // The command does nothing for them, whoever calls it.
+    window.cmdCalcul_Click(kSwale);
+    window.cmdCalcul_Click(kNoType);
+    window.cmdCalcul_Click(7);
+    EXPECT_THAT(project.messages(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace mero::forms::test
