@@ -54,8 +54,8 @@ void frmCalcControls::addMembers() {
     for (const int dialog : {0, 1, 2}) {
         cmdEdit.add(dialog, fraVstup, "Zadat");
     }
-    lblOdkaz.add(0, SSTab1.page(kTabInputs), "Hospodaření s dešťovou vodou");
-    lblOdkaz.add(1, SSTab1.page(kTabInputs), "Technické normy");
+    lblOdkaz.add(0, SSTab1.page(kTabInputs), "Český hydrometeorologický ústav");
+    lblOdkaz.add(1, SSTab1.page(kTabInputs), "Portál o vodě (voda.gov.cz)");
     addPair(optSelType, fraVyber, "Decenralizované", "Centralizované");
     addPair(optSelTypPudy2, picResults[kSwale], "Písek střední až jemný", "Slit a písek, slit");
     addPair(optSelTypPudy3, picResults[kSwaleTrench], "Písek střední až jemný", "Slit a písek, slit");
