@@ -49,11 +49,16 @@ void FormWindow::showForm() {
         build(*content_);
         content_->setEnabled(form_->enabled());
     }
-    if (owner_ != nullptr && !isVisible()) {
+    const bool opens = owner_ != nullptr && !isVisible();
+    if (opens) {
         adjustSize();
         placeOverOwner();
     }
     show();
+    if (opens) {
+        // Only now is it known how much the window system's frame adds.
+        moveOntoScreen(pos());
+    }
     raise();
     activateWindow();
     if (focusWidget() == nullptr) {
@@ -89,8 +94,9 @@ void FormWindow::placeOverOwner() {
 
 void FormWindow::moveOntoScreen(QPoint wanted) {
     const QRect room = owner_->screen()->availableGeometry();
-    move(std::clamp(wanted.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
-         std::clamp(wanted.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+    const QSize size = frameGeometry().size();
+    move(std::clamp(wanted.x(), room.left(), std::max(room.left(), room.right() + 1 - size.width())),
+         std::clamp(wanted.y(), room.top(), std::max(room.top(), room.bottom() + 1 - size.height())));
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {

@@ -205,9 +205,9 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
+    refresh();
     const int key = event->key();
     if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2) {
-        refresh();
         if (currentIndex().isValid()) {
             click(GridModel::cellOf(currentIndex()));
         }
