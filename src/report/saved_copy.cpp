@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -25,11 +26,11 @@ std::optional<std::string> readFile(const std::string& path) {
     if (!file) {
         return std::nullopt;
     }
-    std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (file.bad()) {
+    try {
+        return std::string{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    } catch (const std::exception&) {  // a folder opens, but reading it throws
         return std::nullopt;
     }
-    return content;
 }
 
 std::string base64(std::string_view bytes) {

@@ -52,6 +52,29 @@ TEST(ProgramLocale, TheIdentifierFitsIn16Bits) {
     EXPECT_LE(ProgramLocale().userDefaultLocale(), 32767);
 }
 
+TEST(ProgramLocale, StartsAsTheUsersEnvironmentHasIt) {
+    const char* before = std::getenv("LC_ALL");
+    const std::string kept = before == nullptr ? "" : before;
+    ::setenv("LC_ALL", "C", 1);
+    const ProgramLocale plain;
+    ::setenv("LC_ALL", "cs_CZ.UTF-8", 1);
+    const ProgramLocale czech;
+    if (before == nullptr) {
+        ::unsetenv("LC_ALL");
+    } else {
+        ::setenv("LC_ALL", kept.c_str(), 1);
+    }
+    EXPECT_EQ(plain.text(LocaleItem::DecimalSeparator), ".");
+    EXPECT_EQ(plain.text(LocaleItem::ListSeparator), ",");
+    // Without that locale on the machine its separators cannot be known; the defaults hold then.
+    if (czech.text(LocaleItem::DecimalSeparator) == ",") {
+        EXPECT_EQ(czech.text(LocaleItem::ListSeparator), ";");
+        EXPECT_NE(czech.text(LocaleItem::ThousandsSeparator), "");
+    } else {
+        EXPECT_EQ(czech.text(LocaleItem::DecimalSeparator), ".");
+    }
+}
+
 TEST(ProgramLocale, LeavesTheProcesssLocaleAlone) {
     const std::string before = std::setlocale(LC_ALL, nullptr);
     ProgramLocale locale;

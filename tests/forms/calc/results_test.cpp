@@ -161,6 +161,9 @@ TEST_F(ResultsTest, AFolderInTheReportsPlaceStaysUnharmed) {
     chooseSurface();
     p.tab(kTabResults);
     EXPECT_THAT(p.desk.take(), ElementsAre(navigatedTo("Mero_Test")));
+    p.desk.save_answer = p.folder.file("kopie.html");
+    p.click(w.cmdSaveResults);
+    EXPECT_EQ(p.desk.messages.size(), 1U) << "there is nothing to save, and it is told";
     p.tab(kTabDesign);
     p.close(w);
     EXPECT_TRUE(std::filesystem::is_directory(p.folder.file("Mero_Test")));
