@@ -126,7 +126,7 @@ bool isBelowOne(std::string_view digits) {
     const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
     const long power = first < static_cast<std::size_t>(point) ? point - static_cast<long>(first) - 1
                                                                : point - static_cast<long>(first);
-    return power + exponent < 0;
+    return exponent < -power;  // their sum may be too large for the type
 }
 
 template <typename Real>

@@ -140,6 +140,11 @@ TEST(LeadingNumber, OverflowsBeyondADouble) {
     EXPECT_EQ(leadingNumber("1e-999"), 0.0);
 }
 
+TEST(LeadingNumber, KnowsLargeFromSmallAtTheLimitsOfTheExponentToo) {
+    EXPECT_EQ(errorNumberOf([] { return leadingNumber("21e9223372036854775807"); }), 6);
+    EXPECT_EQ(leadingNumber("0.01e-9223372036854775808"), 0.0);
+}
+
 TEST(Fixed, RoundsHalfAwayFromZeroAsOnPaper) {
     EXPECT_EQ(fixed(2.675F, 2), "2.68");
     EXPECT_EQ(fixed(2.675, 2), "2.68");

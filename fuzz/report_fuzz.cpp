@@ -1,0 +1,148 @@
+/// Reports with texts of any bytes: the document keeps its frame, and the code page never fails.
+/// What was stored as windows-1250 reads back to itself.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "report/code_page.h"
+#include "report/html_report.h"
+#include "support/require.h"
+
+namespace {
+
+using mero::fuzz::require;
+namespace report = mero::report;
+
+/// Takes texts and numbers off the front of the input.
+class Input {
+  public:
+    explicit Input(std::string_view bytes) : rest_(bytes) {}
+
+    unsigned byte() {
+        if (rest_.empty()) {
+            return 0;
+        }
+        const auto value = static_cast<unsigned char>(rest_.front());
+        rest_.remove_prefix(1);
+        return value;
+    }
+    std::string text() {
+        const std::size_t length = std::min<std::size_t>(byte(), rest_.size());
+        std::string taken(rest_.substr(0, length));
+        rest_.remove_prefix(length);
+        return taken;
+    }
+    float number() {
+        float value = 0;
+        if (rest_.size() >= sizeof value) {
+            std::memcpy(&value, rest_.data(), sizeof value);
+            rest_.remove_prefix(sizeof value);
+        }
+        return std::isfinite(value) ? value : 0.0F;
+    }
+
+  private:
+    std::string_view rest_;
+};
+
+std::array<std::string*, 13> textsOf(report::ReportData& data) {
+    return {&data.project_name,
+            &data.designer,
+            &data.investor,
+            &data.site,
+            &data.description,
+            &data.subsoil,
+            &data.infiltration_type_name,
+            &data.rain.station,
+            &data.rain.periodicity,
+            &data.shaft.ring,
+            &data.swale.soil_caption,
+            &data.date,
+            &data.time};
+}
+
+report::ReportData reportOf(Input& input) {
+    report::ReportData data;
+    data.infiltration_type = static_cast<int>(input.byte() % 9) - 1;
+    const unsigned flags = input.byte();
+    data.pipes.drain = (flags & 1U) != 0;
+    data.pipes.throttled_overflow = (flags & 2U) != 0;
+    data.shaft.sand_layer = (flags & 4U) != 0;
+    data.shaft.shape = (flags & 8U) != 0 ? 1 : 0;
+    data.tank.upstream_settling = (flags & 16U) != 0;
+    for (std::string* text : textsOf(data)) {
+        *text = input.text();
+    }
+    for (float* number : {&data.drained_area_m2,       &data.subsoil_filtration_m_s,
+                          &data.groundwater_depth_m,   &data.safety_factor,
+                          &data.infiltration_area_m2,  &data.storage_volume_m3,
+                          &data.water_depth_m,         &data.swale.depth_m,
+                          &data.swale.width_m,         &data.swale.emptying_time_h,
+                          &data.swale.filtration_m_s,  &data.trench.fill_porosity,
+                          &data.trench.width_m,        &data.trench.height_m,
+                          &data.trench.length_m,       &data.shaft.required_depth_m,
+                          &data.shaft.side1_m,         &data.tank.depth_m,
+                          &data.tank.side_slope,       &data.rain.chosen_duration_min,
+                          &data.rain.durations_min[0], &data.rain.intensities_lsha[8]}) {
+        *number = input.number();
+    }
+    for (unsigned entries = input.byte() % 5; entries > 0; --entries) {
+        const float area = input.number();
+        const float coefficient = input.number();
+        data.partial_areas.push_back({area, coefficient, input.text()});
+    }
+    return data;
+}
+
+void checkReport(const report::ReportData& data) {
+    const std::string html = report::htmlReport(data);
+    require(html.starts_with("<html><body>") && html.ends_with("</div></body><html>\r\n"),
+            "the document has its frame");
+    require(html.find(data.project_name) != std::string::npos, "the project's name stands as it was typed");
+    require(data.description.empty() || html.find(data.description) != std::string::npos,
+            "the description stands as it was typed");
+    const std::string stored = report::toWindows1250(html);
+    require(stored.size() <= html.size(), "one byte for a character");
+    require(report::toWindows1250(report::fromWindows1250(stored)) == stored, "what is stored reads back");
+}
+
+/// With all texts left out, so that what the user typed is not blamed.
+void checkNumbers(report::ReportData data) {
+    for (std::string* text : textsOf(data)) {
+        text->clear();
+    }
+    data.partial_areas.clear();
+    const std::string html = report::htmlReport(data);
+    for (const std::string_view word : {">inf<", ">-inf<", ">nan<", ">-nan<"}) {
+        require(html.find(word) == std::string::npos, "every number is one");
+    }
+}
+
+void checkCodePage(std::string_view bytes) {
+    const std::string stored = report::toWindows1250(bytes);
+    require(stored.size() <= bytes.size(), "one byte for a character or a malformed sequence");
+    require(report::toWindows1250(report::fromWindows1250(stored)) == stored, "a stored text reads back");
+    const std::string read = report::fromWindows1250(bytes);
+    std::string expected(bytes);
+    for (char& c : expected) {
+        constexpr std::string_view kWithoutCharacter = "\x81\x83\x88\x90\x98";
+        c = kWithoutCharacter.find(c) != std::string_view::npos ? '?' : c;
+    }
+    require(report::toWindows1250(read) == expected, "every byte of the code page survives");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(data, data + size);
+    checkCodePage(bytes);
+    Input input(bytes);
+    const report::ReportData data_of_report = reportOf(input);
+    checkReport(data_of_report);
+    checkNumbers(data_of_report);
+    return 0;
+}

@@ -1,0 +1,17 @@
+/// What must hold in a fuzz target: says what does not and aborts, so that the fuzzer keeps the input.
+#pragma once
+
+#include <cstdlib>
+#include <iostream>
+#include <string_view>
+
+namespace mero::fuzz {
+
+inline void require(bool holds, std::string_view what) {
+    if (!holds) {
+        std::cerr << "does not hold: " << what << std::endl;
+        std::abort();
+    }
+}
+
+}  // namespace mero::fuzz

@@ -1,0 +1,60 @@
+/// What the stored values must be, judged from the texts of the fields alone.
+/// A quantity may stand in several boxes; the one whose text changed last decides.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/calc/program.h"
+
+namespace mero::monkey {
+
+class FieldModel {
+  public:
+    /// Observes the boxes of the main window from now on. @param program outlives the model
+    explicit FieldModel(forms::Program& program);
+    FieldModel(const FieldModel&) = delete;
+    FieldModel& operator=(const FieldModel&) = delete;
+
+    /// The soil dialog stores its coefficient at the click, before the field shows it.
+    void soilWasPicked() { soil_picked_ = true; }
+
+    /// What does not agree, empty when all does.
+    [[nodiscard]] std::string disagreement() const;
+
+  private:
+    enum class Rule {
+        Number,      ///< empty is 0; what is no number is wiped
+        Area,        ///< the same; a calculation that cannot be made sets 0 without the field
+        Count,       ///< the same as whole number
+        Filtration,  ///< what is no number may stay when it has an "e"
+        Unguarded,   ///< what is no number stays, and the value stays what it was
+    };
+    struct Quantity {
+        std::string name;
+        Rule rule;
+        std::function<double()> stored;
+        const platform::TextBox* last_changed = nullptr;
+    };
+    struct Text {
+        const platform::TextBox* box;
+        const std::string* stored;
+    };
+    using Values = data::modPublicVariables;
+
+    void watch(Rule rule, float Values::*stored, const std::vector<std::string>& boxes);
+    void watch(std::string name, Rule rule, std::function<double()> stored,
+               const std::vector<std::string>& boxes);
+    void watchText(const std::string& box, const std::string& stored);
+    [[nodiscard]] std::string judge(const Quantity& quantity) const;
+    [[nodiscard]] std::string judgeStrange(const Quantity& quantity, const std::string& text) const;
+
+    forms::Program* program_;
+    std::vector<std::unique_ptr<Quantity>> quantities_;
+    std::vector<Text> texts_;
+    bool soil_picked_ = false;
+};
+
+}  // namespace mero::monkey
