@@ -21,10 +21,13 @@ ROOMS = {
     "platform": NUMBERS,
     "calc": NUMBERS,
     "data": ("calc", "platform"),
+    "design": ("calc", "data", "platform"),
     "report": ("calc", "data", "platform"),
+    "project": (*CORE, "design"),
+    "sweep": (*CORE, "design", "project"),
     "forms": CORE,
     "automation": (*CORE, "forms"),
-    "app": (*CORE, "forms", "automation"),
+    "app": (*CORE, "design", "project", "sweep", "forms", "automation"),
 }
 
 QT_INCLUDE = re.compile(r"^(Qt\w*/)?Q\w+$|^(Qt\w+/)?q[a-z0-9_]+\.h$")

@@ -1,0 +1,29 @@
+/// Joins the two catalogues once.
+/// The list never changes after that, so all threads read it.
+#include "design/shaft_catalogue.h"
+
+#include <vector>
+
+#include "data/mod_default_data.h"
+#include "data/mod_public_variables.h"
+
+namespace mero::design {
+
+std::span<const CatalogueShaft> shaftCatalogue() {
+    static const std::vector<CatalogueShaft> kShafts = [] {
+        data::modPublicVariables tables;
+        data::LoadDefaultData(tables);
+        std::vector<CatalogueShaft> shafts;
+        for (const data::RoundShaft& row : tables.SachtaKruhova) {
+            shafts.push_back({ShaftShape::Round, row.designation, row.inner_diameter_m, 0.0F, row.wall_m});
+        }
+        for (const data::RectangularShaft& row : tables.SachtaObdelnikova) {
+            shafts.push_back(
+                {ShaftShape::Rectangular, row.designation, row.side1_m, row.side2_m, row.wall_m});
+        }
+        return shafts;
+    }();
+    return kShafts;
+}
+
+}  // namespace mero::design

@@ -1,0 +1,22 @@
+/// The shaft catalogues as one list, which a project and a sweep choose from by number or designation.
+/// The rows are the reference tables'; the round ones come first.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "design/facility.h"
+
+namespace mero::design {
+
+struct CatalogueShaft {
+    ShaftShape shape;
+    std::string designation;
+    float side1_m;  ///< inner diameter, or first inner side
+    float side2_m;  ///< second inner side, 0 for a round shaft
+    float wall_m;
+};
+
+[[nodiscard]] std::span<const CatalogueShaft> shaftCatalogue();
+
+}  // namespace mero::design

@@ -1,0 +1,358 @@
+/// From JSON to a project, value by value.
+/// Syntax and doubled names are found while parsing, everything else with the path in the document.
+#include "project/read_project.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <fstream>
+#include <iterator>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <vector>
+
+#include "platform/numbers/number_text.h"
+#include "project/reference.h"
+
+namespace mero::project {
+namespace {
+
+using nlohmann::json;
+
+/// Line and column of a byte of the document, both from 1.
+std::string place(std::string_view document, std::size_t byte) {
+    const std::string_view before = document.substr(0, std::min(byte, document.size()));
+    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
+    const std::size_t last_break = before.rfind('\n');
+    const std::size_t column =
+        last_break == std::string_view::npos ? before.size() : before.size() - last_break - 1;
+    return numbers::general(static_cast<int>(line)) + ":" +
+           numbers::general(static_cast<int>(std::max<std::size_t>(column, 1)));
+}
+
+/// The reason of a syntax error without the library's prefix.
+std::string syntaxReason(const std::string& what) {
+    const std::size_t colon = what.find(": ");
+    return colon == std::string::npos ? what : what.substr(colon + 2);
+}
+
+/// Finds a name that stands twice in one object.
+class NameWatch {
+  public:
+    void see(json::parse_event_t event, const json& parsed) {
+        if (event == json::parse_event_t::object_start) {
+            open_.emplace_back();
+        } else if (event == json::parse_event_t::object_end) {
+            open_.pop_back();
+        } else if (event == json::parse_event_t::key) {
+            Names& names = open_.back();
+            names.last = parsed.get<std::string>();
+            if (!names.seen.insert(names.last).second && doubled_.empty()) {
+                doubled_ = path();
+            }
+        }
+    }
+    /// Path of the first doubled name, empty without one.
+    [[nodiscard]] const std::string& doubled() const { return doubled_; }
+
+  private:
+    struct Names {
+        std::set<std::string> seen;
+        std::string last;
+    };
+
+    [[nodiscard]] std::string path() const {
+        std::string text;
+        for (const Names& names : open_) {
+            text += (text.empty() ? "" : ".") + names.last;
+        }
+        return text;
+    }
+
+    std::vector<Names> open_;
+    std::string doubled_;
+};
+
+json parse(std::string_view document, const std::string& file) {
+    NameWatch watch;
+    const auto see = [&](int, json::parse_event_t event, const json& parsed) {
+        watch.see(event, parsed);
+        return true;
+    };
+    try {
+        json parsed = json::parse(document, see);
+        if (!watch.doubled().empty()) {
+            throw ProjectError(file + ": " + watch.doubled() + ": stands twice; expected each name once");
+        }
+        return parsed;
+    } catch (const json::parse_error& error) {
+        throw ProjectError(file + ":" + place(document, error.byte) +
+                           ": no valid JSON: " + syntaxReason(error.what()));
+    } catch (const json::out_of_range&) {
+        throw ProjectError(file + ": a number is larger than any that can be calculated with");
+    }
+}
+
+class Reader {
+  public:
+    explicit Reader(const std::string& file) : file_(&file) {}
+
+    Project read(const json& document) {
+        project_.inputs.rain.durations_min = reference().DobaTrvani;
+        readObject(document, "");
+        for (const char* section : {"rain", "areas", "subsoil", "facility"}) {
+            if (!document.contains(section)) {
+                fail(section, std::string("is missing: expected ") +
+                                  (section == std::string_view("areas") ? "a list" : "an object"));
+            }
+        }
+        checkRain();
+        requireGiven("subsoil.filtration_coefficient_m_s");
+        requireGiven("facility.type");
+        checkShaft();
+        const std::string missing = missingValue(project_.inputs.facility, project_.given);
+        if (!missing.empty()) {
+            requireGiven(missing);
+        }
+        return std::move(project_);
+    }
+
+  private:
+    [[noreturn]] void fail(const std::string& path, const std::string& reason) const {
+        throw ProjectError(*file_ + ": " + (path.empty() ? std::string("the document") : path) + ": " +
+                           reason);
+    }
+
+    [[nodiscard]] bool isGiven(const std::string& path) const {
+        return std::find(project_.given.begin(), project_.given.end(), path) != project_.given.end();
+    }
+
+    void requireGiven(const std::string& path) const {
+        if (isGiven(path)) {
+            return;
+        }
+        const Field* field = findField(path);
+        fail(path, "is missing" + (field == nullptr ? std::string() : ": expected " + expected(*field)));
+    }
+
+    void readObject(const json& object, const std::string& path) {
+        if (!object.is_object()) {
+            fail(path, "expected an object, not " + shortText(object));
+        }
+        const std::vector<std::string> names = namesIn(path);
+        for (const auto& [name, value] : object.items()) {
+            const std::string member = path.empty() ? name : path + "." + name;
+            if (std::find(names.begin(), names.end(), name) == names.end()) {
+                const std::string near = nearestName(name, names);
+                fail(member,
+                     "is not a known name" + (near.empty() ? "" : "; did you mean \"" + near + "\"?"));
+            }
+            readMember(value, member);
+        }
+    }
+
+    void readMember(const json& value, const std::string& path) {
+        if (const Field* field = findField(path)) {
+            readField(*field, value);
+        } else if (path == "areas") {
+            readAreas(value);
+        } else if (path == "rain.durations_min") {
+            readRow(value, path, project_.inputs.rain.durations_min);
+        } else if (path == "rain.intensities_l_s_ha") {
+            readRow(value, path, project_.inputs.rain.intensities_l_s_ha);
+        } else if (path == "$schema") {
+            static_cast<void>(textOf(value, path, false));
+        } else if (const TextField* text = findText(path)) {
+            project_.texts.*(text->text) = textOf(value, path, text->several_lines);
+        } else {
+            readObject(value, path);
+            project_.inputs.facility.overflow.given |= path == "facility.overflow";
+            project_.inputs.facility.drain.given |= path == "facility.drain";
+        }
+        project_.given.push_back(path);
+    }
+
+    static const TextField* findText(const std::string& path) {
+        for (const TextField& field : textFields()) {
+            if (path == field.path) {
+                return &field;
+            }
+        }
+        return nullptr;
+    }
+
+    void readField(const Field& field, const json& value) {
+        const bool fits = field.kind == FieldKind::Truth     ? value.is_boolean()
+                          : field.kind == FieldKind::Choice  ? value.is_string()
+                          : field.kind == FieldKind::Station ? value.is_string() || value.is_number_integer()
+                                                             : value.is_number();
+        if (!fits) {
+            fail(field.path, "expected " + expected(field) + ", not " + shortText(value));
+        }
+        const std::string text = value.is_string()    ? value.get<std::string>()
+                                 : value.is_boolean() ? std::string(value.get<bool>() ? "true" : "false")
+                                                      : numbers::general(value.get<double>());
+        try {
+            field.store(project_.inputs, fieldValue(field, text));
+        } catch (const std::invalid_argument& reason) {
+            fail(field.path, reason.what());
+        }
+    }
+
+    float numberOf(const json& value, const std::string& path, const std::string& what) const {
+        if (!value.is_number()) {
+            fail(path, "expected " + what + ", not " + shortText(value));
+        }
+        try {
+            return singleOf(value.get<double>());
+        } catch (const std::invalid_argument& reason) {
+            fail(path, reason.what());
+        }
+    }
+
+    void readRow(const json& value, const std::string& path, std::array<float, calc::kRainRows>& row) const {
+        if (!value.is_array() || value.size() != row.size()) {
+            fail(path, "expected a list of nine numbers, not " +
+                           (value.is_array() ? "one of " + numbers::general(static_cast<int>(value.size()))
+                                             : shortText(value)));
+        }
+        for (std::size_t k = 0; k < row.size(); ++k) {
+            row[k] = numberOf(value[k], element(path, k), "a number");
+        }
+    }
+
+    static std::string element(const std::string& path, std::size_t index) {
+        return path + "[" + numbers::general(static_cast<int>(index)) + "]";
+    }
+
+    void readAreas(const json& list) {
+        if (!list.is_array()) {
+            fail("areas", "expected a list, not " + shortText(list));
+        }
+        const std::vector<std::string> names = namesIn("areas[]");
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            const std::string path = element("areas", i);
+            if (!list[i].is_object()) {
+                fail(path, "expected an object, not " + shortText(list[i]));
+            }
+            for (const auto& [name, value] : list[i].items()) {
+                if (std::find(names.begin(), names.end(), name) == names.end()) {
+                    const std::string near = nearestName(name, names);
+                    fail(path + "." + name,
+                         "is not a known name" + (near.empty() ? "" : "; did you mean \"" + near + "\"?"));
+                }
+            }
+            readArea(list[i], path);
+        }
+    }
+
+    void readArea(const json& object, const std::string& path) {
+        const auto number = [&](const char* name, const char* what) {
+            const std::string member = path + "." + name;
+            if (!object.contains(name)) {
+                fail(member, std::string("is missing: expected ") + what);
+            }
+            const float value = numberOf(object[name], member, what);
+            if (value == 0.0F) {
+                fail(member, std::string("expected ") + what + " other than 0");
+            }
+            project_.given.push_back(member);
+            return value;
+        };
+        const float area_m2 = number("area_m2", "a number [m²]");
+        const float coefficient = number("runoff_coefficient", "a number");
+        project_.inputs.areas.push_back({area_m2, coefficient});
+        project_.texts.surfaces.push_back(
+            object.contains("surface") ? textOf(object["surface"], path + ".surface", false) : std::string());
+    }
+
+    /// Lines end by "\r\n" in the box of several lines; a box of one line takes no control character.
+    std::string textOf(const json& value, const std::string& path, bool several_lines) const {
+        if (!value.is_string()) {
+            fail(path, "expected a text, not " + shortText(value));
+        }
+        const auto text = value.get<std::string>();
+        std::string entered;
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            const char c = text[i];
+            if (several_lines && (c == '\n' || c == '\r')) {
+                entered += "\r\n";
+                if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+                    ++i;
+                }
+            } else if (static_cast<unsigned char>(c) >= ' ' || (c == '\t' && several_lines)) {
+                entered += c;
+            } else {
+                fail(path, several_lines ? "expected a text without control characters"
+                                         : "expected a text on one line");
+            }
+        }
+        return entered;
+    }
+
+    static std::string shortText(const json& value) {
+        constexpr std::size_t kLongest = 40;
+        constexpr int kOneLine = -1;
+        if (value.is_object()) {
+            return "an object";
+        }
+        if (value.is_array()) {
+            return "a list";
+        }
+        std::string text = value.dump(kOneLine, ' ', false, json::error_handler_t::replace);
+        return text.size() <= kLongest ? text : "a longer text";
+    }
+
+    void checkRain() {
+        const bool own = isGiven("rain.intensities_l_s_ha");
+        if (own == isGiven("rain.station")) {
+            fail("rain", own ? "expected either \"station\" or \"intensities_l_s_ha\", not both"
+                             : "expected \"station\", or \"intensities_l_s_ha\" with nine own values");
+        }
+        if (!own && isGiven("rain.durations_min")) {
+            fail("rain.durations_min",
+                 "goes only with \"intensities_l_s_ha\": a station has its own durations");
+        }
+        requireGiven("rain.periodicity");
+        const RainChoice& rain = project_.inputs.rain;
+        if (rain.picks_row && std::find(rain.durations_min.begin(), rain.durations_min.end(),
+                                        rain.design_duration_min) == rain.durations_min.end()) {
+            fail("rain.design_duration_min", "expected one of the nine durations");
+        }
+    }
+
+    void checkShaft() const {
+        if (!isGiven("facility.catalogue_shaft")) {
+            return;
+        }
+        for (const char* path : {"facility.shape", "facility.inner_diameter_m", "facility.inner_width_m",
+                                 "facility.inner_length_m", "facility.wall_thickness_m"}) {
+            if (isGiven(path)) {
+                fail(path, "does not go with \"catalogue_shaft\", which has its own dimensions");
+            }
+        }
+    }
+
+    const std::string* file_;
+    Project project_;
+};
+
+}  // namespace
+
+Project readProject(std::string_view document, const std::string& file) {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (document.starts_with(kByteOrderMark)) {
+        document.remove_prefix(kByteOrderMark.size());
+    }
+    return Reader(file).read(parse(document, file));
+}
+
+Project readProjectFile(const std::string& file) {
+    std::ifstream stream(file, std::ios::binary);
+    const std::string document{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    if (!stream.is_open() || stream.bad() || (stream.fail() && document.empty())) {
+        throw ProjectError(file + ": cannot be read");
+    }
+    return readProject(document, file);
+}
+
+}  // namespace mero::project

@@ -1,0 +1,147 @@
+/// Designs worked out by hand: what they give, what they tell, where they stop.
+#include "design/design.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "design/messages.h"
+
+namespace mero::design {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// 1000 m2 on kf 1e-4 with one rain of 150 l/(s.ha) for 15 min, picked.
+Site oneRain() {
+    Site site;
+    site.has_areas = true;
+    site.reduced_area_m2 = 1000.0F;
+    site.rains[0] = {.duration_min = 15.0F, .intensity_l_s_ha = 150.0F};
+    site.picked_row = 0;
+    site.filtration_m_s = 1e-4F;
+    return site;
+}
+
+std::vector<Verdict> told(const DesignResult& result) {
+    return {result.verdicts.all().begin(), result.verdicts.all().end()};
+}
+
+TEST(Design, ASurfaceIsStoredAsItsFieldShowsIt) {
+    const DesignResult result = design(oneRain(), Facility{});
+    EXPECT_EQ(result.value(Quantity::InfiltrationArea), 428.6F);  // 1000 / (1000 / 300 - 1) = 428.571...
+    EXPECT_EQ(result.written(Quantity::InfiltrationArea), 428.57144F);
+    EXPECT_EQ(result.value(Quantity::Inflow), 15.0F);
+    EXPECT_THAT(told(result), IsEmpty());
+    EXPECT_TRUE(result.completed);
+}
+
+TEST(Design, TheFiltrationCoefficientKeepsTwoDigits) {
+    Site site = oneRain();
+    site.filtration_m_s = 1.04e-4F;
+    EXPECT_EQ(design(site, Facility{}).value(Quantity::InfiltrationArea), 428.6F);
+}
+
+TEST(Design, ASurfaceWithoutPickedRainLosesItsType) {
+    Site site = oneRain();
+    site.picked_row = -1;
+    const DesignResult result = design(site, Facility{});
+    EXPECT_THAT(told(result), ElementsAre(Verdict::DesignRainMissing));
+    EXPECT_FALSE(result.type_chosen);
+    EXPECT_FALSE(result.has(Quantity::Inflow));
+}
+
+TEST(Design, ABalanceOfSoilAndRainIsToldAsARuntimeError) {
+    Site site = oneRain();
+    site.filtration_m_s = 0.5F;
+    site.rains[0].intensity_l_s_ha = 2.5e6F;  // kf * 1e7 = 2 i
+    const DesignResult result = design(site, Facility{});
+    EXPECT_EQ(result.firstError(), ErrorNumber::DivisionByZero);
+    EXPECT_FALSE(result.has(Quantity::InfiltrationArea));
+}
+
+TEST(Design, MissingAreaIsToldAndOnlyTheTankStops) {
+    Site site = oneRain();
+    site.reduced_area_m2 = 0.0F;
+    Facility facility;
+    facility.type = FacilityType::Trench;
+    facility.trench_width_m = 1.0F;
+    facility.trench_height_m = 1.0F;
+    const DesignResult trench = design(site, facility);
+    EXPECT_THAT(told(trench), ElementsAre(Verdict::DrainedAreaMissing));
+    EXPECT_TRUE(trench.has(Quantity::TrenchLength));
+
+    facility.type = FacilityType::Tank;
+    const DesignResult tank = design(site, facility);
+    EXPECT_THAT(told(tank), ElementsAre(Verdict::DrainedAreaMissing));
+    EXPECT_FALSE(tank.type_chosen);
+}
+
+TEST(Design, FailedChecksOfAPageShareOneMessage) {
+    Facility facility;
+    facility.type = FacilityType::Trench;
+    facility.fill_porosity = -1.0F;
+    facility.trench_width_m = 1.0F;
+    const DesignResult result = design(oneRain(), facility);
+    EXPECT_THAT(told(result),
+                ElementsAre(Verdict::TrenchHeightNotPositive, Verdict::FillPorosityNotPositive));
+    const std::vector<Message> boxes = messages(result);
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text,
+              "Výška rýhy je menší nebo rovna nule.\r\nPórovitost výplně je menší nebo rovna nule.\r\n");
+    EXPECT_FALSE(result.has(Quantity::TrenchLength));
+}
+
+TEST(Design, ATankWithVerticalSides) {
+    Facility facility;
+    facility.type = FacilityType::Tank;
+    facility.specific_infiltration_l_s_ha = 10.0F;
+    facility.bottom_length_m = 10.0F;
+    facility.bottom_width_m = 5.0F;
+    facility.tank_depth_m = 2.0F;
+    facility.upstream_settling = true;
+    const DesignResult result = design(oneRain(), facility);
+    EXPECT_EQ(result.value(Quantity::TankVolume), 100.0F);
+    // (1e-4 * 150 - 1e-7 * 10 * 1000) * 15 * 60 * 1.2 = 0.014 * 1080
+    EXPECT_FLOAT_EQ(result.value(Quantity::StorageVolume), 15.12F);
+    // 50 m2 * 1e-4 / 2 = 0.0025 m3/s against 0.001 m3/s
+    EXPECT_THAT(told(result), ElementsAre(Verdict::TankVolumeSufficient, Verdict::TankInfiltrationProven));
+}
+
+TEST(Design, ARingsWallIsStoredWithTwoDecimals) {
+    Facility facility;
+    facility.type = FacilityType::Shaft;
+    facility.catalogue_row = 3;  // 1.2 m, wall 0.135 m: its box shows 0.14
+    facility.inlet_depth_m = 1.0F;
+    facility.filter_layer_m = 0.5F;
+    const DesignResult result = design(oneRain(), facility);
+    EXPECT_EQ(result.shaft_wall_m, 0.14F);
+    EXPECT_FLOAT_EQ(result.value(Quantity::ShaftOuterDiameter), 1.48F);
+}
+
+TEST(Design, OwnIntensitiesBelowOneHalfAreRefusedByTheRainDialog) {
+    Site site = oneRain();
+    for (calc::Rain& rain : site.rains) {
+        rain.intensity_l_s_ha = 0.4F;
+    }
+    EXPECT_EQ(confirmRain(site.rains), RainConfirmation::NoIntensities);
+    site.rains[0].intensity_l_s_ha = 40000.0F;
+    EXPECT_EQ(confirmRain(site.rains), RainConfirmation::Overflow);
+    site.rains[0].intensity_l_s_ha = 1.0F;
+    EXPECT_EQ(confirmRain(site.rains), RainConfirmation::Accepted);
+}
+
+TEST(Verdicts, CodesAreWordsAndDifferFromEachOther) {
+    std::vector<std::string> codes;
+    for (const VerdictInfo& verdict : verdicts()) {
+        EXPECT_THAT(verdict.code, ::testing::MatchesRegex("[a-z0-9_]+"));
+        codes.emplace_back(verdict.code);
+    }
+    std::sort(codes.begin(), codes.end());
+    EXPECT_EQ(std::adjacent_find(codes.begin(), codes.end()), codes.end());
+}
+
+}  // namespace
+}  // namespace mero::design

@@ -1,0 +1,325 @@
+/// The user's hands on the forms.
+/// An action on a control that a user could not reach is a mistake of this test and throws.
+#include "design/window_session.h"
+
+#include <stdexcept>
+
+#include "design/shaft_catalogue.h"
+#include "forms/calc/report_data.h"
+#include "platform/locale_settings.h"
+#include "platform/numbers/number_text.h"
+#include "report/html_report.h"
+
+namespace mero::design::test {
+namespace {
+
+class RecordingDesk : public platform::Desk {
+  public:
+    void showMessage(const platform::Message& message) override {
+        const Severity severity = message.icon == platform::MessageIcon::Information   ? Severity::Information
+                                  : message.icon == platform::MessageIcon::Exclamation ? Severity::Warning
+                                                                                       : Severity::Refusal;
+        told.push_back({message.text, severity, message.title == "Chyba"});
+    }
+    void reportError(const RuntimeError& error) override {
+        told.push_back({error.description(), Severity::Refusal, false, error.number()});
+    }
+    void openAddress(const std::string&) override {}
+    void formOpened(const std::string&) override {}
+    void formClosed(const std::string&) override {}
+    void navigated(const std::string&, const std::string&) override {}
+    void openPrintPreview(const std::string&) override {}
+    std::optional<std::string> askSavePath(const std::string&) override { return std::nullopt; }
+    void saved(const std::string&) override {}
+    void ended() override {}
+
+    std::vector<Message> told;
+};
+
+}  // namespace
+
+data::StationTable MadeUpRain::read(std::int16_t station_number, const std::string&) {
+    data::StationTable table;
+    table.columns = {"doba", "5", "2", "1", "05", "02", "01", station_number % 3 == 0 ? "004" : "005"};
+    const std::size_t rows = station_number % 7 == 0 ? 6 : station_number % 5 == 0 ? 11 : 9;
+    for (std::size_t row = 0; row < rows; ++row) {
+        std::vector<data::StationTable::Value> values{static_cast<double>(row * 5 + 5)};
+        for (int k = 0; k < data::kPeriodicityCount; ++k) {
+            const double intensity = (90.5 + 40.25 * k + static_cast<double>(station_number)) /
+                                     (0.4 + 0.6 * static_cast<double>(row));
+            values.emplace_back(intensity);
+        }
+        if (station_number % 11 == 0 && row == 4) {
+            values[3] = std::nullopt;
+        }
+        table.rows.push_back(values);
+    }
+    return table;
+}
+
+const platform::DateTime WindowSession::kMoment{2026, 11, 20, 14, 5, 9};
+
+struct WindowSession::Parts {
+    RecordingDesk desk;
+    platform::FrozenClock clock{kMoment};
+    platform::ProgramLocale locale{".", " ", ","};
+    MadeUpRain rain_database;
+    forms::Program program{{desk, clock, locale, rain_database, "/nowhere"}};
+
+    forms::frmCalc& window() { return program.window(); }
+
+    template <typename Control, typename Action>
+    void act(Control& control, Action action) {
+        if (!control.onScreen() || !control.reachable()) {
+            throw std::logic_error("a user cannot reach " + control.name());
+        }
+        program.enter([&] { action(control); });
+    }
+    void click(auto& control) {
+        act(control, [](auto& it) { it.userClick(); });
+    }
+    void enter(platform::TextBox& box, const std::string& text) {
+        act(box, [&](auto& it) { it.userEdit(text); });
+    }
+    void enter(platform::TextBox& box, float number) { enter(box, numbers::general(number)); }
+    void leave(platform::TextBox& box) {
+        act(box, [](auto& it) { it.userLostFocus(); });
+    }
+    void select(platform::DropList& list, int position) {
+        act(list, [&](auto& it) { it.userSelect(position); });
+    }
+    void cell(platform::Grid& grid, int row, int column) {
+        act(grid, [&](auto& it) { it.userClick({row, column}); });
+    }
+    void tab(int position) {
+        act(window().SSTab1, [&](auto& it) { it.userSelect(position); });
+    }
+
+    void enterTexts(const project::Texts& texts) {
+        forms::frmCalc& form = window();
+        enter(form.txtProjName, texts.name);
+        enter(form.txtProjektant, texts.designer);
+        enter(form.txtMistoAkce, texts.site);
+        enter(form.txtInvestor, texts.investor);
+        enter(form.txtDetails, texts.description);
+        enter(form.txtTypPudyPodlozi, texts.subsoil);
+    }
+    void enterRain(const project::RainChoice& rain);
+    void enterAreas(const project::Project& project);
+    void chooseType(FacilityType type);
+    void enterFacility(const Facility& facility);
+    void enterSafetyFactor(const Facility& facility) {
+        enter(window().txtSoucBezp[static_cast<int>(facility.type)], facility.safety_factor);
+    }
+    void enterPipes(const Pipes& pipes, int type) {
+        forms::frmCalc& form = window();
+        click(form.chkSelPretok[type]);
+        enter(form.txtPocetPotrubi[type], pipes.count);
+        enter(form.txtPrumTroubVnej[type], pipes.outer_diameter_mm);
+        enter(form.txtPrumTroubVnit[type], pipes.inner_diameter_mm);
+    }
+    void enterTrench(const Facility& facility, int type) {
+        forms::frmCalc& form = window();
+        enter(form.txtPorVyplne[type], facility.fill_porosity);
+        enter(form.txtSirkaRyhy[type], facility.trench_width_m);
+        enter(form.txtVyskaRyhy[type], facility.trench_height_m);
+    }
+    void enterShaft(const Facility& facility);
+    void enterTank(const Facility& facility);
+};
+
+void WindowSession::Parts::enterRain(const project::RainChoice& rain) {
+    forms::frmCalc& form = window();
+    forms::frmIntDialog& dialog = form.intDialog;
+    click(form.cmdEdit[0]);
+    if (rain.station > 0) {
+        select(dialog.cboSelStanice, rain.station);
+    } else {
+        for (int row = 1; row <= data::kDurationCount; ++row) {
+            const auto k = static_cast<std::size_t>(row) - 1;
+            cell(dialog.fgIntDeste, row, 0);
+            enter(dialog.txtSChange, rain.durations_min[k]);
+            cell(dialog.fgIntDeste, row, 1);
+            enter(dialog.txtSChange, rain.intensities_l_s_ha[k]);
+        }
+    }
+    select(dialog.cboSelPeriod, rain.periodicity);
+    for (int row = 1; rain.picks_row && row <= data::kDurationCount; ++row) {
+        if (rain.durations_min[static_cast<std::size_t>(row) - 1] == rain.design_duration_min) {
+            cell(dialog.fgIntDeste, row, 2);
+            break;
+        }
+    }
+    click(dialog.cmdOK);
+    if (dialog.visible()) {
+        program.enter([&] { dialog.close_requested(); });
+    }
+}
+
+void WindowSession::Parts::enterAreas(const project::Project& project) {
+    forms::frmCalc& form = window();
+    forms::frmDialog& dialog = form.areaDialog;
+    if (project.inputs.areas.empty()) {
+        return;
+    }
+    click(form.cmdEdit[1]);
+    for (std::size_t i = 0; i < project.inputs.areas.size(); ++i) {
+        enter(dialog.txtSoucinitel, project.inputs.areas[i].runoff_coefficient);
+        enter(dialog.txtPlocha, project.inputs.areas[i].area_m2);
+        click(dialog.cmdZapsat);
+        if (!project.texts.surfaces[i].empty()) {
+            cell(dialog.fgZapisTab, static_cast<int>(i) + 1, 3);
+            enter(dialog.txtSChange, project.texts.surfaces[i]);
+        }
+    }
+    click(dialog.OKButton);
+}
+
+void WindowSession::Parts::chooseType(FacilityType type) {
+    forms::frmCalc& form = window();
+    tab(forms::kTabDesign);
+    if (type == FacilityType::Tank) {
+        click(form.optSelType[1]);
+        return;
+    }
+    click(form.optSelType[0]);
+    act(form.cboSelType, [](auto& list) { list.userGotFocus(); });
+    select(form.cboSelType, static_cast<int>(type));
+}
+
+void WindowSession::Parts::enterShaft(const Facility& facility) {
+    forms::frmCalc& form = window();
+    ShaftShape shape = facility.shape;
+    int ring = -1;
+    if (facility.catalogue_row >= 0) {
+        const auto catalogue = shaftCatalogue();
+        shape = catalogue[static_cast<std::size_t>(facility.catalogue_row)].shape;
+        const int round_rows = 8;
+        ring = shape == ShaftShape::Round ? facility.catalogue_row : facility.catalogue_row - round_rows;
+    }
+    click(form.optSelTypSachty[static_cast<int>(shape)]);
+    if (facility.sand_layer) {
+        click(form.optSelTypPudy5[1]);
+    }
+    enter(form.txtSachtyCount, static_cast<float>(facility.shaft_count));
+    if (ring >= 0) {
+        select(form.cboTypSachty, ring);
+    } else if (shape == ShaftShape::Round) {
+        enter(form.txtPrumerSachtyVnit, facility.inner_diameter_m);
+        enter(form.txtTloustkaSteny, facility.wall_thickness_m);
+    } else {
+        enter(form.txtPrumerSachtyVnit, facility.inner_width_m);
+        enter(form.txtPrumerSachtyVnej, facility.inner_length_m);
+        enter(form.txtTloustkaSteny, facility.wall_thickness_m);
+    }
+    enter(form.txtMinPrusakDraha, facility.seepage_path_m);
+    enter(form.txtNezamrzHlPritok, facility.inlet_depth_m);
+    enter(form.txtVyskaFiltrVrstvy, facility.filter_layer_m);
+    if (facility.sand_layer) {
+        enter(form.txtVyskaPiskVrstvy, facility.sand_layer_m);
+    }
+    enterSafetyFactor(facility);
+    click(form.cmdCalcul[5]);
+}
+
+void WindowSession::Parts::enterTank(const Facility& facility) {
+    forms::frmCalc& form = window();
+    enter(form.txtSpecMeroIntenz, facility.specific_infiltration_l_s_ha);
+    enter(form.txtDelkaDnaNadrz, facility.bottom_length_m);
+    enter(form.txtSirkaDnaNadrz, facility.bottom_width_m);
+    enter(form.txtHloubkaNadrz, facility.tank_depth_m);
+    enter(form.txtSklonSvahuNadrz, facility.side_slope);
+    if (facility.upstream_settling) {
+        click(form.chkPredUsaz);
+    }
+    enterSafetyFactor(facility);
+    click(form.cmdCalcul[6]);
+}
+
+void WindowSession::Parts::enterFacility(const Facility& facility) {
+    forms::frmCalc& form = window();
+    switch (facility.type) {
+        case FacilityType::Surface:
+            enterSafetyFactor(facility);
+            break;
+        case FacilityType::Swale:
+            if (facility.soil_option == 1) {
+                click(form.optSelTypPudy2[1]);
+            }
+            enterSafetyFactor(facility);
+            break;
+        case FacilityType::SwaleTrench:
+            if (facility.soil_option == 1) {
+                click(form.optSelTypPudy3[1]);
+            }
+            enter(form.txtSoucFiltrPruleh[3], facility.swale_filtration_m_s);
+            leave(form.txtSoucFiltrPruleh[3]);
+            enterTrench(facility, 3);
+            enterSafetyFactor(facility);
+            if (facility.overflow.given) {
+                enterPipes(facility.overflow, 3);
+                enter(form.txtSpecDrenOdtok[3], facility.throttled_outflow_l_s_ha);
+                click(form.cmdOK[3]);
+            }
+            click(form.cmdCalcul[3]);
+            break;
+        case FacilityType::Trench:
+            enterTrench(facility, 4);
+            enterSafetyFactor(facility);
+            if (facility.drain.given) {
+                enterPipes(facility.drain, 4);
+                enter(form.txtVystupPlocha[4], facility.outlet_area_cm2_m);
+                enter(form.txtVystupRychlost[4], facility.outlet_velocity_m_s);
+                click(form.cmdOK[4]);
+            }
+            click(form.cmdCalcul[4]);
+            break;
+        case FacilityType::Shaft:
+            enterShaft(facility);
+            break;
+        case FacilityType::Tank:
+            enterTank(facility);
+            break;
+    }
+}
+
+WindowSession::WindowSession(const project::Project& project) : parts_(std::make_unique<Parts>()) {
+    parts_->program.start();
+    parts_->enterTexts(project.texts);
+    parts_->enter(parts_->window().txtHPV, project.inputs.groundwater_depth_m);
+    parts_->enterRain(project.inputs.rain);
+    parts_->enterAreas(project);
+    parts_->enter(parts_->window().txtSoucFiltrace, project.inputs.filtration_m_s);
+    parts_->leave(parts_->window().txtSoucFiltrace);
+    parts_->chooseType(project.inputs.facility.type);
+    // Where the choice was refused there is no panel to fill in.
+    if (parts_->window().picResults[static_cast<int>(project.inputs.facility.type)].onScreen()) {
+        parts_->enterFacility(project.inputs.facility);
+    }
+}
+
+WindowSession::~WindowSession() = default;
+
+const std::vector<Message>& WindowSession::told() const {
+    return parts_->desk.told;
+}
+
+const data::modPublicVariables& WindowSession::values() const {
+    return parts_->program.values();
+}
+
+forms::frmCalc& WindowSession::window() {
+    return parts_->window();
+}
+
+std::string WindowSession::report() {
+    report::ReportData data = forms::reportData(window(), kMoment);
+    // The results tab puts break tags in the place of line ends before it writes.
+    for (std::size_t at = data.description.find("\r\n"); at != std::string::npos;
+         at = data.description.find("\r\n")) {
+        data.description.replace(at, 2, "<br>");
+    }
+    return report::htmlReport(data);
+}
+
+}  // namespace mero::design::test
