@@ -196,6 +196,21 @@ TEST_F(FiltrationFieldTest, LeavingChangesNothingAtZeroOrBelow) {
     EXPECT_EQ(box.text(), "");
 }
 
+TEST_F(FiltrationFieldTest, LeavingAsksTheTextNotTheStoredValue) {
+    // Another member, or the soil dialog, may have stored a value that this field does not show.
+    box.showText("");
+    stored = 5;
+    formatFiltration(box, stored);
+    EXPECT_EQ(box.text(), "");
+    box.showText("0");
+    formatFiltration(box, stored);
+    EXPECT_EQ(box.text(), "0");
+    box.showText("1e39");
+    stored = 0;
+    formatFiltration(box, stored);
+    EXPECT_EQ(box.text(), "0.0E+00") << "above zero, but never stored";
+}
+
 TEST(DimensionField, TellsWhetherTheBoxWasEmptied) {
     platform::Form form{"frm", "Form"};
     platform::TextBox box{form, "txt"};

@@ -207,6 +207,17 @@ TEST_F(TypeSelectionTest, ThreeGroupsShareOneSoilVariant) {
     EXPECT_TRUE(w.txtVyskaPiskVrstvy.enabled());
 }
 
+TEST_F(TypeSelectionTest, ChoosingAGroupKeepsTheSoilVariant) {
+    p.giveSite();
+    p.chooseType(kSwale);
+    p.click(w.optSelTypPudy2[1]);
+    p.click(w.optSelType[0]);
+    EXPECT_EQ(w.SoilVariant, 1);
+    p.click(w.optSelType[1]);
+    EXPECT_EQ(w.SoilVariant, 1);
+    EXPECT_TRUE(w.optSelTypPudy5[1].selected());
+}
+
 TEST_F(TypeSelectionTest, SoilOptionOfTheSwaleComputesAtOnce) {
     p.giveSite();
     p.chooseType(kSwale);

@@ -185,6 +185,8 @@ TEST_F(EntriesTest, DeletingTheFirstMovesAllUp) {
     p.click(d.cmdDelete);
     EXPECT_THAT(areas(), ElementsAre("200", "300"));
     expectListsOfLength(3);
+    EXPECT_EQ(v.DilciPlocha(3), 0.0F) << "the spare position moved, too";
+    EXPECT_EQ(v.OdtokovySoucinitel(3), 0.0F);
 }
 
 TEST_F(EntriesTest, DeletingTheLastKeepsTheOthers) {
