@@ -100,10 +100,8 @@ void removeReport(const std::string& path) {
     }
 }
 
-std::string lookUpFileName(const std::string& path) {
-    std::error_code ignored;
-    const std::filesystem::path file(path);
-    return std::filesystem::is_regular_file(file, ignored) ? file.filename().string() : std::string();
+std::string bareFileName(const std::string& path) {
+    return std::filesystem::path(path).filename().string();
 }
 
 }  // namespace mero::report

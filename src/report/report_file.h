@@ -18,7 +18,7 @@ enum class WriteResult {
 /// Deletes the file if there is one; every error is ignored. Does nothing for an empty path or a folder.
 void removeReport(const std::string& path);
 
-/// The bare file name that looking up the path in its folder gives: empty when there is no such file.
-[[nodiscard]] std::string lookUpFileName(const std::string& path);
+/// The file name without its folder, as the message about a locked report tells it.
+[[nodiscard]] std::string bareFileName(const std::string& path);
 
 }  // namespace mero::report

@@ -82,7 +82,7 @@ void frmCalc::BuildResultsHtml() {
     values_->txtDetails = withBreakTags(values_->txtDetails);
     const std::string html = report::htmlReport(reportData(*this, clock_->now()));
     if (report::writeReport(values_->ResultsFilePath, html) == report::WriteResult::PermissionDenied) {
-        values_->ResultsFileName = report::lookUpFileName(values_->ResultsFilePath);
+        values_->ResultsFileName = report::bareFileName(values_->ResultsFilePath);
         error("Soubor " + values_->ResultsFileName + " je otevřený jinou aplikací.");
     }
 }
