@@ -18,6 +18,9 @@ namespace {
 
 using qt::shown;
 
+/// Pages are laid out in pixels of 1/96 inch, as on the screen.
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
 QMessageBox::Icon boxIcon(platform::MessageIcon icon) {
     switch (icon) {
         case platform::MessageIcon::Critical:
@@ -88,10 +91,13 @@ void QtDesk::openPrintPreview(const std::string& path) {
     document.load(shown(path));
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
     QPrintPreviewDialog preview(&printer, window());
     preview.setWindowTitle(QStringLiteral("Náhled před tiskem"));
-    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &document,
-                     [&document](QPrinter* target) { document.print(target); });
+    QObject::connect(
+        &preview, &QPrintPreviewDialog::paintRequested, &document, [&document](QPrinter* target) {
+            document.printFitted(*target, target->pageRect(QPrinter::Point).size() * kPixelsPerPoint);
+        });
     preview.exec();
 }
 

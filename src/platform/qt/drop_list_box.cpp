@@ -3,6 +3,7 @@
 #include "platform/qt/drop_list_box.h"
 
 #include <QEvent>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 
 #include "platform/qt/texts.h"
@@ -14,6 +15,15 @@ using platform::Aspect;
 using platform::DropList;
 
 constexpr int kVisibleEntries = 20;
+
+/// Drops the list down below its box, a screenful at most, instead of over the whole screen.
+class ListStyle : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 class WheelFilter : public QObject {
   public:
@@ -53,6 +63,9 @@ void showPosition(QComboBox& combo, const DropList& list) {
 
 QComboBox& makeDropList(WidgetKit& kit, DropList& list, QWidget& parent) {
     auto& combo = *new QComboBox(&parent);
+    auto* style = new ListStyle;
+    style->setParent(&combo);
+    combo.setStyle(style);
     combo.setMaxVisibleItems(kVisibleEntries);
     combo.setSizeAdjustPolicy(QComboBox::AdjustToContents);
     combo.installEventFilter(new WheelFilter(&combo));

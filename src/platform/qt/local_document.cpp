@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QUrl>
 #include <QVariant>
+#include <algorithm>
 #include <utility>
 
 #include "platform/qt/texts.h"
@@ -62,6 +63,15 @@ void LocalDocument::load(const QString& path) {
     } else {
         setHtml(shown(decode_({bytes.constData(), static_cast<std::size_t>(bytes.size())})));
     }
+}
+
+void LocalDocument::printFitted(QPagedPaintDevice& paper, const QSizeF& page_size) {
+    // Tables of a fixed width may stick out of the text's width; the page is then made as wide as they are,
+    // and a document with pages of its own is scaled to the paper.
+    setTextWidth(page_size.width());
+    const double width = std::max(page_size.width(), size().width());
+    setPageSize({width, width * page_size.height() / page_size.width()});
+    print(&paper);
 }
 
 QString LocalDocument::resolve(const QUrl& reference) const {

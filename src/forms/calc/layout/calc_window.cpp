@@ -43,6 +43,8 @@ void CalcWindow::build(QWidget& content) {
                  [this](QWidget& page) { buildTechnologyPage(kit(), *form_, services_, page); });
     tabs.setPage(kTabResults, [this](QWidget& page) { buildResultsPage(kit(), *form_, services_, page); });
 
+    // One starts by naming the project.
+    kit().find(form_->txtProjName)->setFocus();
     const QSize wanted(qt::textWidth(*this, kWidthCharacters), fontMetrics().height() * kHeightLines);
     resize(wanted.boundedTo(screen()->availableGeometry().size()));
 }

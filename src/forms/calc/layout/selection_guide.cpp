@@ -29,11 +29,11 @@ struct Region {
 
 const std::array<Region, 7>& regions() {
     static const std::array<Region, 7> kRegions{{
-        {"vícesložkový systém", {0.0, 0.0, 0.3, 0.64}, {0.25, 0.35, 0.4}},
+        {"vícesložkový systém", {0.0, 0.0, 0.33, 0.64}, {0.25, 0.35, 0.4}},
         {"vsakovací nádrže", {0.0, 0.67, 0.48, 0.33}, {0.4, 0.6, 0}},
         {"plošné vsakování", {0.5, 0.8, 0.5, 0.2}, {1, 0, 0}},
         {"vsakování v průlehu", {0.5, 0.59, 0.5, 0.19}, {0.7, 0.3, 0}},
-        {"kombinace průlehu a rýhy", {0.32, 0.39, 0.56, 0.18}, {0.5, 0.5, 0}},
+        {"kombinace průlehu a rýhy", {0.35, 0.39, 0.6, 0.18}, {0.5, 0.5, 0}},
         {"vsakování rýhové a trubní", {0.4, 0.19, 0.6, 0.18}, {0.55, 0.45, 0}},
         {"šachtové vsakování", {0.5, 0.0, 0.5, 0.17}, {0.65, 0.35, 0}},
     }};
@@ -47,10 +47,10 @@ constexpr std::array<const char*, 3> kLegend{"vsakování", "akumulace", "přeto
 constexpr const char* kCapacityAxis = "vsakovací schopnost podloží";
 constexpr const char* kAreaAxis = "Vhodných ploch k dispozici";
 
-constexpr int kHintCharacters = 62;
-constexpr int kLeastCharacters = 52;
+constexpr int kHintCharacters = 64;
+constexpr int kLeastCharacters = 58;
 constexpr int kHintLines = 24;
-constexpr int kLeastLines = 19;
+constexpr int kLeastLines = 20;
 
 bool isDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < 128;
@@ -75,6 +75,18 @@ QColor regionColour(const QPalette& palette, const Shares& shares) {
         qt::mixed(partColour(palette, kInfiltration), partColour(palette, kStorage), shares.storage);
     return qt::mixed(palette.color(QPalette::Base),
                      qt::mixed(wet, partColour(palette, kOverflow), shares.overflow), kTint);
+}
+
+/// The font, smaller where the longest word of the text would not fit the width.
+QFont fitted(QFont font, const QString& text, double width) {
+    double longest = 0;
+    for (const QString& word : text.split(QLatin1Char(' '))) {
+        longest = std::max(longest, QFontMetricsF(font).horizontalAdvance(word));
+    }
+    if (longest > width) {
+        font.setPointSizeF(QFontInfo(font).pointSizeF() * width / longest);
+    }
+    return font;
 }
 
 /// A line with an arrow head at its end.
@@ -162,6 +174,7 @@ void SelectionGuide::paintRegions(QPainter& painter, const QRectF& chart) const 
         const QString label = QString::fromUtf8(region.label);
         const QRectF inner = place.adjusted(line / 4, line / 5, -line / 4, -line / 5);
         const int flags = Qt::AlignCenter | Qt::TextWordWrap;
+        painter.setFont(fitted(font(), label, inner.width()));
         const double bar_height = line / 3.5;
         const QRectF wanted = painter.boundingRect(inner, flags, label);
         const double stack = wanted.height() + 1.7 * bar_height;

@@ -54,6 +54,12 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     font.setItalic(true);
     note.setFont(font);
     column->addWidget(&note);
+    // The note takes its room from the screen, not from the table.
+    qt::follow(form_->lblDemo, *this, [this](platform::Aspect aspect) {
+        if (aspect == platform::Aspect::Visible) {
+            QTimer::singleShot(0, this, [this] { resize(size().expandedTo(sizeHint())); });
+        }
+    });
 
     qt::GridView& table = qt::makeGrid(kit(), form_->fgIntDeste, kChoiceColumn, kRoom, side);
     qt::describe(table, QStringLiteral("Intenzity trvání deště"));
