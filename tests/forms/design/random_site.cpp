@@ -28,7 +28,7 @@ float odd(float value, bool may_be_huge = true) {
         case 1:
             return -value;
         case 2:
-            return may_be_huge ? value * 1e15F : value;
+            return may_be_huge ? value * 1e9F : value;
         default:
             return value;
     }
@@ -54,15 +54,15 @@ std::array<calc::Rain, calc::kRainRows> rains() {
 
 void drawTrench(RandomSite& site) {
     site.soil_option = *rc::gen::inRange(0, 2);
-    // Not huge and not tiny: there the trench is what rounding left of a difference.
+    // Nothing huge that makes the volume a difference of equals, of which only rounding is left.
     site.swale_filtration_m_s = odd(filtration(), false);
-    site.porosity = odd(steps(10, 60, 100));
-    site.trench_width_m = odd(steps(3, 40, 10));
-    site.trench_height_m = odd(steps(3, 40, 10));
+    site.porosity = odd(steps(10, 60, 100), false);
+    site.trench_width_m = odd(steps(3, 40, 10), false);
+    site.trench_height_m = odd(steps(3, 40, 10), false);
     site.has_drain = oneIn(2);
-    site.inner_pipe_mm = odd(steps(10, 50, 0.1));
-    site.outer_pipe_mm = odd(site.inner_pipe_mm + steps(1, 4, 0.1));
-    site.pipe_count = odd(steps(1, 3, 1));
+    site.inner_pipe_mm = odd(steps(10, 50, 0.1), false);
+    site.outer_pipe_mm = odd(site.inner_pipe_mm + steps(1, 4, 0.1), false);
+    site.pipe_count = odd(steps(1, 3, 1), false);
     site.throttled_l_s_ha = odd(steps(1, 100, 10));
     site.openings_cm2_m = odd(steps(1, 1000, 10));
     site.velocity_m_s = odd(steps(1, 100, 100));
@@ -96,8 +96,8 @@ void drawTank(RandomSite& site) {
 RandomSite randomSite() {
     RandomSite site;
     site.area_m2 = odd(steps(50, 60000, 10));
-    site.filtration_m_s = odd(filtration());
-    site.safety_factor = odd(steps(8, 20, 10));
+    site.filtration_m_s = odd(filtration(), false);
+    site.safety_factor = odd(steps(8, 20, 10), false);
     site.rains = rains();
     site.picked_row = *rc::gen::inRange(0, 10);
     drawTrench(site);
