@@ -5,51 +5,14 @@
 #include <cmath>
 #include <functional>
 
+#include "forms/design/reference_arithmetic.h"
 #include "platform/numbers/number_text.h"
 
 namespace mero::forms::test {
 namespace {
 
-using Exact = long double;
 using platform::Message;
 using platform::MessageIcon;
-
-constexpr Exact kPi = 3.1415927410125732L;
-constexpr Exact kRate = 1e-7L;
-
-struct Fault {
-    int number;
-};
-
-float store(Exact value) {
-    const auto single = static_cast<float>(value);
-    if (!std::isfinite(single)) {
-        throw Fault{6};
-    }
-    return single;
-}
-
-Exact divide(Exact dividend, Exact divisor) {
-    if (divisor == 0) {
-        throw Fault{11};
-    }
-    return dividend / divisor;
-}
-
-Exact root(Exact value) {
-    if (value < 0) {
-        throw Fault{5};
-    }
-    return std::sqrt(value);
-}
-
-std::string lines(const std::vector<std::pair<bool, const char*>>& checks) {
-    std::string text;
-    for (const auto& [fails, line] : checks) {
-        text += fails ? std::string(line) + "\r\n" : "";
-    }
-    return text;
-}
 
 class Design {
   public:
@@ -194,11 +157,11 @@ class Design {
         const Exact inner = static_cast<Exact>(site_.inner_pipe_mm) / 1000;
         const Exact outer = static_cast<Exact>(site_.outer_pipe_mm) / 1000;
         const Exact section = width_ * height_;
-        storage_ = store(divide(
-            ((divide(inner * inner * count, porosity_) - outer * outer * count) * kPi / 4 + section) * porosity_,
-            section));
-        return type == kSwaleTrench ? storage_ != 0
-                                    : site_.inner_pipe_mm != 0 && site_.outer_pipe_mm != 0;
+        storage_ = store(
+            divide(((divide(inner * inner * count, porosity_) - outer * outer * count) * kPi / 4 + section) *
+                       porosity_,
+                   section));
+        return type == kSwaleTrench ? storage_ != 0 : site_.inner_pipe_mm != 0 && site_.outer_pipe_mm != 0;
     }
 
     /// Ticks the box, fills the sub-panel, confirms; an error leaves the box ticked.
@@ -281,9 +244,8 @@ class Design {
         if (!drained) {
             storage_ = site_.porosity;
         }
-        const float length = store(search(true, [&](Exact t, Exact i) {
-            return divide(kRate * area_ * i, uptake(t * 60 * f_));
-        }));
+        const float length = store(
+            search(true, [&](Exact t, Exact i) { return divide(kRate * area_ * i, uptake(t * 60 * f_)); }));
         write("txtDelkaRyhy(4)", length, 1);
         const Exact t = outcome_.picked.duration_min;
         const Exact i = outcome_.picked.intensity_l_s_ha;
@@ -292,8 +254,7 @@ class Design {
         const float inflow = store(1e-4L * area_ * i);
         // Without a drain nothing was typed into its panel.
         const Exact openings = site_.has_drain ? site_.openings_cm2_m : 0.0F;
-        const float outflow =
-            store(openings / 10000 * site_.pipe_count * site_.velocity_m_s * length * 1000);
+        const float outflow = store(openings / 10000 * site_.pipe_count * site_.velocity_m_s * length * 1000);
         write("txtVsakPlocha(4)", store((height_ / 2 + width_) * length), 1);
         if (!drained) {
             return;
@@ -356,8 +317,8 @@ class Design {
                                        joined_outer * kPi * kf_ / 4);
         }));
         write("txtVyskaVzduti(5)", level, 2);
-        const Exact infiltration_area = writeBack(
-            "txtVsakPlocha(5)", store(kPi * joined_outer * joined_outer / 4 + kPi * level / 2), 2);
+        const Exact infiltration_area =
+            writeBack("txtVsakPlocha(5)", store(kPi * joined_outer * joined_outer / 4 + kPi * level / 2), 2);
         const Exact to_filter = static_cast<Exact>(site_.inlet_depth_m) + level;
         const float depth = store(to_filter + site_.filter_m + (site_.type_b ? site_.sand_m : 0.0L));
         write("txtHloubkaSachty", depth, 2);
@@ -402,13 +363,13 @@ class Design {
         const Exact length = site_.tank_length_m;
         const Exact width = site_.tank_width_m;
         const float flow = store(kRate * site_.specific_intensity_l_s_ha * area_);
-        const float required = store(
-            search(false, [&](Exact t, Exact i) { return (kRate * area_ * i - flow) * t * 60 * f_; }));
+        const float required =
+            store(search(false, [&](Exact t, Exact i) { return (kRate * area_ * i - flow) * t * 60 * f_; }));
         const Exact top_length = store(2 * depth * site_.tank_slope + length);
         const Exact top_width = store(2 * depth * site_.tank_slope + width);
-        const float volume = store(depth / 3 *
-                                   (top_length * top_width + length * width +
-                                    root(top_length * length * width * top_width)));
+        const float volume =
+            store(depth / 3 *
+                  (top_length * top_width + length * width + root(top_length * length * width * top_width)));
         write("txtVsakTok", flow, 2);
         write("txtObjAkum(6)", required, 2);
         write("txtVypObjNadrz", volume, 2);
