@@ -91,7 +91,7 @@ void frmCalc::txtPrumerSachtyVnit_Change() {
         recomputeRoundOuterDiameter();
         return;
     }
-    // An emptied box only takes the inner diameter away: the side in store serves the next edit of another box.
+    // An emptied box only takes the inner diameter away; the next edit of another box uses the side in store.
     float side1_m = values_->txtPrumerSachtyVnit;
     if (storeDimension(txtPrumerSachtyVnit, side1_m)) {
         values_->D_i = 0;

@@ -101,8 +101,8 @@ TEST_F(DesignRain, NothingPositiveLeavesThePickedRain) {
 }
 
 TEST_F(DesignRain, BothSearchesOfTheCombinedObjectPick) {
-    // The volume picks the shower of 300 l/s.ha, then the trench the long rain, because the swale's soil keeps
-    // up with it and all of it goes down.
+    // The volume picks the shower of 300 l/s.ha, then the trench the long rain, because the swale's soil
+    // keeps up with it and all of it goes down.
     project.site("500", "1e-6", {{"5", "300"}, {"120", "40"}});
     project.choose(kSwaleTrench);
     project.set(window.txtSoucFiltrPruleh[kSwaleTrench], "1e-4");

@@ -225,6 +225,60 @@ def tank(site, q_s, length, width, depth, slope, settled=False):
 STORM = [(5, 300), (10, 200), (15, 160), (20, 130), (30, 100), (45, 75), (60, 60), (90, 45), (120, 36)]
 
 
+def station(name):
+    """The rains of a station at periodicity 0.2, from the tables that the rain database is built from."""
+    with open(ROOT / "data/stations.csv", encoding="utf-8") as file:
+        number = next(row["number"] for row in csv.DictReader(file, delimiter=";") if row["name"] == name)
+    with open(ROOT / f"data/rain/List{number}.csv", encoding="utf-8") as file:
+        return list(zip(DURATIONS, (float(row["02"]) for row in csv.DictReader(file))))
+
+
+def reduced(*parts):
+    total = 0.0
+    for area, coefficient in parts:
+        total = single(total + single(coefficient) * single(area))
+    return total
+
+
+def examples():
+    brno, budejovice, praha, zlin = (station(x) for x in ("Brno", "České Budějovice", "Praha - Hostivař", "Zlín"))
+    area = reduced((600, 0.9), (400, 0.75))
+    show("prulehy", **swale(Site(area, 2e-5, brno), 0))
+    show("prulehy, option 1", **swale(Site(area, 2e-5, brno), 1))
+
+    area = reduced((420, 0.9), (180, 0.95))
+    for height in 0.3, 0.4:
+        show(f"kombinovany-objekt, {height} m", **combined(Site(area, 1e-5, budejovice), 0, 1e-4, 2, height))
+    tight = lambda: Site(area, 1e-6, budejovice)
+    show("kombinovany-objekt-skrceny-odtok, before", **combined(tight(), 0, 1e-4, 2, 0.4))
+    q_dr, s_rr = throttled(tight(), 5), storage_coefficient(0.35, 100, 110, 1, 2, 0.4)
+    show("kombinovany-objekt-skrceny-odtok", q_dr=digits(q_dr), s_rr=digits(s_rr),
+         **combined(tight(), 0, 1e-4, 2, 0.4, s_rr=s_rr, q_dr=q_dr))
+
+    area = reduced((350, 0.95), (200, 0.75))
+    show("ryha", **trench(Site(area, 5e-5, brno), 0.8, 1.2))
+    s_rr = storage_coefficient(0.35, 200, 225, 1, 0.8, 1.2)
+    for openings in 20, 50:
+        show(f"ryha-s-drenem, {openings} cm2/m", s_rr=digits(s_rr),
+             **trench(Site(area, 5e-5, brno), 0.8, 1.2, s_rr=s_rr, drain=(openings, 1, 0.05)))
+
+    area = reduced((180, 0.9))
+    for count in 1, 2:
+        show(f"sachta-kruhova-a, {count}",
+             **shaft(Site(area, 1e-4, praha), round_shaft(1, 0.09), n=count, z_f=0.8, hpv=9))
+    for count, filter_m in (1, 0.8), (2, 0.8), (2, 0.4):
+        show(f"sachta-kruhova-b, {count}, filter {filter_m} m",
+             **shaft(Site(area, 1e-4, brno), round_shaft(1.5, 0.15), n=count, z_f=0.8, h_f=filter_m, h_p=0.5, hpv=4))
+    area, diameters = reduced((700, 0.9), (300, 0.3)), rectangular_shaft(2.4, 3.8, 0.1)
+    show("sachta-obdelnikova", diameters=[digits(d) for d in diameters],
+         **shaft(Site(area, 1e-4, brno), diameters, hpv=8))
+
+    park = lambda: Site(reduced((8000, 0.9), (3000, 0.95), (5000, 0.1)), 1e-4, zlin)
+    show("nadrz, 20 x 10 m", **tank(park(), 10, 20, 10, 1, 2))
+    show("nadrz, 30 x 15 m", **tank(park(), 10, 30, 15, 1, 2))
+    show("nadrz-s-usazovanim", **tank(park(), 10, 30, 15, 1, 2, settled=True))
+
+
 EQUAL = [(10, 300), (20, 150)]  # the same depth of rain, so the same volume
 
 
@@ -303,4 +357,4 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    examples() if "--examples" in sys.argv else main()

@@ -100,7 +100,8 @@ TEST_F(InputChecks, SandLayerIsCheckedOnTypeBOnly) {
     EXPECT_THAT(project.messages(), ElementsAre(information("Potřebná propustnost filtru je dostačující.")));
     project.click(window.optSelTypPudy5[1]);
     project.calculate();
-    EXPECT_THAT(project.messages(), ElementsAre(critical("Výška pískové vrstvy je menší nebo rovna nule.\r\n")));
+    EXPECT_THAT(project.messages(),
+                ElementsAre(critical("Výška pískové vrstvy je menší nebo rovna nule.\r\n")));
 }
 
 TEST_F(InputChecks, ShaftWithoutWallIsToldAlone) {
@@ -108,13 +109,15 @@ TEST_F(InputChecks, ShaftWithoutWallIsToldAlone) {
     shaft();
     project.clear(window.txtTloustkaSteny);
     project.calculate();
-    EXPECT_THAT(project.messages(), ElementsAre(critical("Vnější průměr šachty je menší než vnitřní průměr.")));
+    EXPECT_THAT(project.messages(),
+                ElementsAre(critical("Vnější průměr šachty je menší než vnitřní průměr.")));
     EXPECT_EQ(window.txtVyskaVzduti[kShaft].text(), "");
     EXPECT_EQ(window.txtObjAkum[kShaft].text(), "");
 
     project.set(window.txtTloustkaSteny, "-0.1");
     project.calculate();
-    EXPECT_THAT(project.messages(), ElementsAre(critical("Vnější průměr šachty je menší než vnitřní průměr.")));
+    EXPECT_THAT(project.messages(),
+                ElementsAre(critical("Vnější průměr šachty je menší než vnitřní průměr.")));
 }
 
 TEST_F(InputChecks, DiametersAreComparedAfterAllElsePassed) {
@@ -149,8 +152,9 @@ TEST_F(InputChecks, VerticalSidesOfATankPass) {
     EXPECT_THAT(project.messages(), ElementsAre(critical("Sklon svahů nádrže je menší než nula.\r\n")));
     project.set(window.txtSklonSvahuNadrz, "0");
     project.calculate();
-    EXPECT_THAT(project.messages(), ElementsAre(information("Objem nádrže je dostačující."),
-                                                exclamation("Vsakovací tok přesahuje průměrný vsakovací tok.")));
+    EXPECT_THAT(project.messages(),
+                ElementsAre(information("Objem nádrže je dostačující."),
+                            exclamation("Vsakovací tok přesahuje průměrný vsakovací tok.")));
 }
 
 TEST_F(InputChecks, ResultsStayWhenACheckFails) {

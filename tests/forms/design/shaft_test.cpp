@@ -11,8 +11,8 @@ using ::testing::IsEmpty;
 const Message kGroundwater = exclamation(
     "Min. hloubka maximální hladiny podzemní vody je překročena.  Zvolte větší průměr šachty či jejich počet "
     "a opakujte výpočet.");
-const Message kBottom = exclamation(
-    "Dno šachty je vzdáleno méně než 0.5 m od hladiny podzemní vody. Zvolte menší výšku filtru.");
+const Message kBottom =
+    exclamation("Dno šachty je vzdáleno méně než 0.5 m od hladiny podzemní vody. Zvolte menší výšku filtru.");
 const Message kSufficient = information("Potřebná propustnost filtru je dostačující.");
 const Message kTooPermeable = exclamation(
     "Potřebná propustnost filtru je příliš vysoká. Zvolte větší průměr šachty či jejich počet a opakujte "

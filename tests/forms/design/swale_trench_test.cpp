@@ -18,9 +18,9 @@ class Combined : public DesignTest {
     }
     /// Area, volume, trench length, swale depth and width, emptying time as shown.
     std::vector<std::string> shown() {
-        return {window.txtVsakPlocha[kSwaleTrench].text(),     window.txtObjAkum[kSwaleTrench].text(),
-                window.txtDelkaRyhy[kSwaleTrench].text(),      window.txtHloubkaPrulehu[kSwaleTrench].text(),
-                window.txtSirkaPrulehu[kSwaleTrench].text(),   window.txtDobaPrazdneni[kSwaleTrench].text()};
+        return {window.txtVsakPlocha[kSwaleTrench].text(),   window.txtObjAkum[kSwaleTrench].text(),
+                window.txtDelkaRyhy[kSwaleTrench].text(),    window.txtHloubkaPrulehu[kSwaleTrench].text(),
+                window.txtSirkaPrulehu[kSwaleTrench].text(), window.txtDobaPrazdneni[kSwaleTrench].text()};
     }
 };
 
@@ -97,10 +97,9 @@ TEST_F(Combined, NegativeAreaIsToldBesideTheVerdict) {
     trench("1e-4", "0.5", "0.5");
     project.set(window.txtVsakPlocha[kSwaleTrench], "-1");
     project.calculate();
-    EXPECT_THAT(
-        project.messages(),
-        ElementsAre(Message{"Není zadána odvodňovaná plocha.", MessageIcon::Critical, "Chyba"},
-                    exclamation("Navržená vsakovací plocha je nedostatečná ( 0.39 > -1.00 ).")));
+    EXPECT_THAT(project.messages(),
+                ElementsAre(Message{"Není zadána odvodňovaná plocha.", MessageIcon::Critical, "Chyba"},
+                            exclamation("Navržená vsakovací plocha je nedostatečná ( 0.39 > -1.00 ).")));
 }
 
 TEST_F(Combined, SafetyFactorEmptiesTheResults) {
