@@ -103,7 +103,7 @@ void FieldModel::watch(std::string name, Rule rule, std::function<double()> stor
         box->observe([this, box, is_subsoil, changed = quantity.get()](platform::Aspect aspect) {
             if (aspect == platform::Aspect::Text) {
                 changed->last_changed = box;
-                soil_picked_ = soil_picked_ && !is_subsoil;
+                picked_soil_ = is_subsoil ? 0 : picked_soil_;
             }
         });
     }
@@ -136,16 +136,15 @@ std::string FieldModel::judge(const Quantity& quantity) const {
     if (!std::isfinite(stored)) {
         return "is stored as no finite number";
     }
+    if (quantity.name == "txtSoucFiltrace" && picked_soil_ > 0) {
+        const auto soil = static_cast<std::size_t>(picked_soil_) - 1;
+        const double coefficient = program_->values().SoucFiltracePudy.at(soil);
+        return isSame(stored, static_cast<double>(numbers::toSingle(coefficient)))
+                   ? ""
+                   : "is not the picked soil's";
+    }
     if (quantity.last_changed == nullptr || (quantity.rule == Rule::Area && stored == 0.0)) {
         return {};
-    }
-    if (quantity.name == "txtSoucFiltrace" && soil_picked_) {
-        for (const double coefficient : program_->values().SoucFiltracePudy) {
-            if (isSame(stored, static_cast<double>(numbers::toSingle(coefficient)))) {
-                return {};
-            }
-        }
-        return "is not the picked soil's";
     }
     const std::string& text = quantity.last_changed->text();
     if (text.empty() && quantity.rule != Rule::Unguarded) {

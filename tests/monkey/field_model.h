@@ -19,7 +19,7 @@ class FieldModel {
     FieldModel& operator=(const FieldModel&) = delete;
 
     /// The soil dialog stores its coefficient at the click, before the field shows it.
-    void soilWasPicked() { soil_picked_ = true; }
+    void soilWasPicked(int row) { picked_soil_ = row; }
 
     /// What does not agree, empty when all does.
     [[nodiscard]] std::string disagreement() const;
@@ -54,7 +54,7 @@ class FieldModel {
     forms::Program* program_;
     std::vector<std::unique_ptr<Quantity>> quantities_;
     std::vector<Text> texts_;
-    bool soil_picked_ = false;
+    int picked_soil_ = 0;  ///< row of the soil dialog, 0 once the field changed after it
 };
 
 }  // namespace mero::monkey

@@ -39,6 +39,10 @@ StationTable plausible(int station) {
 
 }  // namespace
 
+bool InventedRain::has(std::int16_t station_number) {
+    return kindOf(station_number) != Kind::Missing;
+}
+
 StationTable InventedRain::read(std::int16_t station_number, const std::string& /*path*/) {
     StationTable table = plausible(station_number);
     switch (kindOf(station_number)) {

@@ -8,6 +8,8 @@ namespace mero::monkey {
 
 class InventedRain : public data::RainDatabase {
   public:
+    /// Whether the station has a table.
+    [[nodiscard]] static bool has(std::int16_t station_number);
     [[nodiscard]] data::StationTable read(std::int16_t station_number, const std::string& path) override;
 };
 

@@ -11,7 +11,7 @@
 namespace mero::monkey {
 namespace {
 
-enum class Action { Typing, Clicking, Selecting, Entering };
+enum class Action { Typing, Leaving, Clicking, Selecting, Entering };
 
 enum Errors : unsigned {
     kRoot = 1U,        ///< 5: the root of a negative number
@@ -28,7 +28,7 @@ struct Row {
     unsigned errors;
 };
 
-constexpr std::array<Row, 28> kRows{{
+constexpr std::array<Row, 30> kRows{{
     // Boxes without a trap around the conversion.
     {Action::Typing, "frmCalc.txtPocetPotrubi", kMismatch | kOverflow},
     {Action::Typing, "frmCalc.txtPotrHloubkaZahl", kMismatch | kOverflow},
@@ -38,6 +38,9 @@ constexpr std::array<Row, 28> kRows{{
     {Action::Clicking, "frmCalc.optSelTypPudy3", kOverflow | kDivision},
     {Action::Clicking, "frmCalc.chkSelPretok", kOverflow | kDivision},
     {Action::Selecting, "frmCalc.cboSelType", kOverflow | kDivision},
+    // Leaving reads the text leniently once more; a text such as 1e309 stays in the field.
+    {Action::Leaving, "frmCalc.txtSoucFiltrace", kOverflow},
+    {Action::Leaving, "frmCalc.txtSoucFiltrPruleh", kOverflow},
     // The inflow is area times intensity.
     {Action::Typing, "frmCalc.txtOdvodNepPlocha", kOverflow},
     {Action::Typing, "frmCalc.txtSelIntDeste", kOverflow},
@@ -72,6 +75,9 @@ std::optional<Action> actionOf(const std::vector<automation::Word>& words) {
     const std::string& name = words.front().text;
     if (name == "type" || name == "set" || name == "erase") {
         return Action::Typing;
+    }
+    if (name == "leave") {
+        return Action::Leaving;
     }
     if (name == "click") {
         return Action::Clicking;

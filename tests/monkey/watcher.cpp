@@ -14,6 +14,7 @@
 namespace mero::monkey {
 namespace {
 
+constexpr int kSoilChoiceColumn = 2;
 constexpr int kFreeTextColumn = 3;  // of the entries: what the user calls a surface
 
 bool isLetter(char c) {
@@ -104,8 +105,11 @@ std::string Watcher::perform(const std::string& line) {
 }
 
 std::string Watcher::check(const Words& words) {
-    if (words.front().text == "cell" && target_ == "frmCoefDialog.fgCoefProp") {
-        fields_.soilWasPicked();
+    const auto& soils = stage_->program().window().coefDialog;
+    const bool refused = stage_->trace().starts_with("{\"refused\"");
+    if (words.front().text == "cell" && target_ == "frmCoefDialog.fgCoefProp" && !refused &&
+        soils.fgCoefProp.mouse().column == kSoilChoiceColumn) {
+        fields_.soilWasPicked(soils.fgCoefProp.mouse().row);
     }
     if (!odd_text_.empty()) {
         return "no number: " + odd_text_;

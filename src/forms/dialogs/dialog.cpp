@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "platform/numbers/runtime_error.h"
+
 namespace mero::forms {
 
 Dialog::Dialog(std::string name, std::string title, platform::Form& main, platform::Desk& desk)
@@ -12,15 +14,27 @@ Dialog::Dialog(std::string name, std::string title, platform::Form& main, platfo
 }
 
 void Dialog::Show() {
-    const bool opens = !loaded_;
-    if (opens) {
-        loaded_ = true;
+    if (loaded_) {
+        setVisible(true);
+        return;
+    }
+    loaded_ = true;
+    try {
         Form_Load();
+    } catch (const RuntimeError& error) {
+        // The main window is disabled by now, so the user needs the dialog: to correct what cannot be summed,
+        // and to close it.
+        if (!error.endsProgram()) {
+            open();
+        }
+        throw;
     }
+    open();
+}
+
+void Dialog::open() {
     setVisible(true);
-    if (opens) {
-        desk_->formOpened(name());
-    }
+    desk_->formOpened(name());
 }
 
 void Dialog::Unload() {

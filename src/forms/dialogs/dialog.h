@@ -14,7 +14,8 @@ class Dialog : public platform::Form {
     /// @param main the main window, which is disabled while the dialog is open
     Dialog(std::string name, std::string title, platform::Form& main, platform::Desk& desk);
 
-    /// Loads the dialog when it is not open yet, and shows it.
+    /// Loads the dialog when it is not open yet, and shows it. A run-time error of loading leaves it open,
+    /// too, unless it ends the program.
     void Show();
     /// Closes the dialog; the main window is enabled again.
     void Unload();
@@ -27,6 +28,7 @@ class Dialog : public platform::Form {
     [[nodiscard]] platform::Desk& desk() const { return *desk_; }
 
   private:
+    void open();
     void Form_QueryUnload();
 
     platform::Form* main_;
