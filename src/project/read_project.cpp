@@ -353,9 +353,12 @@ Project readProject(std::string_view document, const std::string& file) {
 }
 
 Project readProjectFile(const std::string& file) {
-    std::ifstream stream(file, std::ios::binary);
-    const std::string document{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    if (!stream.is_open() || stream.bad() || (stream.fail() && document.empty())) {
+    std::string document;
+    try {
+        std::ifstream stream(file, std::ios::binary);
+        stream.exceptions(std::ios::badbit | std::ios::failbit);
+        document.assign(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
+    } catch (const std::ios_base::failure&) {  // no such file, no permission, a folder
         throw ProjectError(file + ": cannot be read");
     }
     return readProject(document, file);

@@ -167,6 +167,11 @@ Chart plotOf(const Variants& variants, const project::RainStore& rain, const Plo
                                         : std::nullopt);
         }
     }
+    // A type without this result has no line.
+    std::erase_if(chart.series, [](const Series& series) {
+        return std::none_of(series.values.begin(), series.values.end(),
+                            [](const std::optional<double>& value) { return value.has_value(); });
+    });
     if (plan.lines) {
         chart.legend = withUnit(all[*plan.lines].label(), all[*plan.lines].unit());
     }

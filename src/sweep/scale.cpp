@@ -10,8 +10,8 @@ namespace mero::sweep {
 namespace {
 
 constexpr double kWantedSteps = 6.0;
-/// What a multiple of a step may be off by.
-constexpr double kRounding = 1e-9;
+/// What a multiple of a step or a decade may be off by: the values were rounded to Singles.
+constexpr double kRounding = 1e-6;
 
 double roundStep(double range) {
     const double rough = range / kWantedSteps;
@@ -87,7 +87,12 @@ std::optional<double> Scale::share(double value) const {
     return (measure(value) - low_) / (high_ - low_);
 }
 
-std::string tickText(double value) {
+std::string tickText(double value, bool logarithmic) {
+    constexpr double kSmallestPlain = 1e-2;
+    constexpr double kLargestPlain = 1e4;
+    if (logarithmic && (value < kSmallestPlain || value > kLargestPlain)) {
+        return numbers::scientific(value, 0);
+    }
     // Through a Single: its shortest text hides what the multiplication of the step left behind.
     return numbers::general(static_cast<float>(value));
 }

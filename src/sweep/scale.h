@@ -28,7 +28,7 @@ class Scale {
     std::vector<double> ticks_;
 };
 
-/// The text beside a tick.
-[[nodiscard]] std::string tickText(double value);
+/// The text beside a tick; small and large decades as powers of ten.
+[[nodiscard]] std::string tickText(double value, bool logarithmic);
 
 }  // namespace mero::sweep

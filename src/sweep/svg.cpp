@@ -70,6 +70,11 @@ std::string text(double x, double y, const char* anchor, std::string_view conten
            std::string(more) + ">" + escaped(content) + "</text>\n";
 }
 
+/// Lines of the same dashes carry different marks.
+std::size_t markShape(std::size_t n) {
+    return (n + n / kDashes.size()) % kMarkShapes;
+}
+
 std::string mark(double x, double y, std::size_t shape, const char* colour) {
     constexpr double kSize = 3.5;
     const std::string fill = shape % 2 == 0 ? colour : "#ffffff";
@@ -150,12 +155,12 @@ class Drawing {
         for (const double tick : x_.ticks()) {
             const double x = acrossAt(*x_.share(tick));
             svg_ += line(x, kTop, x, kBottom + kTickLength, kGrid);
-            svg_ += text(x, kBottom + 22.0, "middle", tickText(tick));
+            svg_ += text(x, kBottom + 22.0, "middle", tickText(tick, x_.logarithmic()));
         }
         for (const double tick : y_.ticks()) {
             const double y = downAt(*y_.share(tick));
             svg_ += line(kLeft - kTickLength, y, kLeft + kPlotWidth, y, kGrid);
-            svg_ += text(kLeft - 10.0, y + 4.5, "end", tickText(tick));
+            svg_ += text(kLeft - 10.0, y + 4.5, "end", tickText(tick, y_.logarithmic()));
         }
         svg_ += line(kLeft, kTop, kLeft, kBottom, kAxis);
         svg_ += line(kLeft, kBottom, kLeft + kPlotWidth, kBottom, kAxis);
@@ -177,7 +182,7 @@ class Drawing {
 
     [[nodiscard]] static std::string strokeOf(std::size_t n) {
         return std::string("fill=\"none\" stroke-width=\"1.6\" stroke=\"") + kColours[n % kColours.size()] +
-               "\" stroke-dasharray=\"" + kDashes[n / kColours.size() % kDashes.size()] + "\"";
+               "\" stroke-dasharray=\"" + kDashes[n % kDashes.size()] + "\"";
     }
 
     void drawSeries(std::size_t n) {
@@ -202,7 +207,7 @@ class Drawing {
             const double y = downAt(*value);
             points += number(x) + "," + number(y) + " ";
             if (i % mark_every == 0) {
-                marks += mark(x, y, n % kMarkShapes, kColours[n % kColours.size()]);
+                marks += mark(x, y, markShape(n), kColours[n % kColours.size()]);
             }
         }
         finish();
@@ -219,7 +224,7 @@ class Drawing {
             const double y = kTop + kLegendRow * static_cast<double>(n + 1) + 4.0;
             svg_ +=
                 "<path d=\"M" + number(kLegendLeft) + " " + number(y - 4.0) + "h34\" " + strokeOf(n) + "/>\n";
-            svg_ += mark(kLegendLeft + 17.0, y - 4.0, n % kMarkShapes, kColours[n % kColours.size()]);
+            svg_ += mark(kLegendLeft + 17.0, y - 4.0, markShape(n), kColours[n % kColours.size()]);
             svg_ += text(kLegendLeft + 42.0, y, "start", chart_->series[n].name, " font-size=\"12\"");
         }
     }
