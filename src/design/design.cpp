@@ -13,8 +13,10 @@ DesignResult design(const Site& site, const Facility& facility) {
     WindowReplay replay(site, facility, result);
     replay.enterSite();
     replay.run();
-    result.show(Quantity::CriticalDuration, result.picked_rain.duration_min);
-    result.show(Quantity::CriticalIntensity, result.picked_rain.intensity_l_s_ha);
+    if (result.picked_rain != calc::Rain{}) {
+        result.show(Quantity::CriticalDuration, result.picked_rain.duration_min);
+        result.show(Quantity::CriticalIntensity, result.picked_rain.intensity_l_s_ha);
+    }
     return result;
 }
 

@@ -239,10 +239,13 @@ std::vector<std::string> namesIn(std::string_view object_path) {
 }
 
 std::string nearestName(std::string_view name, std::span<const std::string> names) {
+    constexpr std::size_t kTellingBeginning = 3;
     std::string nearest;
     std::size_t least = std::max<std::size_t>(2, name.size() / 3) + 1;
     for (const std::string& candidate : names) {
-        const std::size_t distance = editDistance(name, candidate);
+        // A name without its unit is as good as right.
+        const bool begins = name.size() >= kTellingBeginning && candidate.starts_with(name);
+        const std::size_t distance = begins ? 0 : editDistance(name, candidate);
         if (distance < least) {
             least = distance;
             nearest = candidate;

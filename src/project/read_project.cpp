@@ -87,8 +87,14 @@ json parse(std::string_view document, const std::string& file) {
     } catch (const json::parse_error& error) {
         throw ProjectError(file + ":" + place(document, error.byte) +
                            ": no valid JSON: " + syntaxReason(error.what()));
-    } catch (const json::out_of_range&) {
-        throw ProjectError(file + ": a number is larger than any that can be calculated with");
+    } catch (const json::out_of_range& error) {
+        // The library names the number, but not its place.
+        const std::string what = error.what();
+        const std::size_t quote = what.find('\'');
+        const std::string number = quote == std::string::npos ? std::string() : what.substr(quote + 1);
+        const std::size_t at = document.find(number.substr(0, number.find('\'')));
+        throw ProjectError(file + ":" + place(document, at == std::string_view::npos ? 0 : at + 1) +
+                           ": expected a number from -1e12 to 1e12");
     }
 }
 
@@ -347,9 +353,12 @@ Project readProject(std::string_view document, const std::string& file) {
 }
 
 Project readProjectFile(const std::string& file) {
-    std::ifstream stream(file, std::ios::binary);
-    const std::string document{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    if (!stream.is_open() || stream.bad() || (stream.fail() && document.empty())) {
+    std::string document;
+    try {
+        std::ifstream stream(file, std::ios::binary);
+        stream.exceptions(std::ios::badbit | std::ios::failbit);
+        document.assign(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
+    } catch (const std::ios_base::failure&) {  // no such file, no permission, a folder
         throw ProjectError(file + ": cannot be read");
     }
     return readProject(document, file);

@@ -1,21 +1,41 @@
 // mero-batch: the program without any window system.
 // The first argument is the command.
+#include <array>
 #include <iostream>
 #include <span>
 #include <string_view>
 #include <vector>
 
+#include "app/batch/design_command.h"
 #include "app/batch/run_command.h"
+#include "app/batch/stations_command.h"
+#include "app/batch/sweep_command.h"
 
 namespace {
+
+struct Command {
+    std::string_view name;
+    int (*run)(std::span<const std::string_view> arguments);
+};
+
+constexpr std::array<Command, 4> kCommands{{
+    {"run", mero::app::runCommand},
+    {"design", mero::app::designCommand},
+    {"sweep", mero::app::sweepCommand},
+    {"stations", mero::app::stationsCommand},
+}};
 
 constexpr const char* kHelp =
     "usage: mero-batch COMMAND [ARGUMENTS]\n"
     "\n"
-    "  run SCRIPT   drives the forms from a script and prints the trace (mero-batch run --help)\n"
+    "  run SCRIPT              drives the forms from a script and prints the trace\n"
+    "  design PROJECT.json     designs a project file and prints results and verdicts\n"
+    "  sweep PROJECT.json      designs all variants of a project file, as CSV and as a plot\n"
+    "  stations [STATION]      lists the rain-gauge stations, or prints the table of one\n"
     "\n"
-    "  --help       this text\n"
-    "  --version    the version\n";
+    "  COMMAND --help          more about a command\n"
+    "  --help                  this text\n"
+    "  --version               the version\n";
 
 }  // namespace
 
@@ -34,8 +54,10 @@ int main(int argc, char** argv) {
         std::cout << "mero-batch " MERO_VERSION "\n";
         return 0;
     }
-    if (arguments.front() == "run") {
-        return mero::app::runCommand(std::span(arguments).subspan(1));
+    for (const Command& command : kCommands) {
+        if (arguments.front() == command.name) {
+            return command.run(std::span(arguments).subspan(1));
+        }
     }
     std::cerr << "mero-batch: unknown command " << arguments.front() << " (see mero-batch --help)\n";
     return kUnusable;

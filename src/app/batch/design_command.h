@@ -1,0 +1,13 @@
+/// mero-batch design: one project file in, results and verdicts out.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace mero::app {
+
+/// @param arguments what follows "design"
+/// @return the exit status
+[[nodiscard]] int designCommand(std::span<const std::string_view> arguments);
+
+}  // namespace mero::app

@@ -1,0 +1,37 @@
+/// The last stop of every error of a command.
+/// What a user can mend is told by its own text, the rest by what the library says.
+#include "app/batch/failures.h"
+
+#include <exception>
+#include <iostream>
+
+#include "app/common/options.h"
+#include "platform/numbers/runtime_error.h"
+#include "project/read_project.h"
+#include "sweep/variation.h"
+
+namespace mero::app {
+namespace {
+
+int tell(const std::exception& error, int status) {
+    std::cerr << "mero-batch: " << error.what() << '\n';
+    return status;
+}
+
+}  // namespace
+
+int reportingFailures(const std::function<int()>& command) {
+    try {
+        return command();
+    } catch (const UsageError& error) {
+        return tell(error, kUnusable);
+    } catch (const project::ProjectError& error) {
+        return tell(error, kUnusable);
+    } catch (const sweep::VariationError& error) {
+        return tell(error, kUnusable);
+    } catch (const std::exception& error) {  // the rain database, memory, threads
+        return tell(error, kFailed);
+    }
+}
+
+}  // namespace mero::app

@@ -1,0 +1,16 @@
+/// How a command ends when something goes wrong: one line on standard error, and an exit status.
+#pragma once
+
+#include <functional>
+
+namespace mero::app {
+
+inline constexpr int kDone = 0;
+inline constexpr int kFailed = 1;         ///< a file cannot be written, the rain database cannot be read
+inline constexpr int kUnusable = 2;       ///< arguments or project cannot be used; nothing was written
+inline constexpr int kInterrupted = 130;  ///< ended by Ctrl-C, with the rows so far
+
+/// Runs a command and turns its errors into a line and a status.
+[[nodiscard]] int reportingFailures(const std::function<int()>& command);
+
+}  // namespace mero::app

@@ -1,0 +1,30 @@
+/// The progress of a long run on one line of the terminal: rows, share, rate, time left.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+namespace mero::app {
+
+/// The line without its control characters.
+[[nodiscard]] std::string progressLine(std::uint64_t done, std::uint64_t all, double seconds);
+
+/// Writes to standard error, and only when that is a terminal.
+class Progress {
+  public:
+    explicit Progress(std::uint64_t all);
+    void tell(std::uint64_t done);
+    /// Clears the line.
+    void finish();
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    std::uint64_t all_;
+    bool on_terminal_;
+    Clock::time_point begin_;
+    Clock::time_point last_;
+};
+
+}  // namespace mero::app

@@ -1,0 +1,13 @@
+/// mero-batch stations: the rain-gauge stations, and the table of one of them.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace mero::app {
+
+/// @param arguments what follows "stations"
+/// @return the exit status
+[[nodiscard]] int stationsCommand(std::span<const std::string_view> arguments);
+
+}  // namespace mero::app

@@ -1,0 +1,28 @@
+/// The only thing that a signal handler may touch is a lock-free flag.
+/// A second Ctrl-C ends the program at once.
+#include "app/batch/stop_signal.h"
+
+#include <csignal>
+
+namespace mero::app {
+namespace {
+
+std::atomic<bool>& flag() {
+    static constinit std::atomic<bool> stop{false};
+    static_assert(std::atomic<bool>::is_always_lock_free);
+    return stop;
+}
+
+}  // namespace
+
+const std::atomic<bool>& stopOnSignals() {
+    struct sigaction action {};
+    action.sa_handler = [](int) { flag().store(true, std::memory_order_relaxed); };
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    sigemptyset(&action.sa_mask);
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+    return flag();
+}
+
+}  // namespace mero::app

@@ -1,0 +1,35 @@
+/// The rows of a sweep as CSV (RFC 4180): commas, points, lines ended by CR LF, UTF-8.
+/// The varied values, every result that one of the types can have, the verdicts by their codes.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "project/rain_store.h"
+#include "sweep/variants.h"
+
+namespace mero::sweep {
+
+/// The text as one cell: in quotes where it holds a comma, a quote or a line end.
+[[nodiscard]] std::string csvCell(std::string_view text);
+
+class CsvTable {
+  public:
+    CsvTable(const Variants& variants, const project::RainStore& rain);
+
+    [[nodiscard]] std::string header() const;
+    /// Appends the rows of `count` variants from `first` on. Any thread may do so for a text of its own.
+    void appendRows(std::uint64_t first, std::uint64_t count, std::string& text) const;
+
+  private:
+    void appendRow(const VariantWalk& walk, std::string& text) const;
+
+    const Variants* variants_;
+    const project::RainStore* rain_;
+    std::vector<design::Quantity> results_;
+    std::vector<std::vector<std::string>> cells_;  ///< of the varied values, ready to write
+};
+
+}  // namespace mero::sweep

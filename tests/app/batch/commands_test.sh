@@ -1,0 +1,151 @@
+#!/bin/sh
+# The commands on projects as a user calls them: outputs, exit statuses, what is left on the disk.
+# Use: commands_test.sh MERO_BATCH SOURCE_FOLDER
+set -u
+
+batch=$1
+source=$2
+projects=$source/examples/projekty
+work=$(mktemp -d) || exit 1
+trap 'rm -rf "$work"' EXIT
+mkdir "$work/folder"
+cp "$source/data/mero.mdb" "$work/folder/"
+cp -r "$source/Webs" "$work/folder/"
+cd "$work" || exit 1
+failures=0
+
+fail() {
+    echo "FAILED: $*"
+    failures=$((failures + 1))
+}
+
+# expect STATUS NAME COMMAND...: runs with the program's folder of this test; output in out, errors in err.
+expect() {
+    wanted=$1
+    name=$2
+    shift 2
+    "$@" >out 2>err </dev/null
+    status=$?
+    [ "$status" -eq "$wanted" ] || fail "$name: exit status $status instead of $wanted: $(cat err)"
+}
+
+holds() {
+    grep -qF -- "$2" "$1" || fail "$3: \"$2\" is not in $1: $(head -c 600 "$1")"
+}
+
+# Help and version.
+for command in run design sweep stations; do
+    expect 0 "$command --help" "$batch" $command --help
+    holds out "usage: mero-batch $command" "$command --help"
+    holds out "Exit status:" "$command --help"
+done
+expect 0 "help" "$batch" --help
+for command in run design sweep stations; do holds out "  $command " "help"; done
+expect 0 "version" "$batch" --version
+expect 2 "no command" "$batch"
+expect 2 "unknown command" "$batch" devise
+holds err "unknown command devise" "unknown command"
+
+# Every example is designed.
+for project in "$projects"/*.json; do
+    expect 0 "$project" "$batch" design --folder folder "$project"
+    expect 0 "$project as JSON" "$batch" design --json --folder folder "$project"
+    python3 -c 'import json, sys; d = json.load(open("out")); assert d["completed"] and d["results"]' ||
+        fail "$project: no JSON"
+done
+expect 0 "surface" "$batch" design --folder folder "$projects/plosne-vsakovani.json"
+holds out "1 015.7 m²" "surface"   # 990 / (1e-4 * 1e7 / (2 * 253.2) - 1) = 1015.67...
+holds err "demonstration values" "surface"
+
+# The report is the window's, byte for byte.
+moment=2026-11-20T14:05:09
+expect 0 "script" "$batch" run --folder folder --clock $moment "$source/examples/plosne-vsakovani.mero"
+expect 0 "report" "$batch" design --folder folder --clock $moment --report report.html \
+    "$projects/plosne-vsakovani.json"
+cmp report.html "folder/Mero_Plošné vsakování" || fail "the reports differ"
+
+# Mistakes in the project: status 2, one line that names file and path, nothing written.
+sed 's/"trench_width_m"/"trench_widht_m"/' "$projects/ryha-s-drenem.json" >wrong.json
+expect 2 "unknown name" "$batch" design --folder folder --report none.html wrong.json
+holds err "wrong.json: facility.trench_widht_m: is not a known name; did you mean \"trench_width_m\"?" "unknown name"
+[ ! -e none.html ] || fail "a report of a wrong project"
+[ ! -s out ] || fail "output of a wrong project"
+expect 2 "unknown name in a sweep" "$batch" sweep --folder folder --vary facility.soil=all --out none.csv wrong.json
+[ ! -e none.csv ] || fail "rows of a wrong project"
+expect 2 "missing project" "$batch" design nowhere.json
+expect 2 "no project" "$batch" design
+expect 2 "two projects" "$batch" design a.json b.json
+expect 2 "unknown option" "$batch" design --jsn a.json
+expect 2 "bad clock" "$batch" design --clock yesterday a.json
+expect 2 "bad folder" "$batch" design --folder nowhere a.json
+expect 2 "value for a flag" "$batch" design --json=yes a.json
+
+# Failures that are not the user's input: status 1.
+mkdir empty
+expect 1 "no database" "$batch" design --folder empty "$projects/pruleh.json"
+expect 1 "report in no folder" "$batch" design --folder folder --report nowhere/r.html "$projects/pruleh.json"
+sed 's/"area_m2": 800/"area_m2": -300/' "$projects/nadrz.json" >dry.json
+expect 1 "report without a type" "$batch" design --report dry.html dry.json
+holds err "no report" "report without a type"
+[ ! -e dry.html ] || fail "a report without a type"
+
+# Stations.
+expect 0 "stations" "$batch" stations
+holds out " 84  Brno" "stations"
+expect 0 "a station" "$batch" stations --folder folder Brno
+holds out "253.2" "a station"
+expect 2 "no such station" "$batch" stations Brnoo
+holds err 'did you mean "Brno"?' "no such station"
+
+# A sweep: rows, order, quotes, the same on any number of threads.
+all="$projects/vsechny-typy.json"
+expect 0 "sweep" "$batch" sweep "$all" --folder folder --vary facility.type=all \
+    --vary subsoil.filtration_coefficient_m_s=log:1e-6:1e-3:200 --vary rain.station=Brno,Zlín --out rows.csv --threads 3
+[ ! -s out ] || fail "rows on standard output beside --out"
+expect 0 "sweep to standard output" "$batch" sweep "$all" --folder folder --vary facility.type=all \
+    --vary subsoil.filtration_coefficient_m_s=log:1e-6:1e-3:200 --vary rain.station=Brno,Zlín --threads=1
+cmp out rows.csv || fail "the rows depend on the number of threads"
+python3 - <<'PYTHON' || fail "the rows are no CSV table"
+import csv
+rows = list(csv.reader(open("rows.csv", newline="", encoding="utf-8")))
+assert len(rows) == 1 + 6 * 200 * 2, len(rows)
+assert {len(row) for row in rows} == {len(rows[0])}
+assert rows[0][:3] == ["facility.type", "subsoil.filtration_coefficient_m_s", "rain.station"]
+assert [row[2] for row in rows[1:5]] == ["Brno", "Zlín", "Brno", "Zlín"]
+assert open("rows.csv", "rb").read().count(b"\r\n") == len(rows)
+PYTHON
+
+# A plot is a picture of its own.
+expect 0 "plot" "$batch" sweep "$projects/ryha-s-drenem.json" --folder folder --plot p.svg \
+    --vary facility.trench_width_m=0.6:2.0:0.1 --vary rain.periodicity=0.5,0.2,0.1
+[ ! -s out ] || fail "rows beside a plot that nobody asked for"
+python3 -c 'import xml.dom.minidom as d; s = d.parse("p.svg"); assert len(s.getElementsByTagName("polyline")) == 3' ||
+    fail "the plot"
+expect 2 "plot of no number" "$batch" sweep "$all" --folder folder --plot none.svg --vary facility.soil=all
+[ ! -e none.svg ] || fail "a plot of nothing"
+
+# Ends of a sweep.
+expect 2 "nothing to vary" "$batch" sweep "$all"
+expect 2 "unknown path" "$batch" sweep "$all" --vary facility.trench_widht_m=1
+expect 2 "threads" "$batch" sweep "$all" --vary facility.soil=all --threads 0
+expect 1 "no place for the rows" "$batch" sweep "$all" --folder folder --vary facility.soil=all --out nowhere/r.csv
+if [ -w /dev/full ]; then
+    expect 1 "full disk" "$batch" sweep "$all" --folder folder --vary facility.safety_factor=1:2:0.0001 --out /dev/full
+    holds err "cannot be written: No space left on device" "full disk"
+fi
+"$batch" sweep "$projects/nadrz.json" --vary facility.safety_factor=1:2:0.00002 \
+    --vary facility.bottom_length_m=1:50:0.001 --out stopped.csv 2>err &
+sweep=$!
+tries=0
+while [ ! -s stopped.csv ] && [ $tries -lt 100 ]; do
+    sleep 0.05
+    tries=$((tries + 1))
+done
+kill -TERM $sweep
+wait $sweep
+status=$?
+[ $status -eq 130 ] || fail "a stopped sweep ends with $status: $(cat err)"
+holds err "stopped after" "stopped sweep"
+[ "$(tail -c 2 stopped.csv | od -An -tx1 | tr -d ' ')" = 0d0a ] || fail "a stopped sweep leaves half a row"
+
+[ $failures -eq 0 ]

@@ -1,0 +1,44 @@
+/// Appending writes what general() gives, and leaves what was there.
+#include "platform/numbers/append_number.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "platform/numbers/number_text.h"
+
+namespace mero::numbers {
+namespace {
+
+std::string appended(float value) {
+    std::string text = "before ";
+    appendGeneral(text, value);
+    return text;
+}
+
+TEST(AppendGeneral, WritesBehindWhatIsThere) {
+    EXPECT_EQ(appended(131.2F), "before 131.2");
+    EXPECT_EQ(appended(-0.75F), "before -0.75");
+    EXPECT_EQ(appended(0.0F), "before 0");
+    EXPECT_EQ(appended(-0.0F), "before 0");
+    EXPECT_EQ(appended(1e-5F), "before 0.00001");
+    EXPECT_EQ(appended(1e7F), "before 10000000");
+    EXPECT_EQ(appended(1.25e-7F), "before 1.25E-07");
+}
+
+TEST(AppendGeneral, EqualsTheGeneralTextOfEveryKindOfSingle) {
+    for (std::uint32_t bits = 0; bits < 0xFFFF0000U; bits += 30011U) {
+        const auto value = std::bit_cast<float>(bits);
+        if (std::isfinite(value)) {
+            ASSERT_EQ(appended(value), "before " + general(value));
+        }
+    }
+    EXPECT_EQ(appended(std::numeric_limits<float>::max()),
+              "before " + general(std::numeric_limits<float>::max()));
+}
+
+}  // namespace
+}  // namespace mero::numbers

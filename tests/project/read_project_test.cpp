@@ -1,0 +1,192 @@
+/// What a project file says and what it may not say.
+/// Every mistake is told with the file, the path, and what was expected.
+#include "project/read_project.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "project/samples.h"
+
+namespace mero::project {
+namespace {
+
+using test::document;
+using test::errorOf;
+using test::kAreas;
+using test::kFacility;
+using test::kRain;
+using test::kSubsoil;
+using test::withFacility;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+TEST(ReadProject, ValuesTextsAndDefaults) {
+    const Project project = readProject(document(), "p.json");
+    EXPECT_EQ(project.inputs.rain.station, 4);  // fourth of the list
+    EXPECT_EQ(project.inputs.rain.periodicity, 4);
+    EXPECT_EQ(project.inputs.rain.design_duration_min, 15.0F);
+    ASSERT_EQ(project.inputs.areas.size(), 1U);
+    EXPECT_EQ(project.inputs.areas[0].area_m2, 800.0F);
+    EXPECT_EQ(project.inputs.filtration_m_s, 1e-4F);
+    EXPECT_EQ(project.inputs.facility.type, design::FacilityType::Trench);
+    EXPECT_EQ(project.inputs.facility.fill_porosity, 0.35F);
+    EXPECT_EQ(project.inputs.facility.safety_factor, 1.2F);
+    EXPECT_FALSE(project.inputs.facility.drain.given);
+}
+
+TEST(ReadProject, AStationIsKnownByNameAndByNumber) {
+    const std::string by_number = R"("rain": {"station": 84, "periodicity": 0.2})";
+    const Project project = readProject(document(by_number), "p.json");
+    EXPECT_EQ(project.inputs.rain.station, 4);  // Brno
+    EXPECT_FALSE(project.inputs.rain.picks_row);
+    EXPECT_THAT(errorOf(document(R"("rain": {"station": "Brnoo", "periodicity": 0.2})")),
+                AllOf(StartsWith("p.json: rain.station: expected the name or number"),
+                      HasSubstr("did you mean \"Brno\"?")));
+    EXPECT_THAT(errorOf(document(R"("rain": {"station": 93, "periodicity": 0.2})")),
+                StartsWith("p.json: rain.station: "));
+}
+
+TEST(ReadProject, OwnRainTakesNineNumbers) {
+    const Project project = readProject(
+        document(R"("rain": {"intensities_l_s_ha": [9,8,7,6,5,4,3,2,1], "periodicity": 1})"), "p.json");
+    EXPECT_EQ(project.inputs.rain.station, 0);
+    EXPECT_EQ(project.inputs.rain.intensities_l_s_ha[8], 1.0F);
+    EXPECT_EQ(project.inputs.rain.durations_min[8], 120.0F);
+    EXPECT_EQ(errorOf(document(R"("rain": {"intensities_l_s_ha": [1,2], "periodicity": 1})")),
+              "p.json: rain.intensities_l_s_ha: expected a list of nine numbers, not one of 2");
+    EXPECT_EQ(errorOf(document(R"("rain": {"intensities_l_s_ha": [1,2,3,4,5,6,7,8,"9"], "periodicity": 1})")),
+              "p.json: rain.intensities_l_s_ha[8]: expected a number, not \"9\"");
+}
+
+TEST(ReadProject, RainIsEitherAStationOrOwnValues) {
+    EXPECT_THAT(errorOf(document(R"("rain": {"periodicity": 1})")), StartsWith("p.json: rain: expected"));
+    EXPECT_THAT(
+        errorOf(document(
+            R"("rain": {"station": 1, "intensities_l_s_ha": [1,2,3,4,5,6,7,8,9], "periodicity": 1})")),
+        HasSubstr("not both"));
+    EXPECT_THAT(errorOf(document(
+                    R"("rain": {"station": 1, "durations_min": [1,2,3,4,5,6,7,8,9], "periodicity": 1})")),
+                StartsWith("p.json: rain.durations_min: "));
+    EXPECT_THAT(errorOf(document(R"("rain": {"station": 1})")),
+                StartsWith("p.json: rain.periodicity: is missing: expected one of: 5, 2, 1"));
+    EXPECT_EQ(errorOf(document(R"("rain": {"station": 1, "periodicity": 1, "design_duration_min": 7})")),
+              "p.json: rain.design_duration_min: expected one of the nine durations");
+}
+
+TEST(ReadProject, UnknownNamesSuggestTheNearest) {
+    EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "trench_widht_m": 1)")),
+              "p.json: facility.trench_widht_m: is not a known name; did you mean \"trench_width_m\"?");
+    EXPECT_EQ(errorOf(document(kRain, R"("areas": [{"area": 1, "runoff_coefficient": 1}])")),
+              "p.json: areas[0].area: is not a known name; did you mean \"area_m2\"?");
+    EXPECT_EQ(errorOf("{\"xyzzyxyzzy\": 1}"), "p.json: xyzzyxyzzy: is not a known name");
+}
+
+TEST(ReadProject, WrongTypesAreToldWithWhatWasExpected) {
+    EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "trench_width_m": "1.2")")),
+              "p.json: facility.trench_width_m: expected a number [m], not \"1.2\"");
+    EXPECT_EQ(
+        errorOf(withFacility(R"("type": 4)")),
+        "p.json: facility.type: expected one of: surface, swale, swale_trench, trench, shaft, tank, not 4");
+    EXPECT_EQ(errorOf(withFacility(R"("type": "tank", "upstream_settling": 1)")),
+              "p.json: facility.upstream_settling: expected true or false, not 1");
+    EXPECT_EQ(errorOf(withFacility(R"("type": "shaft", "shaft_count": 1.5)")),
+              "p.json: facility.shaft_count: expected a whole number from -32768 to 32767, not \"1.5\"");
+    EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "drain": true)")),
+              "p.json: facility.drain: expected an object, not true");
+    EXPECT_EQ(errorOf("[]"), "p.json: the document: expected an object, not a list");
+    EXPECT_EQ(errorOf(document(kRain, R"("areas": {})")), "p.json: areas: expected a list, not an object");
+    EXPECT_EQ(errorOf(document(kRain, R"("areas": [3])")), "p.json: areas[0]: expected an object, not 3");
+}
+
+TEST(ReadProject, MissingValuesOfTheChosenTypeAreTold) {
+    EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "trench_width_m": 1)")),
+              "p.json: facility.trench_height_m: is missing: expected a number [m]");
+    EXPECT_EQ(
+        errorOf(withFacility(R"("safety_factor": 1)")),
+        "p.json: facility.type: is missing: expected one of: surface, swale, swale_trench, trench, shaft, "
+        "tank");
+    EXPECT_EQ(errorOf(document(kRain, R"("areas": [{"area_m2": 5}])")),
+              "p.json: areas[0].runoff_coefficient: is missing: expected a number");
+    EXPECT_EQ(errorOf("{" + kRain + "," + kAreas + "," + kFacility + "}"),
+              "p.json: subsoil: is missing: expected an object");
+    const std::string shaft = R"("type": "shaft", "inlet_frost_depth_m": 1, "filter_layer_m": 0.5)";
+    EXPECT_THAT(errorOf(withFacility(shaft)), StartsWith("p.json: facility.shape: is missing"));
+    EXPECT_THAT(
+        errorOf(withFacility(shaft + R"(, "variant": "type_b", "catalogue_shaft": "RSB - Q 160/200")")),
+        StartsWith("p.json: facility.sand_layer_m: is missing"));
+    EXPECT_EQ(errorOf(withFacility(shaft + R"(, "catalogue_shaft": "RSB - Q 160/200")")), "");
+}
+
+TEST(ReadProject, ARingHasItsOwnDimensions) {
+    EXPECT_EQ(errorOf(withFacility(
+                  R"("type": "shaft", "catalogue_shaft": "RSB - Q 160/200", "inlet_frost_depth_m": 1,
+                                      "filter_layer_m": 1, "wall_thickness_m": 1)")),
+              "p.json: facility.wall_thickness_m: does not go with \"catalogue_shaft\", which has its own "
+              "dimensions");
+}
+
+TEST(ReadProject, SyntaxErrorsTellLineAndColumn) {
+    EXPECT_THAT(errorOf("{\n  \"rain\": {,}\n}"), StartsWith("p.json:2:12: no valid JSON"));
+    EXPECT_THAT(errorOf(""), StartsWith("p.json:1:1: no valid JSON"));
+    EXPECT_THAT(errorOf("{\"project\": {\"name\": \"\xFF\"}}"), StartsWith("p.json:1:"));
+    EXPECT_EQ(errorOf("{\n\"x\": 1e999}"), "p.json:2:6: expected a number from -1e12 to 1e12");
+}
+
+TEST(ReadProject, ANameMayStandOnceInAnObject) {
+    EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "type": "swale")")),
+              "p.json: facility.type: stands twice; expected each name once");
+    EXPECT_EQ(errorOf(document(kRain, R"("areas": [{"area_m2": 1, "runoff_coefficient": 1},
+                                                   {"area_m2": 2, "runoff_coefficient": 1}])")),
+              "");
+}
+
+TEST(ReadProject, NumbersHaveLimits) {
+    EXPECT_EQ(errorOf(document(kRain, kAreas, R"("subsoil": {"filtration_coefficient_m_s": 2e12})")),
+              "p.json: subsoil.filtration_coefficient_m_s: expected a number from -1e12 to 1e12");
+    EXPECT_EQ(errorOf(document(kRain, R"("areas": [{"area_m2": 0, "runoff_coefficient": 1}])")),
+              "p.json: areas[0].area_m2: expected a number [m²] other than 0");
+    // Smaller than any Single, so 0 for the window.
+    EXPECT_THAT(errorOf(document(kRain, R"("areas": [{"area_m2": 1e-60, "runoff_coefficient": 1}])")),
+                HasSubstr("other than 0"));
+}
+
+TEST(ReadProject, NumbersAreRoundedOnceToSingle) {
+    const Project project =
+        readProject(document(kRain, kAreas,
+                             R"("subsoil": {"filtration_coefficient_m_s": 0.1, "groundwater_depth_m": -0})"),
+                    "p.json");
+    EXPECT_EQ(project.inputs.filtration_m_s, 0.1F);
+    EXPECT_FALSE(std::signbit(project.inputs.groundwater_depth_m));
+}
+
+TEST(ReadProject, TextsAreTakenAsTheBoxesTakeThem) {
+    const Project project = readProject(
+        "{\"project\": {\"name\": \"Dvůr <A>\", \"description\": \"a\\nb\\r\\nc\"}," + document().substr(1),
+        "p.json");
+    EXPECT_EQ(project.texts.name, "Dvůr <A>");
+    EXPECT_EQ(project.texts.description, "a\r\nb\r\nc");
+    EXPECT_EQ(errorOf("{\"project\": {\"name\": \"a\\nb\"}," + document().substr(1)),
+              "p.json: project.name: expected a text on one line");
+}
+
+TEST(ReadProject, AByteOrderMarkIsSkipped) {
+    EXPECT_EQ(errorOf("\xEF\xBB\xBF" + document()), "");
+}
+
+TEST(ReadProject, AFileThatIsNotThereIsTold) {
+    EXPECT_THROW(static_cast<void>(readProjectFile("/nowhere/p.json")), ProjectError);
+    EXPECT_THROW(static_cast<void>(readProjectFile("/")), ProjectError);
+}
+
+TEST(ReadProject, TheSubPanelsOfPipesAreThereWhenTheirObjectIs) {
+    const Project project = readProject(
+        withFacility(
+            R"("type": "trench", "trench_width_m": 1, "trench_height_m": 1, "drain": {"pipe_count": 2})"),
+        "p.json");
+    EXPECT_TRUE(project.inputs.facility.drain.given);
+    EXPECT_EQ(project.inputs.facility.drain.count, 2.0F);
+    EXPECT_EQ(project.inputs.facility.drain.inner_diameter_mm, 0.0F);
+}
+
+}  // namespace
+}  // namespace mero::project
