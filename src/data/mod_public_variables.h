@@ -127,6 +127,7 @@ struct ProjectRecord {
     float txtVsakPlocha = 0;        ///< infiltration area [m2]
 
     float txtPrumerSachtyVnit = 0;  ///< the box's own value: inner diameter or first inner side [m]
+    float shaft_side1_m = 0;        ///< first inner side of a rectangular shaft; outlives an emptied box [m]
     float txtPrumerSachtyVnej = 0;  ///< second inner side [m]
     float txtTloustkaSteny = 0;     ///< wall thickness [m]
     float D_i = 0;                  ///< inner, or equivalent inner, diameter of the shaft [m]

@@ -51,7 +51,7 @@ report::ShaftValues shaftOf(const frmCalc& window) {
             .ring = window.cboTypSachty.text(),
             .inflow_depth_m = values.txtNezamrzHlPritok,
             .inner_diameter_m = values.D_i,
-            .side1_m = values.txtPrumerSachtyVnit,
+            .side1_m = values.shaft_side1_m,
             .side2_m = values.txtPrumerSachtyVnej,
             .wall_thickness_m = values.txtTloustkaSteny,
             .filter_layer_m = values.txtVyskaFiltrVrstvy,

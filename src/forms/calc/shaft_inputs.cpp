@@ -63,6 +63,7 @@ void frmCalc::cboTypSachty_Click() {
     } else if (ShaftShape == kRectangular) {
         const data::RectangularShaft& row = catalogueRow(values_->SachtaObdelnikova, cboTypSachty.position());
         values_->txtPrumerSachtyVnit = row.side1_m;
+        values_->shaft_side1_m = row.side1_m;
         values_->txtPrumerSachtyVnej = row.side2_m;
         values_->txtTloustkaSteny = row.wall_m;
         recomputeEquivalentDiameters();
@@ -78,25 +79,22 @@ void frmCalc::recomputeRoundOuterDiameter() {
 }
 
 void frmCalc::recomputeEquivalentDiameters() {
-    const float side1_m = values_->txtPrumerSachtyVnit;
+    const float side1_m = values_->shaft_side1_m;
     const float side2_m = values_->txtPrumerSachtyVnej;
     values_->D_i = calc::shaft_geometry::equivalentInnerDiameter(side1_m, side2_m);
     values_->D_a = calc::shaft_geometry::equivalentOuterDiameter(side1_m, side2_m, values_->txtTloustkaSteny);
 }
 
 void frmCalc::txtPrumerSachtyVnit_Change() {
+    const bool emptied = storeDimension(txtPrumerSachtyVnit, values_->txtPrumerSachtyVnit);
     if (ShaftShape == kRound) {
-        storeDimension(txtPrumerSachtyVnit, values_->txtPrumerSachtyVnit);
         values_->D_i = values_->txtPrumerSachtyVnit;
         recomputeRoundOuterDiameter();
-        return;
-    }
-    // An emptied box only takes the inner diameter away; the next edit of another box uses the side in store.
-    float side1_m = values_->txtPrumerSachtyVnit;
-    if (storeDimension(txtPrumerSachtyVnit, side1_m)) {
+    } else if (emptied) {
+        // Only the inner diameter goes; the next edit of another box uses the side in store.
         values_->D_i = 0;
     } else {
-        values_->txtPrumerSachtyVnit = side1_m;
+        values_->shaft_side1_m = values_->txtPrumerSachtyVnit;
         recomputeEquivalentDiameters();
     }
 }

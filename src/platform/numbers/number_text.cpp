@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 #include <iterator>
 #include <system_error>
@@ -195,6 +196,10 @@ struct Decimal {
 
 template <typename Real>
 Decimal shortestDecimal(Real value) {
+    // Nothing that is stored or shown is inf or nan; whoever gets here with one has left out a check.
+    if (!std::isfinite(value)) {
+        throw RuntimeError(ErrorNumber::Overflow);
+    }
     std::array<char, 40> buffer{};
     const auto result =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific);

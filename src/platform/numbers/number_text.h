@@ -26,17 +26,19 @@ namespace mero::numbers {
 /// Fixed decimals, rounded half away from zero on the shortest decimal digits of the value (2.675 gives
 /// "2.68"), a blank between groups of three digits, a leading zero, never "-0.00".
 /// @param decimals 0 to 20
-/// The value must be finite.
+/// @throws RuntimeError Overflow when the value is not finite
 [[nodiscard]] std::string fixed(float value, int decimals);
 [[nodiscard]] std::string fixed(double value, int decimals);
 
 /// Scientific pattern "0.0E+00" (decimals 1) or "0.00E+00" (decimals 2): one digit, a point, the decimals,
-/// "E", a sign, at least two exponent digits; rounded like fixed(). The value must be finite.
+/// "E", a sign, at least two exponent digits; rounded like fixed().
+/// @throws RuntimeError Overflow when the value is not finite
 [[nodiscard]] std::string scientific(float value, int decimals);
 [[nodiscard]] std::string scientific(double value, int decimals);
 
 /// General text: the shortest decimal that reads back to the same Single, without an exponent where the
-/// magnitude lies from 0.00001 to 10 000 000 ("100", "0.75"), else as "1E-07". The value must be finite.
+/// magnitude lies from 0.00001 to 10 000 000 ("100", "0.75"), else as "1E-07".
+/// @throws RuntimeError Overflow when the value is not finite
 [[nodiscard]] std::string general(float value);
 /// The same for a double (reference values held in double precision).
 [[nodiscard]] std::string general(double value);

@@ -38,7 +38,7 @@ struct ReportDataTest : testing::Test {
                              &v.txtHloubkaNadrz,
                              &v.txtSklonSvahuNadrz,
                              &v.txtVsakPlocha,
-                             &v.txtPrumerSachtyVnit,
+                             &v.shaft_side1_m,
                              &v.txtPrumerSachtyVnej,
                              &v.txtTloustkaSteny,
                              &v.D_i,
@@ -187,7 +187,7 @@ TEST_F(ReportDataTest, Shaft) {
     EXPECT_EQ(d.shaft.count, 3);
     EXPECT_EQ(d.shaft.inflow_depth_m, v.txtNezamrzHlPritok);
     EXPECT_EQ(d.shaft.inner_diameter_m, v.D_i);
-    EXPECT_EQ(d.shaft.side1_m, v.txtPrumerSachtyVnit);
+    EXPECT_EQ(d.shaft.side1_m, v.shaft_side1_m);
     EXPECT_EQ(d.shaft.side2_m, v.txtPrumerSachtyVnej);
     EXPECT_EQ(d.shaft.wall_thickness_m, v.txtTloustkaSteny);
     EXPECT_EQ(d.shaft.filter_layer_m, v.txtVyskaFiltrVrstvy);
