@@ -86,9 +86,15 @@ QWidget& RainWindow::buildHelp(QWidget& parent) {
     column->addWidget(&help, 1);
     column->addWidget(&qt::makeButton(kit(), form_->cmdCloseHelp, side), 0, Qt::AlignRight);
     // The help widens the window; without it the window is as it was.
-    qt::follow(form_->txtHelp, *this, [this](platform::Aspect aspect) {
+    qt::follow(form_->txtHelp, *this, [this, &side](platform::Aspect aspect) {
         if (aspect == platform::Aspect::Visible && !form_->txtHelp.visible()) {
-            QTimer::singleShot(0, this, [this] { adjustSize(); });
+            QTimer::singleShot(0, this, [this, &side] {
+                // From the inside out, so that each size is known before the next one asks for it.
+                for (QWidget* each = &side; each != parentWidget(); each = each->parentWidget()) {
+                    each->layout()->activate();
+                }
+                adjustSize();
+            });
         }
     });
     return side;
