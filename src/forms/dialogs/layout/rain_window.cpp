@@ -87,7 +87,7 @@ QWidget& RainWindow::buildHelp(QWidget& parent) {
     // The help widens the window; without it the window is as it was.
     qt::follow(form_->txtHelp, *this, [this, &side](platform::Aspect aspect) {
         if (aspect == platform::Aspect::Visible && !form_->txtHelp.visible()) {
-            QMetaObject::invokeMethod(this, [this, &side] {
+            qt::later(*this, [this, &side] {
                 // From the inside out, so that each size is known before the next one asks for it.
                 for (QWidget* each = &side; each != parentWidget(); each = each->parentWidget()) {
                     each->layout()->activate();
