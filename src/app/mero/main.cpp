@@ -114,9 +114,8 @@ class Mero {
         app::QtUser user(program_, kit_);
         automation::ScriptRunner runner(program_, user, trace_desk_, std::cerr, script_name_);
         app::ScriptFeed feed(runner, [](int exit_status) { QApplication::exit(exit_status); });
-        QTimer::singleShot(0, &feed, [this, &feed] {
-            script_name_ == "-" ? feed.feedStandardInput() : feed.feedAll(script_);
-        });
+        qt::later(feed,
+                  [this, &feed] { script_name_ == "-" ? feed.feedStandardInput() : feed.feedAll(script_); });
         return QApplication::exec();
     }
 

@@ -118,6 +118,8 @@ void FormWindow::closeEvent(QCloseEvent* event) {
             form_->close_requested();
         }
     });
+    // An unanswered close request would hold up the end of the user's session.
+    event->setAccepted(!form_->visible());
 }
 
 }  // namespace mero::qt

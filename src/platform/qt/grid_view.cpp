@@ -5,7 +5,6 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
-#include <QTimer>
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -47,7 +46,7 @@ GridView::GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, Grid
 
 void GridView::refreshLater() {
     if (!std::exchange(stale_, true)) {
-        QTimer::singleShot(0, this, [this] { refresh(); });
+        later(*this, [this] { refresh(); });
     }
 }
 

@@ -57,7 +57,7 @@ class GridView : public QTableView {
     platform::Grid* grid_;
     GridModel model_;
     GridRoom room_;
-    bool stale_ = false;
+    bool stale_ = true;  ///< behind the grid until it is first shown
     bool laying_out_ = false;
     std::optional<platform::GridCell> pressed_;
 };

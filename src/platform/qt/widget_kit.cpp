@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QTimer>
 #include <utility>
 
 #include "platform/qt/texts.h"
@@ -87,6 +88,16 @@ void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::
     if (kit.runsFocusHandlers()) {
         widget.installEventFilter(new FocusFilter(kit, widget, std::move(got), std::move(lost)));
     }
+}
+
+void later(QObject& object, std::function<void()> action) {
+    auto* timer = new QTimer(&object);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action = std::move(action)] {
+        timer->deleteLater();
+        action();
+    });
+    timer->start(0);
 }
 
 void describe(QWidget& widget, const QString& caption, const QString& unit) {

@@ -46,6 +46,9 @@ void bindCommon(WidgetKit& kit, platform::Control& control, QWidget& widget);
 /// and lists that drop down count as neither.
 void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost);
 
+/// Calls `action` once, after the running event, if the object still lives then.
+void later(QObject& object, std::function<void()> action);
+
 /// Names the widget for assistive technology: caption and unit.
 void describe(QWidget& widget, const QString& caption, const QString& unit = {});
 

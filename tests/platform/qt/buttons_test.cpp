@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "bench_form.h"
+#include "platform/qt/bench_form.h"
 #include "platform/qt/drop_list_box.h"
 
 namespace mero::qt {

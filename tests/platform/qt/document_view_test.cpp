@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTextBlock>
 
-#include "bench_form.h"
+#include "platform/qt/bench_form.h"
 #include "platform/qt/texts.h"
 
 namespace mero::qt {

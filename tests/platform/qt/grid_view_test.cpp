@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include "bench_form.h"
+#include "platform/qt/bench_form.h"
 #include "platform/qt/cell_editor_box.h"
 
 namespace mero::qt {

@@ -7,7 +7,7 @@
 #include <QTest>
 #include <vector>
 
-#include "bench_form.h"
+#include "platform/qt/bench_form.h"
 #include "platform/qt/look.h"
 #include "platform/qt/texts.h"
 

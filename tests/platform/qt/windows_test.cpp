@@ -5,7 +5,7 @@
 #include <QTabBar>
 #include <QTest>
 
-#include "bench_form.h"
+#include "platform/qt/bench_form.h"
 #include "platform/qt/buttons.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/tab_view.h"
@@ -134,6 +134,12 @@ TEST_F(Windows, TheCloseBoxOnlyAsks) {
     EXPECT_FALSE(dialog.close());
     EXPECT_EQ(requests, 1);
     EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST_F(Windows, AFormThatClosesAnswersTheRequest) {
+    dialog_form.close_requested = [&] { dialog_form.hide(); };
+    dialog_form.show();
+    EXPECT_TRUE(dialog.close());
 }
 
 TEST_F(Windows, ADisabledWindowCannotBeClosed) {

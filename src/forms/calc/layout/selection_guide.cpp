@@ -15,16 +15,16 @@ namespace {
 
 /// What a system does with the water, in shares of its bar.
 struct Shares {
-    double infiltration;
-    double storage;
-    double overflow;
+    double infiltration = 0;
+    double storage = 0;
+    double overflow = 0;
 };
 
 /// A region of the chart; x: capacity of the subsoil, y: area at hand, both from 0 (little) to 1 (much).
 struct Region {
-    const char* label;
+    const char* label = "";
     QRectF place;
-    Shares shares;
+    Shares shares = {};
 };
 
 const std::array<Region, 7>& regions() {

@@ -1,7 +1,6 @@
 /// Setting out of the rain dialog.
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
@@ -57,7 +56,7 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     // The note takes its room from the screen, not from the table.
     qt::follow(form_->lblDemo, *this, [this](platform::Aspect aspect) {
         if (aspect == platform::Aspect::Visible) {
-            QTimer::singleShot(0, this, [this] { resize(size().expandedTo(sizeHint())); });
+            qt::later(*this, [this] { resize(size().expandedTo(sizeHint())); });
         }
     });
 
@@ -86,9 +85,15 @@ QWidget& RainWindow::buildHelp(QWidget& parent) {
     column->addWidget(&help, 1);
     column->addWidget(&qt::makeButton(kit(), form_->cmdCloseHelp, side), 0, Qt::AlignRight);
     // The help widens the window; without it the window is as it was.
-    qt::follow(form_->txtHelp, *this, [this](platform::Aspect aspect) {
+    qt::follow(form_->txtHelp, *this, [this, &side](platform::Aspect aspect) {
         if (aspect == platform::Aspect::Visible && !form_->txtHelp.visible()) {
-            QTimer::singleShot(0, this, [this] { adjustSize(); });
+            qt::later(*this, [this, &side] {
+                // From the inside out, so that each size is known before the next one asks for it.
+                for (QWidget* each = &side; each != parentWidget(); each = each->parentWidget()) {
+                    each->layout()->activate();
+                }
+                adjustSize();
+            });
         }
     });
     return side;

@@ -1,0 +1,135 @@
+/// Setting out of fields and pages.
+#include <gtest/gtest.h>
+
+#include <QLabel>
+
+#include "platform/qt/bench_form.h"
+#include "platform/qt/field_grid.h"
+#include "platform/qt/look.h"
+#include "platform/qt/page_layout.h"
+#include "platform/qt/panels.h"
+
+namespace mero::qt {
+namespace {
+
+class Fields : public testing::Test {
+  protected:
+    BenchForm bench;
+    platform::TextBox box{bench.form, "txtHPV"};
+    BenchWindow window;
+    QWidget& place = window.put(*new QWidget(&window));
+    FieldGrid grid{bench.kit, place};
+
+    [[nodiscard]] QLabel& label(const QString& text) const {
+        for (auto* each : place.findChildren<QLabel*>()) {
+            if (QString(each->text()).replace('\n', ' ') == text) {
+                return *each;
+            }
+        }
+        ADD_FAILURE() << "no label " << qPrintable(text);
+        return *new QLabel(&place);
+    }
+    void show() {
+        window.resize(700, 200);
+        QApplication::processEvents();
+    }
+};
+
+TEST_F(Fields, CaptionFieldAndUnitStandInOneRow) {
+    const QLineEdit& line = grid.input(box, "Výška rýhy", "m");
+    show();
+    EXPECT_LT(label("Výška rýhy").geometry().right(), line.geometry().left());
+    EXPECT_LT(line.geometry().right(), label("m").geometry().left());
+    EXPECT_LE(std::abs(label("m").geometry().center().y() - line.geometry().center().y()), 2);
+    EXPECT_EQ(line.accessibleName(), "Výška rýhy [m]");
+    EXPECT_EQ(label("Výška rýhy").buddy(), &line);
+}
+
+TEST_F(Fields, ALongCaptionIsBrokenAndKeepsAllItsWords) {
+    const QString caption = "Celkový součinitel akumulace vsakovací rýhy (vč. příp. trouby)";
+    grid.result(box, caption);
+    show();
+    const QLabel& shown_label = label(caption);
+    EXPECT_TRUE(shown_label.text().contains('\n'));
+    EXPECT_GE(shown_label.width(), shown_label.sizeHint().width());
+    EXPECT_GE(shown_label.height(), shown_label.sizeHint().height());
+}
+
+TEST_F(Fields, AResultIsReadOnlyBoldAndOnTheRight) {
+    platform::TextBox other(bench.form, "txtVsakTok");
+    const QLineEdit& result = grid.result(box, "Vsakovací tok", "m³/s");
+    EXPECT_TRUE(result.isReadOnly());
+    EXPECT_TRUE(result.font().bold());
+    EXPECT_TRUE(result.alignment() & Qt::AlignRight);
+    EXPECT_NE(result.palette().color(QPalette::Base), window.palette().color(QPalette::Base));
+    EXPECT_EQ(result.focusPolicy() & Qt::TabFocus, 0);
+}
+
+TEST_F(Fields, TheirWidthComesFromTheFont) {
+    const QLineEdit& line = grid.input(box, "a");
+    EXPECT_EQ(line.width(), textWidth(line, 14));
+}
+
+class Pair : public testing::Test {
+  protected:
+    BenchWindow window;
+    FlowPair& pair = *new FlowPair(window);
+    QWidget& first = *new QWidget(&pair);
+    QWidget& second = *new QWidget(&pair);
+
+    void SetUp() override {
+        first.setMinimumSize(300, 100);
+        second.setMinimumSize(300, 100);
+        pair.add(first, 1);
+        pair.add(second, 1);
+        window.put(pair);
+    }
+    void widen(int width) {
+        window.resize(width, 400);
+        QApplication::processEvents();
+    }
+};
+
+TEST_F(Pair, StandsBesideEachOtherWhereThereIsRoom) {
+    widen(900);
+    EXPECT_EQ(first.y(), second.y());
+    EXPECT_LT(first.geometry().right(), second.x());
+}
+
+TEST_F(Pair, StandsBelowEachOtherInANarrowWindowAndGoesBack) {
+    widen(400);
+    EXPECT_EQ(first.x(), second.x());
+    EXPECT_LT(first.geometry().bottom(), second.y());
+    EXPECT_LE(pair.minimumSizeHint().width(), 320);
+    widen(900);
+    EXPECT_EQ(first.y(), second.y());
+}
+
+TEST(Panels, AreShownAndHiddenByCode) {
+    BenchForm bench;
+    platform::Panel panel(bench.form, "picPretokSkrOdtok(3)");
+    panel.hide();
+    platform::Frame frame(panel, "fra", "Výběr");
+    BenchWindow window;
+    QGroupBox& widget = window.put(makeFramedPanel(bench.kit, panel, "Drenáž", window));
+    widget.setLayout(new QVBoxLayout);
+    QGroupBox& inner = makeFrame(bench.kit, frame, widget);
+    widget.layout()->addWidget(&inner);
+    EXPECT_FALSE(widget.isVisible());
+    panel.moveTo(0, 3000);
+    panel.show();
+    EXPECT_TRUE(widget.isVisible());
+    EXPECT_TRUE(inner.isVisible());
+    frame.setText("a & b");
+    EXPECT_EQ(inner.title(), "a && b");
+    EXPECT_EQ(widget.title(), "Drenáž");
+}
+
+TEST(Colours, AreMixedByShare) {
+    EXPECT_EQ(mixed(Qt::black, Qt::white, 0), QColor(0, 0, 0));
+    EXPECT_EQ(mixed(Qt::black, Qt::white, 1), QColor(255, 255, 255));
+    EXPECT_EQ(mixed(QColor(0, 100, 200), QColor(100, 0, 200), 0.25), QColor(25, 75, 200));
+}
+
+}  // namespace
+}  // namespace mero::qt
