@@ -83,7 +83,7 @@ void Watcher::watchNumbers(platform::Form& form) {
                 text = cellsOf(*grid);
             }
             if (hasNoNumber(text)) {
-                odd_text_ = name + " shows " + text;
+                odd_text_ = std::string(name).append(" shows ").append(text);
             }
         });
     }
