@@ -20,6 +20,10 @@ if [[ $1 == all ]]; then
 fi
 
 build_quietly fuzz
+# The fuzzer leaves without tidying up.
+export TMPDIR=$root/build/fuzz/tmp
+trap 'rm -rf -- "$TMPDIR"' EXIT
+mkdir -p "$TMPDIR"
 for target in "${targets[@]}"; do
     program=$root/build/fuzz/fuzz/fuzz_$target
     if [[ ! -x $program ]]; then
