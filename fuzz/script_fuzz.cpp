@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             continue;
         }
         const std::string fault = watcher.perform(line);
-        require(fault.empty(), fault + " after: " + line);
+        require(fault.empty(), fault.empty() ? fault : std::string(fault).append(" after: ").append(line));
         if (watcher.lastStep() == Stage::Step::Unusable) {
             require(!stage.diagnostics().empty(), "an unusable line is explained");
             continue;  // the rest of the input is worth trying

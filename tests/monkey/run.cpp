@@ -43,7 +43,7 @@ std::string replay(const SandboxFolder& sandbox, const Script& script) {
     Stage stage(sandbox);
     Watcher watcher(stage);
     for (const std::string& line : script) {
-        const std::string fault = watcher.perform(line);
+        std::string fault = watcher.perform(line);
         if (!fault.empty() || watcher.lastStep() == Stage::Step::ProgramEnded) {
             return fault;
         }

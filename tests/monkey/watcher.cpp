@@ -70,18 +70,20 @@ Watcher::Watcher(Stage& stage) : stage_(&stage), fields_(stage.program()) {
 
 void Watcher::watchNumbers(platform::Form& form) {
     for (platform::Control* control : form.controls()) {
-        control->observe([this, control](platform::Aspect aspect) {
+        const std::string name = control->name();
+        const std::string full_name = form.name() + "." + name;
+        control->observe([this, control, name, full_name](platform::Aspect aspect) {
             const auto* box = dynamic_cast<const platform::TextBox*>(control);
             const auto* grid = dynamic_cast<const platform::Grid*>(control);
             std::string text;
             if (aspect == platform::Aspect::Text && box != nullptr && !showsFreeText(*box) &&
-                box->form().name() + "." + box->name() != target_) {
+                full_name != target_) {
                 text = box->text();
             } else if (aspect == platform::Aspect::Cells && grid != nullptr) {
                 text = cellsOf(*grid);
             }
             if (hasNoNumber(text)) {
-                odd_text_ = control->name() + " shows " + text;
+                odd_text_ = std::string(name).append(" shows ").append(text);
             }
         });
     }
@@ -122,7 +124,7 @@ std::string Watcher::check(const Words& words) {
     if (const std::string disagreement = fields_.disagreement(); !disagreement.empty()) {
         return "fields: " + disagreement;
     }
-    const std::string panels = checkPanels(words);
+    std::string panels = checkPanels(words);
     if (!panels.empty() || stage_->program().ended()) {
         return panels;
     }
