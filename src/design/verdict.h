@@ -61,10 +61,10 @@ inline constexpr std::size_t kVerdictCount = static_cast<std::size_t>(Verdict::E
 enum class Severity : std::uint8_t { Information, Warning, Refusal };
 
 struct VerdictInfo {
-    Verdict verdict;
-    const char* code;  ///< stable: `shaft_bottom_too_close`
-    const char* text;  ///< Czech; empty for texts that carry numbers, see messages.h
-    Severity severity;
+    Verdict verdict = Verdict::RainIntensitiesMissing;
+    const char* code = "";  ///< stable: `shaft_bottom_too_close`
+    const char* text = "";  ///< Czech; empty for texts that carry numbers, see messages.h
+    Severity severity = Severity::Information;
     bool titled_error = false;  ///< the box has the title "Chyba" instead of the application's
 };
 

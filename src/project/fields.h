@@ -38,8 +38,8 @@ struct Field {
 
 /// The texts of a project file.
 struct TextField {
-    const char* path;
-    std::string Texts::*text;
+    const char* path = "";
+    std::string Texts::*text = nullptr;
     bool several_lines = false;
 };
 [[nodiscard]] std::span<const TextField> textFields();

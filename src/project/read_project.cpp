@@ -140,18 +140,28 @@ class Reader {
         fail(path, "is missing" + (field == nullptr ? std::string() : ": expected " + expected(*field)));
     }
 
+    static std::string memberOf(const std::string& path, const std::string& name) {
+        return path.empty() ? name : std::string(path).append(".").append(name);
+    }
+
+    void requireKnown(const std::string& name, const std::vector<std::string>& names,
+                      const std::string& path) const {
+        if (std::find(names.begin(), names.end(), name) != names.end()) {
+            return;
+        }
+        const std::string near = nearestName(name, names);
+        fail(path, near.empty() ? std::string("is not a known name")
+                                : "is not a known name; did you mean \"" + near + "\"?");
+    }
+
     void readObject(const json& object, const std::string& path) {
         if (!object.is_object()) {
             fail(path, "expected an object, not " + shortText(object));
         }
         const std::vector<std::string> names = namesIn(path);
         for (const auto& [name, value] : object.items()) {
-            const std::string member = path.empty() ? name : path + "." + name;
-            if (std::find(names.begin(), names.end(), name) == names.end()) {
-                const std::string near = nearestName(name, names);
-                fail(member,
-                     "is not a known name" + (near.empty() ? "" : "; did you mean \"" + near + "\"?"));
-            }
+            const std::string member = memberOf(path, name);
+            requireKnown(name, names, member);
             readMember(value, member);
         }
     }
@@ -241,11 +251,7 @@ class Reader {
                 fail(path, "expected an object, not " + shortText(list[i]));
             }
             for (const auto& [name, value] : list[i].items()) {
-                if (std::find(names.begin(), names.end(), name) == names.end()) {
-                    const std::string near = nearestName(name, names);
-                    fail(path + "." + name,
-                         "is not a known name" + (near.empty() ? "" : "; did you mean \"" + near + "\"?"));
-                }
+                requireKnown(name, names, memberOf(path, name));
             }
             readArea(list[i], path);
         }
@@ -253,7 +259,7 @@ class Reader {
 
     void readArea(const json& object, const std::string& path) {
         const auto number = [&](const char* name, const char* what) {
-            const std::string member = path + "." + name;
+            const std::string member = memberOf(path, name);
             if (!object.contains(name)) {
                 fail(member, std::string("is missing: expected ") + what);
             }

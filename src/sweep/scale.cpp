@@ -58,9 +58,9 @@ void Scale::roundLinear(double low, double high) {
     }
     const double step = roundStep(high - low);
     const double first = std::floor(low / step + kRounding);
-    const double last = std::ceil(high / step - kRounding);
-    for (double k = first; k <= last; k += 1.0) {
-        ticks_.push_back(k * step);
+    const auto steps = static_cast<int>(std::ceil(high / step - kRounding) - first);
+    for (int k = 0; k <= steps; ++k) {
+        ticks_.push_back((first + k) * step);
     }
     low_ = ticks_.front();
     high_ = ticks_.back();
@@ -69,8 +69,8 @@ void Scale::roundLinear(double low, double high) {
 void Scale::roundLogarithmic(double low, double high) {
     const double first = std::floor(std::log10(low) + kRounding);
     const double last = std::max(std::ceil(std::log10(high) - kRounding), first + 1.0);
-    for (double k = first; k <= last; k += 1.0) {
-        ticks_.push_back(std::pow(10.0, k));
+    for (int k = 0; k <= static_cast<int>(last - first); ++k) {
+        ticks_.push_back(std::pow(10.0, first + k));
     }
     low_ = first;
     high_ = last;

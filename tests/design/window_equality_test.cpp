@@ -5,9 +5,9 @@
 #include <algorithm>
 
 #include "design/design.h"
+#include "design/entered_window.h"
 #include "design/messages.h"
 #include "design/random_projects.h"
-#include "design/window_session.h"
 #include "project/prepare_site.h"
 #include "project/report_data.h"
 #include "report/html_report.h"
@@ -129,7 +129,7 @@ project::RainStore storeFor(const project::Project& project) {
     return store;
 }
 
-void compareNumbers(WindowSession& window, const DesignResult& result, FacilityType type) {
+void compareNumbers(EnteredWindow& window, const DesignResult& result, FacilityType type) {
     for (const QuantityInfo& quantity : quantities()) {
         // A swale's coefficient lives where a shaft's filter does.
         if (belongsTo(quantity.quantity, type)) {
@@ -140,7 +140,7 @@ void compareNumbers(WindowSession& window, const DesignResult& result, FacilityT
     EXPECT_EQ(result.swale_filtration_m_s, window.values().txtSoucFiltrPruleh);
 }
 
-void compareBoxes(WindowSession& window, const DesignResult& result, FacilityType type) {
+void compareBoxes(EnteredWindow& window, const DesignResult& result, FacilityType type) {
     for (const Box& box : boxesOf(window.window(), type)) {
         // A surface that could not be calculated keeps the "0" that it was cleared with.
         const bool cleared_surface =
@@ -155,7 +155,7 @@ void compareBoxes(WindowSession& window, const DesignResult& result, FacilityTyp
 
 /// Compares one project; false when anything differs.
 bool agrees(const project::Project& project) {
-    WindowSession window(project);
+    EnteredWindow window(project);
     const Site site = project::prepareSite(project.inputs, storeFor(project));
     const DesignResult result = design(site, project.inputs.facility);
     const FacilityType type = project.inputs.facility.type;
@@ -174,7 +174,7 @@ bool agrees(const project::Project& project) {
         compareBoxes(window, result, type);
     }
     if (result.type_chosen) {
-        EXPECT_EQ(report::htmlReport(project::reportData(project, site, result, WindowSession::kMoment)),
+        EXPECT_EQ(report::htmlReport(project::reportData(project, site, result, EnteredWindow::kMoment)),
                   window.report());
     }
     return !::testing::Test::HasFailure();

@@ -1,6 +1,6 @@
 /// The user's hands on the forms.
 /// An action on a control that a user could not reach is a mistake of this test and throws.
-#include "design/window_session.h"
+#include "design/entered_window.h"
 
 #include <stdexcept>
 
@@ -57,9 +57,9 @@ data::StationTable MadeUpRain::read(std::int16_t station_number, const std::stri
     return table;
 }
 
-const platform::DateTime WindowSession::kMoment{2026, 11, 20, 14, 5, 9};
+const platform::DateTime EnteredWindow::kMoment{2026, 11, 20, 14, 5, 9};
 
-struct WindowSession::Parts {
+struct EnteredWindow::Parts {
     RecordingDesk desk;
     platform::FrozenClock clock{kMoment};
     platform::ProgramLocale locale{".", " ", ","};
@@ -128,7 +128,7 @@ struct WindowSession::Parts {
     void enterTank(const Facility& facility);
 };
 
-void WindowSession::Parts::enterRain(const project::RainChoice& rain) {
+void EnteredWindow::Parts::enterRain(const project::RainChoice& rain) {
     forms::frmCalc& form = window();
     forms::frmIntDialog& dialog = form.intDialog;
     click(form.cmdEdit[0]);
@@ -156,7 +156,7 @@ void WindowSession::Parts::enterRain(const project::RainChoice& rain) {
     }
 }
 
-void WindowSession::Parts::enterAreas(const project::Project& project) {
+void EnteredWindow::Parts::enterAreas(const project::Project& project) {
     forms::frmCalc& form = window();
     forms::frmDialog& dialog = form.areaDialog;
     if (project.inputs.areas.empty()) {
@@ -175,7 +175,7 @@ void WindowSession::Parts::enterAreas(const project::Project& project) {
     click(dialog.OKButton);
 }
 
-void WindowSession::Parts::chooseType(FacilityType type) {
+void EnteredWindow::Parts::chooseType(FacilityType type) {
     forms::frmCalc& form = window();
     tab(forms::kTabDesign);
     if (type == FacilityType::Tank) {
@@ -187,7 +187,7 @@ void WindowSession::Parts::chooseType(FacilityType type) {
     select(form.cboSelType, static_cast<int>(type));
 }
 
-void WindowSession::Parts::enterShaft(const Facility& facility) {
+void EnteredWindow::Parts::enterShaft(const Facility& facility) {
     forms::frmCalc& form = window();
     ShaftShape shape = facility.shape;
     int ring = -1;
@@ -222,7 +222,7 @@ void WindowSession::Parts::enterShaft(const Facility& facility) {
     click(form.cmdCalcul[5]);
 }
 
-void WindowSession::Parts::enterTank(const Facility& facility) {
+void EnteredWindow::Parts::enterTank(const Facility& facility) {
     forms::frmCalc& form = window();
     enter(form.txtSpecMeroIntenz, facility.specific_infiltration_l_s_ha);
     enter(form.txtDelkaDnaNadrz, facility.bottom_length_m);
@@ -236,7 +236,7 @@ void WindowSession::Parts::enterTank(const Facility& facility) {
     click(form.cmdCalcul[6]);
 }
 
-void WindowSession::Parts::enterFacility(const Facility& facility) {
+void EnteredWindow::Parts::enterFacility(const Facility& facility) {
     forms::frmCalc& form = window();
     switch (facility.type) {
         case FacilityType::Surface:
@@ -283,7 +283,7 @@ void WindowSession::Parts::enterFacility(const Facility& facility) {
     }
 }
 
-WindowSession::WindowSession(const project::Project& project) : parts_(std::make_unique<Parts>()) {
+EnteredWindow::EnteredWindow(const project::Project& project) : parts_(std::make_unique<Parts>()) {
     parts_->program.start();
     parts_->enterTexts(project.texts);
     parts_->enter(parts_->window().txtHPV, project.inputs.groundwater_depth_m);
@@ -298,21 +298,21 @@ WindowSession::WindowSession(const project::Project& project) : parts_(std::make
     }
 }
 
-WindowSession::~WindowSession() = default;
+EnteredWindow::~EnteredWindow() = default;
 
-const std::vector<Message>& WindowSession::told() const {
+const std::vector<Message>& EnteredWindow::told() const {
     return parts_->desk.told;
 }
 
-const data::modPublicVariables& WindowSession::values() const {
+const data::modPublicVariables& EnteredWindow::values() const {
     return parts_->program.values();
 }
 
-forms::frmCalc& WindowSession::window() {
+forms::frmCalc& EnteredWindow::window() {
     return parts_->window();
 }
 
-std::string WindowSession::report() {
+std::string EnteredWindow::report() {
     report::ReportData data = forms::reportData(window(), kMoment);
     // The results tab puts break tags in the place of line ends before it writes.
     for (std::size_t at = data.description.find("\r\n"); at != std::string::npos;

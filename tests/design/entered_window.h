@@ -19,12 +19,12 @@ class MadeUpRain : public data::RainDatabase {
 };
 
 /// A running program into which one project has been entered and calculated.
-class WindowSession {
+class EnteredWindow {
   public:
-    explicit WindowSession(const project::Project& project);
-    ~WindowSession();
-    WindowSession(const WindowSession&) = delete;
-    WindowSession& operator=(const WindowSession&) = delete;
+    explicit EnteredWindow(const project::Project& project);
+    ~EnteredWindow();
+    EnteredWindow(const EnteredWindow&) = delete;
+    EnteredWindow& operator=(const EnteredWindow&) = delete;
 
     /// Every message box and every report of an error, in order.
     [[nodiscard]] const std::vector<Message>& told() const;
