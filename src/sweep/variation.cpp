@@ -23,16 +23,16 @@ bool isNumber(const project::Field& field) {
 
 /// The text of a stored value, as files and axes show it.
 std::string textOf(const project::Field& field, float value) {
-    const auto position = static_cast<std::size_t>(value);
+    const auto position = [&] { return static_cast<std::size_t>(value); };
     switch (field.kind) {
         case FieldKind::Choice:
-            return project::choices(field)[position];
+            return project::choices(field)[position()];
         case FieldKind::Truth:
             return value != 0.0F ? "true" : "false";
         case FieldKind::Station:
-            return project::reference().StaniceNazev[position];
+            return project::reference().StaniceNazev[position()];
         case FieldKind::Periodicity:
-            return numbers::general(project::reference().Periodicita[position]);
+            return numbers::general(project::reference().Periodicita[position()]);
         case FieldKind::Number:
         case FieldKind::WholeNumber:
             break;

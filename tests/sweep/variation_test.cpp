@@ -45,6 +45,11 @@ TEST(Variation, RangesTakeTheirEndAndAddUpNoError) {
     EXPECT_THAT(textsOf("facility.trench_width_m=2:2:1"), ElementsAre("2"));
 }
 
+TEST(Variation, NegativeAndLargeNumbersAreNumbersToo) {
+    EXPECT_THAT(textsOf("subsoil.groundwater_depth_m=-1.5,1e12,1e-30"),
+                ElementsAre("-1.5", "1E+12", "1E-30"));
+}
+
 TEST(Variation, LogarithmicRangesHaveAConstantRatio) {
     EXPECT_THAT(textsOf("subsoil.filtration_coefficient_m_s=log:1e-6:1e-3:4"),
                 ElementsAre("1E-06", "0.00001", "0.0001", "0.001"));

@@ -1,0 +1,97 @@
+/// What the commands print and write: tables, JSON, rows.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <string>
+
+#include "app/batch/design_output.h"
+#include "app/batch/row_file.h"
+
+namespace mero::app {
+namespace {
+
+using design::Quantity;
+using design::Verdict;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+project::Project shaftProject() {
+    project::Project project;
+    project.texts.name = "Dvůr \"A\"";
+    project.inputs.facility.type = design::FacilityType::Shaft;
+    return project;
+}
+
+design::DesignResult shaftResult() {
+    design::DesignResult result;
+    result.show(Quantity::WaterDepth, 1.525F);
+    result.show(Quantity::InfiltrationArea, 27.0349F, 27.03F);
+    result.verdicts.add(Verdict::InletDepthNotPositive);
+    result.verdicts.add(Verdict::FilterLayerNotPositive);
+    result.verdicts.add(Verdict::ErrorDivisionByZero);
+    return result;
+}
+
+TEST(ResultTable, ShowsBoxesDashesAndMessagesLineByLine) {
+    const std::string table = resultTable(shaftProject(), shaftResult());
+    EXPECT_THAT(table, HasSubstr("Dvůr \"A\"\nŠachtové vsakování\n"));
+    EXPECT_THAT(table, HasSubstr(" 27.03 m²\n"));
+    EXPECT_THAT(table, HasSubstr("1.53 m\n"));
+    EXPECT_THAT(table, HasSubstr("- m³\n"));
+    EXPECT_THAT(table, HasSubstr("\n  x Nezámrzná hloubka přítoku je menší nebo rovna nule.\n"
+                                 "  x Výška filtrační vrstvy je menší nebo rovna nule.\n"));
+    EXPECT_THAT(table, HasSubstr(" (11)\n"));
+    EXPECT_THAT(table, Not(HasSubstr("\r")));
+}
+
+TEST(ResultTable, ColumnsLineUpWhateverTheDiacritics) {
+    const std::string table = resultTable(shaftProject(), shaftResult());
+    const auto column = [&](const std::string& unit) {
+        std::size_t end = table.find(unit);
+        std::size_t columns = 0;
+        for (; end > 0 && table[end - 1] != '\n'; --end) {
+            columns += (static_cast<unsigned char>(table[end - 1]) & 0xC0U) != 0x80U ? 1U : 0U;
+        }
+        return columns;
+    };
+    EXPECT_EQ(column(" m²\n"), column(" m³\n"));
+}
+
+TEST(ResultJson, IsJsonWithTheStoredNumbers) {
+    const nlohmann::json parsed = nlohmann::json::parse(resultJson(shaftProject(), shaftResult()));
+    EXPECT_EQ(parsed["project"], "Dvůr \"A\"");
+    EXPECT_EQ(parsed["type"], "shaft");
+    EXPECT_EQ(parsed["completed"], false);
+    EXPECT_EQ(parsed["results"]["infiltration_area_m2"], 27.03);
+    EXPECT_TRUE(parsed["results"]["storage_volume_m3"].is_null());
+    EXPECT_FALSE(parsed["results"].contains("tank_volume_m3"));
+    EXPECT_EQ(parsed["verdicts"][2]["code"], "runtime_error_11");
+    EXPECT_EQ(parsed["verdicts"][0]["severity"], "error");
+}
+
+TEST(RowFile, EmptiesAnOldFileAndWritesInOrder) {
+    const std::string path = ::testing::TempDir() + "mero_row_file_test.csv";
+    std::ofstream(path) << "old and longer than what comes";
+    RowFile file(path);
+    EXPECT_TRUE(file.write("a,b\r\n"));
+    EXPECT_TRUE(file.write(""));
+    EXPECT_TRUE(file.write("1,2\r\n"));
+    EXPECT_TRUE(file.close());
+    std::ifstream stream(path, std::ios::binary);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), "a,b\r\n1,2\r\n");
+    std::remove(path.c_str());
+}
+
+TEST(RowFile, TellsWhyItCannotWrite) {
+    EXPECT_THROW(RowFile("/nowhere/rows.csv"), std::runtime_error);
+    RowFile full("/dev/full");
+    EXPECT_FALSE(full.write("1"));
+    EXPECT_THAT(full.failure(), HasSubstr("/dev/full cannot be written: "));
+}
+
+}  // namespace
+}  // namespace mero::app

@@ -1,0 +1,220 @@
+/// Whole designs of the storing facilities, worked out by hand, with their verdicts and stops.
+/// One rain of 100 l/(s.ha) for 60 min, safety factor 1 unless said otherwise.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "design/design.h"
+#include "design/messages.h"
+
+namespace mero::design {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+Site hourOfRain() {
+    Site site;
+    site.has_areas = true;
+    site.reduced_area_m2 = 1000.0F;
+    site.rains[6] = {.duration_min = 60.0F, .intensity_l_s_ha = 100.0F};
+    site.picked_row = 6;
+    site.filtration_m_s = 1e-5F;
+    return site;
+}
+
+Facility facilityOf(FacilityType type) {
+    Facility facility;
+    facility.type = type;
+    facility.safety_factor = 1.0F;
+    facility.swale_filtration_m_s = 1e-5F;
+    facility.fill_porosity = 0.5F;
+    facility.trench_width_m = 1.0F;
+    facility.trench_height_m = 2.0F;
+    facility.inner_diameter_m = 2.0F;
+    facility.wall_thickness_m = 0.25F;
+    facility.inlet_depth_m = 1.0F;
+    facility.filter_layer_m = 0.5F;
+    facility.specific_infiltration_l_s_ha = 10.0F;
+    facility.bottom_length_m = 10.0F;
+    facility.bottom_width_m = 5.0F;
+    facility.tank_depth_m = 1.0F;
+    return facility;
+}
+
+std::vector<Verdict> told(const DesignResult& result) {
+    return {result.verdicts.all().begin(), result.verdicts.all().end()};
+}
+
+TEST(SwaleDesign, StoresWhatDoesNotSoakAway) {
+    const DesignResult result = design(hourOfRain(), facilityOf(FacilityType::Swale));
+    EXPECT_EQ(result.value(Quantity::InfiltrationArea), 100.0F);
+    // (1100 * 1e-7 * 100 - 100 * 1e-5 / 2) * 3600 = (0.011 - 0.0005) * 3600
+    EXPECT_FLOAT_EQ(result.value(Quantity::StorageVolume), 37.8F);
+    EXPECT_FLOAT_EQ(result.value(Quantity::WaterDepth), 0.378F);
+    // 2 * 0.378 / 1e-5 / 3600
+    EXPECT_FLOAT_EQ(result.value(Quantity::EmptyingTime), 21.0F);
+    EXPECT_THAT(told(result), IsEmpty());
+}
+
+TEST(SwaleDesign, TheSecondSoilTakesAFifthOfTheArea) {
+    Facility facility = facilityOf(FacilityType::Swale);
+    facility.soil_option = 1;
+    EXPECT_EQ(design(hourOfRain(), facility).value(Quantity::InfiltrationArea), 200.0F);
+}
+
+TEST(SwaleDesign, ARainPickedByAnEarlierCalculationStays) {
+    // With the opening safety factor the rain is critical; the factor 0 that is typed then finds none.
+    Site site = hourOfRain();
+    site.picked_row = -1;
+    Facility facility = facilityOf(FacilityType::Swale);
+    facility.safety_factor = 0.0F;
+    const DesignResult result = design(site, facility);
+    EXPECT_EQ(result.value(Quantity::StorageVolume), 0.0F);
+    EXPECT_EQ(result.picked_rain.intensity_l_s_ha, 100.0F);
+}
+
+TEST(SwaleDesign, WithoutFiltrationThereIsNoEmptyingTime) {
+    Site site = hourOfRain();
+    site.filtration_m_s = 0.0F;
+    const DesignResult result = design(site, facilityOf(FacilityType::Swale));
+    EXPECT_THAT(told(result), ElementsAre(Verdict::FiltrationMissing));
+    EXPECT_TRUE(result.has(Quantity::WaterDepth));
+    EXPECT_FALSE(result.has(Quantity::EmptyingTime));
+}
+
+TEST(SwaleTrenchDesign, TheTrenchTakesWhatTheSwaleLetsThrough) {
+    const DesignResult result = design(hourOfRain(), facilityOf(FacilityType::SwaleTrench));
+    EXPECT_FLOAT_EQ(result.value(Quantity::StorageVolume), 37.8F);
+    // (0.011 - 37.8 / 3600) / (1 * 2 * 0.5 / 3600 + 2 * 1e-5 / 2) = 0.0005 / 0.00028777...
+    EXPECT_NEAR(result.value(Quantity::TrenchLength), 1.7374517F, 1e-4F);
+    EXPECT_THAT(told(result), ElementsAre(Verdict::SwaleTrenchAreaSufficient));
+    EXPECT_EQ(messages(result)[0].text, "Navržená vsakovací plocha je dostatečná ( 1.74 < 100.00 ).");
+}
+
+TEST(SwaleTrenchDesign, AnOverflowWithoutOutflowIsUntickedAgain) {
+    Facility facility = facilityOf(FacilityType::SwaleTrench);
+    facility.overflow = {true, 1.0F, 300.0F, 250.0F};
+    EXPECT_FALSE(design(hourOfRain(), facility).pipes);
+    facility.throttled_outflow_l_s_ha = 1.0F;
+    const DesignResult result = design(hourOfRain(), facility);
+    EXPECT_TRUE(result.pipes);
+    EXPECT_FLOAT_EQ(result.value(Quantity::ThrottledOutflow), 0.0001F);  // 0.1 ha at 1 l/(s.ha)
+}
+
+TEST(SwaleTrenchDesign, WithoutAreaTheMessageSpeaksOfIt) {
+    Site site = hourOfRain();
+    site.reduced_area_m2 = 0.0F;
+    const DesignResult result = design(site, facilityOf(FacilityType::SwaleTrench));
+    EXPECT_THAT(told(result), ElementsAre(Verdict::DrainedAreaMissing, Verdict::InfiltrationAreaMissing));
+    EXPECT_TRUE(messages(result)[1].titled_error);
+}
+
+TEST(TrenchDesign, LengthVolumeAndDrain) {
+    Facility facility = facilityOf(FacilityType::Trench);
+    const DesignResult plain = design(hourOfRain(), facility);
+    // 0.01 / (1 / 3600 + 2 * 1e-5 / 2) = 0.01 / 0.000287777...
+    EXPECT_NEAR(plain.value(Quantity::TrenchLength), 34.749035F, 1e-4F);
+    EXPECT_EQ(plain.value(Quantity::InfiltrationArea), 69.5F);
+    EXPECT_EQ(plain.value(Quantity::DrainOutflow), 0.0F);
+    EXPECT_THAT(told(plain), IsEmpty());
+
+    facility.drain = {true, 2.0F, 160.0F, 145.0F};
+    facility.outlet_area_cm2_m = 50.0F;
+    facility.outlet_velocity_m_s = 0.1F;
+    const DesignResult drained = design(hourOfRain(), facility);
+    EXPECT_TRUE(drained.pipes);
+    EXPECT_THAT(told(drained), ElementsAre(Verdict::DrainOutflowMet));  // about 35 against 10 l/s
+
+    facility.outlet_velocity_m_s = 0.01F;
+    EXPECT_THAT(told(design(hourOfRain(), facility)), ElementsAre(Verdict::DrainOutflowNotMet));
+}
+
+TEST(TrenchDesign, ADrainWithoutDiameterIsUntickedAndNotJudged) {
+    Facility facility = facilityOf(FacilityType::Trench);
+    facility.drain = {true, 1.0F, 160.0F, 0.0F};
+    const DesignResult result = design(hourOfRain(), facility);
+    EXPECT_FALSE(result.pipes);
+    EXPECT_EQ(result.value(Quantity::StorageCoefficient), 0.5F);
+    EXPECT_THAT(told(result), IsEmpty());
+}
+
+TEST(ShaftDesign, AnOuterDiameterThatIsNotLargerIsRefusedAlone) {
+    Facility facility = facilityOf(FacilityType::Shaft);
+    facility.safety_factor = 1.2F;
+    facility.wall_thickness_m = 0.0F;
+    const DesignResult result = design(hourOfRain(), facility);
+    EXPECT_THAT(told(result), ElementsAre(Verdict::ShaftOuterDiameterTooSmall));
+    EXPECT_FALSE(result.has(Quantity::WaterDepth));
+}
+
+TEST(ShaftDesign, TheBottomMustStayAboveTheRequiredDepth) {
+    Facility facility = facilityOf(FacilityType::Shaft);
+    facility.filter_layer_m = 1.25F;  // 1.25 + 0.5 > 1.5
+    const DesignResult result = design(hourOfRain(), facility);
+    EXPECT_THAT(told(result), ElementsAre(Verdict::ShaftBottomTooClose));
+    EXPECT_FALSE(result.completed);
+    facility.filter_layer_m = 0.5F;
+    EXPECT_TRUE(design(hourOfRain(), facility).completed);
+}
+
+TEST(ShaftDesign, HighGroundwaterStopsBeforeAnythingElse) {
+    Site site = hourOfRain();
+    site.groundwater_depth_m = 1.0F;
+    Facility facility = facilityOf(FacilityType::Shaft);
+    facility.filter_layer_m = 1.25F;
+    EXPECT_THAT(told(design(site, facility)), ElementsAre(Verdict::ShaftGroundwaterTooHigh));
+}
+
+TEST(ShaftDesign, ASandLayerCountsOnlyInItsVariant) {
+    Facility facility = facilityOf(FacilityType::Shaft);
+    facility.sand_layer_m = 0.25F;
+    const float without = design(hourOfRain(), facility).value(Quantity::ShaftDepth);
+    facility.sand_layer = true;
+    EXPECT_FLOAT_EQ(design(hourOfRain(), facility).value(Quantity::ShaftDepth), without + 0.25F);
+    facility.sand_layer_m = 0.0F;
+    EXPECT_THAT(told(design(hourOfRain(), facility)), Contains(Verdict::SandLayerNotPositive));
+}
+
+TEST(ShaftDesign, SidesOfDifferentSignsAreRuntimeErrorsOfTheirBoxes) {
+    Facility facility = facilityOf(FacilityType::Shaft);
+    facility.shape = ShaftShape::Rectangular;
+    facility.inner_width_m = 2.0F;
+    facility.inner_length_m = -3.0F;
+    const std::vector<Verdict> verdicts = told(design(hourOfRain(), facility));
+    // The length box, the wall box, and then the balance with diameters of 0 while the factor is typed.
+    ASSERT_GE(verdicts.size(), 3U);
+    EXPECT_EQ(verdicts[0], Verdict::ErrorInvalidCall);
+    EXPECT_EQ(verdicts[1], Verdict::ErrorInvalidCall);
+    EXPECT_EQ(verdicts[2], Verdict::ErrorDivisionByZero);
+}
+
+TEST(TankDesign, AVolumeThatIsTooSmallEndsTheDesign) {
+    Facility facility = facilityOf(FacilityType::Tank);
+    facility.tank_depth_m = 0.5F;  // 25 m3 against (0.01 - 0.001) * 3600 = 32.4 m3
+    const DesignResult result = design(hourOfRain(), facility);
+    EXPECT_FLOAT_EQ(result.value(Quantity::StorageVolume), 32.4F);
+    EXPECT_THAT(told(result), ElementsAre(Verdict::TankVolumeTooSmall));
+    EXPECT_FALSE(result.completed);
+}
+
+TEST(TankDesign, WithoutSettlingAFifthOfTheCoefficientCounts) {
+    Site site = hourOfRain();
+    site.filtration_m_s = 5e-5F;
+    Facility facility = facilityOf(FacilityType::Tank);
+    // 50 m2 * 1e-5 / 2 = 0.00025 m3/s against 0.001 m3/s; with settling 0.00125 m3/s.
+    EXPECT_THAT(told(design(site, facility)), Contains(Verdict::TankInfiltrationExceeded));
+    facility.upstream_settling = true;
+    EXPECT_THAT(told(design(site, facility)), Contains(Verdict::TankInfiltrationProven));
+}
+
+TEST(TankDesign, ASlopeBelowZeroIsRefusedWithAllOtherMistakes) {
+    Facility facility = facilityOf(FacilityType::Tank);
+    facility.side_slope = -0.5F;
+    facility.bottom_width_m = 0.0F;
+    EXPECT_THAT(told(design(hourOfRain(), facility)),
+                ElementsAre(Verdict::BottomWidthNotPositive, Verdict::SideSlopeNegative));
+}
+
+}  // namespace
+}  // namespace mero::design
