@@ -50,7 +50,6 @@ QTextBrowser& makeDocumentView(WidgetKit& kit, platform::BrowserView& view, cons
                                QWidget& parent) {
     auto& browser = *new QTextBrowser(&parent);
     auto* document = new LocalDocument(services.decode, &browser);
-    document->setDefaultFont(browser.font());
     browser.setDocument(document);
     browser.setOpenLinks(false);
     setPaperColours(browser);

@@ -1,0 +1,16 @@
+/// Main program of tests that need the window system's application object.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "platform/numbers/numeric_locale.h"
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const QApplication application(argc, argv);
+    mero::numbers::useNumericCLocale();
+    return RUN_ALL_TESTS();
+}
