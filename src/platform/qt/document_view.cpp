@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QPalette>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QUrl>
 
@@ -26,6 +27,8 @@ void setPaperColours(QTextBrowser& browser) {
 void load(QTextBrowser& browser, LocalDocument& document, const QString& path) {
     document.load(path);
     browser.moveCursor(QTextCursor::Start);
+    // Showing the cursor scrolls the margin above it away.
+    browser.verticalScrollBar()->setValue(0);
 }
 
 void followLink(QTextBrowser& browser, LocalDocument& document, const DocumentServices& services,
