@@ -93,6 +93,13 @@ std::optional<std::string> TraceDesk::askSavePath(const std::string& /*suggested
     return answer;
 }
 
+platform::PdfResult TraceDesk::makePdf(const std::string& document_path, const std::string& target_path) {
+    if (inner_ != nullptr) {
+        return inner_->makePdf(document_path, target_path);
+    }
+    return pdf_maker_ ? pdf_maker_(document_path, target_path) : platform::PdfResult::NoMeans;
+}
+
 void TraceDesk::saved(const std::string& path) {
     print(JsonLine().add("saved", path));
     if (inner_ != nullptr) {

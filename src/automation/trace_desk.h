@@ -2,9 +2,11 @@
 /// keeps what the next save dialog will be answered with.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include "automation/json_line.h"
 #include "platform/desk.h"
@@ -13,12 +15,17 @@ namespace mero::automation {
 
 class TraceDesk : public platform::Desk {
   public:
+    using PdfMaker =
+        std::function<platform::PdfResult(const std::string& document_path, const std::string& target_path)>;
+
     /// @param trace  where the lines go; flushed after each
     /// @param inner  the real desk of a window, which shows the same things; null without a window
     /// @param folder where relative answers of the save dialog lead
     TraceDesk(std::ostream& trace, platform::Desk* inner, std::string folder);
 
     void print(const JsonLine& line);
+    /// Who makes PDF files where there is no real desk.
+    void makePdfBy(PdfMaker maker) { pdf_maker_ = std::move(maker); }
     /// Answer of the next save dialog; nothing cancels it.
     void answerSave(std::optional<std::string> path) { save_answer_ = std::move(path); }
 
@@ -30,6 +37,7 @@ class TraceDesk : public platform::Desk {
     void navigated(const std::string& view, const std::string& path) override;
     void openPrintPreview(const std::string& path) override;
     std::optional<std::string> askSavePath(const std::string& suggested_path) override;
+    platform::PdfResult makePdf(const std::string& document_path, const std::string& target_path) override;
     void saved(const std::string& path) override;
     void ended() override;
 
@@ -37,6 +45,7 @@ class TraceDesk : public platform::Desk {
     std::ostream* trace_;
     platform::Desk* inner_;
     std::string folder_;
+    PdfMaker pdf_maker_;
     std::optional<std::string> save_answer_;
 };
 

@@ -25,7 +25,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-constexpr milliseconds kTimeLimit{2000};
 // A killed process ends at once; one that waits for a dead network drive may not, and is left to the system.
 constexpr milliseconds kReapLimit{250};
 // 32767 rows of 8 values of 24 characters: more than any station table has.
@@ -188,8 +187,8 @@ Reading readAll(int pipe, Clock::time_point deadline, std::string& output) {
 
 }  // namespace
 
-ReaderResult runReader(const std::vector<std::string>& command) {
-    const auto deadline = Clock::now() + kTimeLimit;
+ReaderResult runReader(const std::vector<std::string>& command, milliseconds time_limit) {
+    const auto deadline = Clock::now() + time_limit;
     ReaderResult result;
     Pipe pipe;
     const auto pid = pipe.isOpen() ? start(command, pipe.writeEnd()) : std::nullopt;

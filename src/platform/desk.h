@@ -23,6 +23,12 @@ struct Message {
 /// The title of message boxes that set none of their own.
 inline constexpr const char* kApplicationTitle = "MERO";
 
+enum class PdfResult {
+    Made,
+    Failed,   ///< the document cannot be read or the file cannot be written
+    NoMeans,  ///< nothing here can lay out pages
+};
+
 class Desk {
   public:
     Desk() = default;
@@ -48,6 +54,11 @@ class Desk {
     virtual void openPrintPreview(const std::string& path) = 0;
     /// The save dialog: the chosen path, nothing when the user cancels.
     virtual std::optional<std::string> askSavePath(const std::string& suggested_path) = 0;
+    /// Makes a PDF file of the pages that the print preview shows.
+    /// @param target_path an empty file, or a new one
+    virtual PdfResult makePdf(const std::string& /*document_path*/, const std::string& /*target_path*/) {
+        return PdfResult::NoMeans;
+    }
     /// A copy of the report was saved.
     virtual void saved(const std::string& path) = 0;
     /// The program ended.

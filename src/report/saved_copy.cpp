@@ -1,8 +1,8 @@
 /// Making the report independent of its folder.
-/// The copy is written beside its target and renamed, so that a failure leaves an old file whole.
+/// The copy needs nothing of the program's folder.
 #include "report/saved_copy.h"
 
-#include <array>
+#include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <filesystem>
@@ -10,16 +10,19 @@
 #include <iterator>
 #include <optional>
 #include <string_view>
-#include <system_error>
 
 #include "report/code_page.h"
+#include "report/whole_file.h"
 
 namespace mero::report {
 namespace {
 
 constexpr std::string_view kLogoReference = "src=Webs\\Desc_soubory\\logo.gif";
 constexpr std::string_view kDocumentStart = "<html>";
-constexpr std::string_view kHead = "<head><meta charset=\"utf-8\"></head>";
+/// Whatever markup the user's texts bring along: the copy asks for nothing from anywhere and runs nothing.
+constexpr std::string_view kHead =
+    "<head><meta charset=\"utf-8\"><meta http-equiv=\"Content-Security-Policy\" "
+    "content=\"default-src 'none'; img-src data:; style-src 'unsafe-inline'\"></head>";
 
 std::optional<std::string> readFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -49,22 +52,6 @@ std::string base64(std::string_view bytes) {
     return text;
 }
 
-bool replaceFile(const std::string& path, const std::string& content) {
-    const std::string fresh = path + ".new";
-    std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
-    file << content;
-    file.close();
-    std::error_code failure;
-    if (!file.fail()) {
-        std::filesystem::rename(fresh, path, failure);
-        if (!failure) {
-            return true;
-        }
-    }
-    std::filesystem::remove(fresh, failure);
-    return false;
-}
-
 }  // namespace
 
 bool saveCopy(const std::string& report_path, const std::string& program_folder,
@@ -78,11 +65,22 @@ bool saveCopy(const std::string& report_path, const std::string& program_folder,
         html.insert(kDocumentStart.size(), kHead);
     }
     const std::size_t logo_at = html.find(kLogoReference);
-    const auto logo = readFile(program_folder + "/Webs/Desc_soubory/logo.gif");
-    if (logo_at != std::string::npos && logo) {
-        html.replace(logo_at, kLogoReference.size(), "src=\"data:image/gif;base64," + base64(*logo) + "\"");
+    if (logo_at != std::string::npos) {
+        const auto logo =
+            readFile((std::filesystem::path(program_folder) / "Webs/Desc_soubory/logo.gif").string());
+        html.replace(logo_at, kLogoReference.size(),
+                     logo ? "src=\"data:image/gif;base64," + base64(*logo) + "\"" : "alt=\"\"");
     }
-    return replaceFile(target_path, html);
+    return replaceWhole(target_path, html);
+}
+
+bool isPdfPath(std::string_view path) {
+    constexpr std::string_view kSuffix = ".pdf";
+    constexpr char kToSmall = 'a' - 'A';
+    const std::string_view name = path.substr(path.rfind('/') + 1);
+    return name.size() > kSuffix.size() &&
+           std::equal(kSuffix.begin(), kSuffix.end(), name.end() - kSuffix.size(),
+                      [](char small, char c) { return c == small || c + kToSmall == small; });
 }
 
 }  // namespace mero::report

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace mero::report {
 
@@ -14,5 +15,8 @@ namespace mero::report {
 /// @return false when the report cannot be read or the copy cannot be written; an old file stays whole then
 [[nodiscard]] bool saveCopy(const std::string& report_path, const std::string& program_folder,
                             const std::string& target_path);
+
+/// Does the name ask for a PDF file? Its suffix says so, in large or small letters; all others mean HTML.
+[[nodiscard]] bool isPdfPath(std::string_view path);
 
 }  // namespace mero::report

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <memory>
 
+#include "app/batch/pdf_program.h"
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
 #include "automation/headless_user.h"
@@ -33,6 +34,7 @@ constexpr const char* kHelp =
 int runScript(const RunOptions& options, std::istream& script) {
     const std::string folder = options.folder.empty() ? defaultProgramFolder() : options.folder;
     automation::TraceDesk desk(std::cout, nullptr, folder);
+    desk.makePdfBy(makePdfByWindowProgram);
     std::unique_ptr<platform::Clock> clock = std::make_unique<platform::SystemClock>();
     if (options.frozen_moment) {
         clock = std::make_unique<platform::FrozenClock>(*options.frozen_moment);

@@ -15,6 +15,7 @@
 
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
+#include "app/mero/pdf_file.h"
 #include "app/mero/qt_desk.h"
 #include "app/mero/qt_user.h"
 #include "app/mero/script_feed.h"
@@ -25,7 +26,7 @@
 #include "forms/calc/program.h"
 #include "platform/locale_settings.h"
 #include "platform/numbers/numeric_locale.h"
-#include "report/code_page.h"
+#include "report/view_html.h"
 
 namespace {
 
@@ -36,6 +37,7 @@ constexpr int kClockPeriodMs = 1000;
 
 constexpr const char* kHelp =
     "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--script SCRIPT]\n"
+    "       mero --export-pdf REPORT FILE\n"
     "\n"
     "Design of stormwater infiltration facilities.\n"
     "\n"
@@ -43,10 +45,13 @@ constexpr const char* kHelp =
     "  --clock TIME      freezes date and time\n"
     "  --script SCRIPT   works the window from a script (a UTF-8 file, - for standard input), prints the\n"
     "                    trace, one JSON object per line, and exits when the script ends\n"
+    "  --export-pdf REPORT FILE\n"
+    "                    makes a PDF file of a report file, without a window; for mero-batch\n"
     "  --help            this text\n"
     "  --version         the version\n"
     "\n"
-    "Exit status: 0 ordinary end, 1 a run-time error ended the program, 2 unusable script or arguments.\n";
+    "Exit status: 0 ordinary end, 1 a run-time error ended the program or the PDF file was not made, 2 "
+    "unusable script or arguments.\n";
 
 std::string readScript(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -72,7 +77,7 @@ class Mero {
           script_name_(options.script),
           script_(std::move(script)),
           folder_(options.folder.empty() ? app::defaultProgramFolder() : options.folder),
-          real_desk_(scripted_ ? app::Sitter::Script : app::Sitter::Person, report::fromWindows1250),
+          real_desk_(scripted_ ? app::Sitter::Script : app::Sitter::Person, report::viewHtml),
           trace_desk_(std::cout, &real_desk_, folder_),
           clock_(options.frozen_moment ? std::unique_ptr<platform::Clock>(
                                              std::make_unique<platform::FrozenClock>(*options.frozen_moment))
@@ -81,9 +86,8 @@ class Mero {
           program_({desk(), *clock_, locale_, rain_database_, folder_}),
           kit_([this](const std::function<void()>& event) { program_.enter(event); },
                scripted_ ? qt::FocusEvents::RunNothing : qt::FocusEvents::RunHandlers),
-          window_(kit_, program_.window(), {report::fromWindows1250, [this](const std::string& address) {
-                                                desk().openAddress(address);
-                                            }}) {
+          window_(kit_, program_.window(),
+                  {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}) {
         real_desk_.setMainWindow(&window_);
         program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
     }
@@ -133,11 +137,28 @@ class Mero {
     forms::CalcWindow window_;
 };
 
+/// Needs no display, whatever desktop this runs on.
+int exportPdf(int& argc, char** argv, const std::string& report, const std::string& file) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    numbers::useNumericCLocale();
+    return app::makePdfFile(report, file, report::viewHtml) == platform::PdfResult::Made ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     try {
         const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+        // All arguments are the program's own; the window system gets none of them.
+        int window_system_arguments = 1;
+        if (!arguments.empty() && arguments.front() == "--export-pdf") {
+            if (arguments.size() != 3) {
+                throw app::UsageError("--export-pdf needs a report file and the file to make");
+            }
+            return exportPdf(window_system_arguments, argv, std::string(arguments[1]),
+                             std::string(arguments[2]));
+        }
         const app::RunOptions options = app::parseRunOptions(arguments, app::ScriptArgument::WithOption);
         if (options.help || options.version) {
             std::cout << (options.help ? kHelp : "mero " MERO_VERSION "\n");
@@ -147,8 +168,6 @@ int main(int argc, char** argv) {
         if (!options.script.empty() && options.script != "-") {
             script = readScript(options.script);
         }
-        // All arguments are the program's own; the window system gets none of them.
-        int window_system_arguments = 1;
         QApplication application(window_system_arguments, argv);
         numbers::useNumericCLocale();
         QTranslator translator;

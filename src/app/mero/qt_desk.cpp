@@ -4,22 +4,22 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QUrl>
 #include <utility>
 
+#include "app/mero/pdf_file.h"
+#include "app/mero/save_dialog.h"
+#include "platform/qt/document_pages.h"
 #include "platform/qt/texts.h"
 
 namespace mero::app {
 namespace {
 
 using qt::shown;
-
-/// Pages are laid out in pixels of 1/96 inch, as on the screen.
-constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
 QMessageBox::Icon boxIcon(platform::MessageIcon icon) {
     switch (icon) {
@@ -87,29 +87,27 @@ void QtDesk::openPrintPreview(const std::string& path) {
         return;
     }
     qt::LocalDocument document(decode_);
-    document.setDefaultFont(QApplication::font());
     document.load(shown(path));
     QPrinter printer(QPrinter::HighResolution);
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
+    printer.setPageLayout(qt::paperLayout());
+    printer.setDocName(QFileInfo(shown(path)).fileName());
     QPrintPreviewDialog preview(&printer, window());
     preview.setWindowTitle(QStringLiteral("Náhled před tiskem"));
-    QObject::connect(
-        &preview, &QPrintPreviewDialog::paintRequested, &document, [&document](QPrinter* target) {
-            document.printFitted(*target, target->pageRect(QPrinter::Point).size() * kPixelsPerPoint);
-        });
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &document,
+                     [&document](QPrinter* target) { qt::paintPages(document, *target); });
     preview.exec();
 }
 
 std::optional<std::string> QtDesk::askSavePath(const std::string& suggested_path) {
-    QFileDialog dialog(window(), QStringLiteral("Uložit výsledky"), shown(suggested_path),
-                       QStringLiteral("Stránka HTML (*.html *.htm)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("html"));
-    if (sitter_ == Sitter::Script || dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (sitter_ == Sitter::Script) {
         return std::nullopt;
     }
-    return qt::stored(dialog.selectedFiles().constFirst());
+    const auto path = askWhereToSave(window(), shown(suggested_path));
+    return path ? std::optional(qt::stored(*path)) : std::nullopt;
+}
+
+platform::PdfResult QtDesk::makePdf(const std::string& document_path, const std::string& target_path) {
+    return makePdfFile(document_path, target_path, decode_);
 }
 
 }  // namespace mero::app

@@ -15,7 +15,7 @@ enum class Sitter { Person, Script };
 
 class QtDesk : public platform::Desk {
   public:
-    /// @param decode see LocalDocument; for the print preview
+    /// @param decode see LocalDocument; for the print preview and PDF files
     QtDesk(Sitter sitter, qt::Decoder decode);
 
     /// The window over which boxes show while no other window of the program is active.
@@ -29,6 +29,7 @@ class QtDesk : public platform::Desk {
     void navigated(const std::string& view, const std::string& path) override;
     void openPrintPreview(const std::string& path) override;
     std::optional<std::string> askSavePath(const std::string& suggested_path) override;
+    platform::PdfResult makePdf(const std::string& document_path, const std::string& target_path) override;
     void saved(const std::string& path) override;
     void ended() override;
 

@@ -138,6 +138,8 @@ class frmCalc : public frmCalcControls {
     void enterTechnologyTab(int previous_tab);
     void enterResultsTab(int previous_tab);
     void refuseTab(int previous_tab);
+    /// Saves the report as HTML or PDF, as the path's suffix says, and tells of a failure.
+    void saveResults(const std::string& path);
 
     data::modPublicVariables* values_;
     platform::Desk* desk_;

@@ -6,6 +6,7 @@
 #include "report/html_report.h"
 #include "report/report_file.h"
 #include "report/saved_copy.h"
+#include "report/whole_file.h"
 
 namespace mero::forms {
 namespace {
@@ -90,13 +91,28 @@ void frmCalc::BuildResultsHtml() {
 void frmCalc::cmdSaveResults_Click() {
     cmdSaveResults.setEnabled(false);
     if (const auto path = desk_->askSavePath(values_->ResultsFilePath + ".html")) {
-        if (report::saveCopy(values_->ResultsFilePath, folder_, *path)) {
-            desk_->saved(*path);
-        } else {
-            error("Zprávu se nepodařilo uložit do souboru " + *path + ".");
-        }
+        saveResults(*path);
     }
     cmdSaveResults.setEnabled(true);
+}
+
+void frmCalc::saveResults(const std::string& path) {
+    auto pdf = platform::PdfResult::Made;
+    const bool saved =
+        report::isPdfPath(path)
+            ? report::replaceWhole(path,
+                                   [&](const std::string& fresh_path) {
+                                       pdf = desk_->makePdf(values_->ResultsFilePath, fresh_path);
+                                       return pdf == platform::PdfResult::Made;
+                                   })
+            : report::saveCopy(values_->ResultsFilePath, folder_, path);
+    if (saved) {
+        desk_->saved(path);
+        return;
+    }
+    const char* reason =
+        pdf == platform::PdfResult::NoMeans ? " Soubor PDF vytváří okenní program mero, který zde není." : "";
+    error("Zprávu se nepodařilo uložit do souboru " + path + "." + reason);
 }
 
 void frmCalc::cmdPrint_Click() {

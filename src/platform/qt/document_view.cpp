@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QPalette>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QUrl>
 
@@ -26,6 +27,8 @@ void setPaperColours(QTextBrowser& browser) {
 void load(QTextBrowser& browser, LocalDocument& document, const QString& path) {
     document.load(path);
     browser.moveCursor(QTextCursor::Start);
+    // Showing the cursor scrolls the margin above it away.
+    browser.verticalScrollBar()->setValue(0);
 }
 
 void followLink(QTextBrowser& browser, LocalDocument& document, const DocumentServices& services,
@@ -50,7 +53,6 @@ QTextBrowser& makeDocumentView(WidgetKit& kit, platform::BrowserView& view, cons
                                QWidget& parent) {
     auto& browser = *new QTextBrowser(&parent);
     auto* document = new LocalDocument(services.decode, &browser);
-    document->setDefaultFont(browser.font());
     browser.setDocument(document);
     browser.setOpenLinks(false);
     setPaperColours(browser);

@@ -4,10 +4,14 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QFont>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QUrl>
 #include <QVariant>
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "platform/qt/texts.h"
 
@@ -35,6 +39,49 @@ bool declaresUtf8(const QByteArray& bytes) {
     return name.startsWith("utf-8");
 }
 
+/// The margin that browsers give a page without one.
+constexpr qreal kBrowserMargin = 8;
+
+/// The same family wherever the document is shown, so that lines break alike.
+QFont standardFont() {
+    constexpr qreal kPoints = 12;
+    QFont font(QStringList{QStringLiteral("DejaVu Sans"), QStringLiteral("Arial")});
+    font.setStyleHint(QFont::SansSerif);
+    font.setPointSizeF(kPoints);
+    // Letters that stand apart by next to nothing form no ligatures: a word copied out of a PDF file is
+    // found.
+    constexpr qreal kNextToNothing = 1.0 / 64;
+    font.setLetterSpacing(QFont::AbsoluteSpacing, kNextToNothing);
+    return font;
+}
+
+/// Headings come with a relative size, which would win over the size that the page gives them.
+void keepGivenSizes(QTextDocument& document) {
+    struct Piece {
+        int begin;
+        int end;
+        QTextCharFormat format;
+    };
+    std::vector<Piece> pieces;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            QTextCharFormat format = fragment.charFormat();
+            if (format.hasProperty(QTextFormat::FontPointSize) &&
+                format.hasProperty(QTextFormat::FontSizeAdjustment)) {
+                format.clearProperty(QTextFormat::FontSizeAdjustment);
+                pieces.push_back({fragment.position(), fragment.position() + fragment.length(), format});
+            }
+        }
+    }
+    QTextCursor cursor(&document);
+    for (const Piece& piece : pieces) {
+        cursor.setPosition(piece.begin);
+        cursor.setPosition(piece.end, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(piece.format);
+    }
+}
+
 QString errorPage(const QString& path) {
     return QStringLiteral(
                "<html><body><h3>Stránku nelze zobrazit</h3>"
@@ -47,15 +94,17 @@ QString errorPage(const QString& path) {
 LocalDocument::LocalDocument(Decoder decode, QObject* parent)
     : QTextDocument(parent), decode_(std::move(decode)) {
     setUndoRedoEnabled(false);
+    setDefaultFont(standardFont());
+    setDocumentMargin(kBrowserMargin);
 }
 
-void LocalDocument::load(const QString& path) {
+bool LocalDocument::load(const QString& path) {
     path_ = path;
     clear();
     QFile file(path);
     if (!QFileInfo(path).isFile() || file.size() > kLargestFile || !file.open(QIODevice::ReadOnly)) {
         setHtml(errorPage(path));
-        return;
+        return false;
     }
     const QByteArray bytes = file.readAll();
     if (declaresUtf8(bytes)) {
@@ -63,15 +112,8 @@ void LocalDocument::load(const QString& path) {
     } else {
         setHtml(shown(decode_({bytes.constData(), static_cast<std::size_t>(bytes.size())})));
     }
-}
-
-void LocalDocument::printFitted(QPagedPaintDevice& paper, const QSizeF& page_size) {
-    // Tables of a fixed width may stick out of the text's width; the page is then made as wide as they are,
-    // and a document with pages of its own is scaled to the paper.
-    setTextWidth(page_size.width());
-    const double width = std::max(page_size.width(), size().width());
-    setPageSize({width, width * page_size.height() / page_size.width()});
-    print(&paper);
+    keepGivenSizes(*this);
+    return true;
 }
 
 QString LocalDocument::resolve(const QUrl& reference) const {

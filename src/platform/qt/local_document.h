@@ -1,7 +1,7 @@
 /// A local HTML document: decoded, with its pictures, and nothing else. It loads nothing from the network.
+/// Text without a font of its own stands in 12 pt, as in browsers, on the screen and on paper.
 #pragma once
 
-#include <QPagedPaintDevice>
 #include <QTextDocument>
 #include <functional>
 #include <string>
@@ -17,9 +17,8 @@ class LocalDocument : public QTextDocument {
     explicit LocalDocument(Decoder decode, QObject* parent = nullptr);
 
     /// Loads a file; one that is missing or cannot be read gives a page that says so and names it.
-    void load(const QString& path);
-    /// Prints the document, made smaller where it is wider than the paper.
-    void printFitted(QPagedPaintDevice& paper, const QSizeF& page_size);
+    /// @return false for that page
+    bool load(const QString& path);
     /// The file that was loaded last, empty before.
     [[nodiscard]] const QString& path() const { return path_; }
     /// Local path that a reference of the document leads to; empty for everything that is not local.

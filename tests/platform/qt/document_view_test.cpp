@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <QFile>
-#include <QPdfWriter>
 #include <QTemporaryDir>
 #include <QTextBlock>
 
@@ -127,20 +126,6 @@ TEST_F(Page, RunsNothingAndIgnoresOtherLinks) {
     follow(QUrl("mailto:a@b.cz"));
     EXPECT_EQ(browser.toPlainText(), "text");
     EXPECT_TRUE(addresses.empty());
-}
-
-TEST_F(Page, WiderThanThePaperIsPrintedSmallerAndNotCut) {
-    const auto page_width = [this](int table_width) {
-        LocalDocument document(decodeForTest);
-        document.load(shown(write("wide.htm", QByteArray("<table width=") + QByteArray::number(table_width) +
-                                                  "><tr><td bgcolor=red>x</td></tr></table>")));
-        const QString file = folder.filePath("print.pdf");
-        QPdfWriter pdf(file);
-        document.printFitted(pdf, {600, 800});
-        return document.pageSize().width();
-    };
-    EXPECT_EQ(page_width(100), 600);
-    EXPECT_GE(page_width(900), 900);
 }
 
 TEST_F(Page, OpensAtItsBeginning) {

@@ -1,0 +1,18 @@
+// Time from entering the results tab until the report is written, without a view. It may take 20 ms.
+// The drained area has twenty entries.
+#include <benchmark/benchmark.h>
+
+#include "report/results_tab.h"
+
+namespace {
+
+void enterResults(benchmark::State& state) {
+    mero::bench::ResultsTab tab;
+    tab.start(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        tab.enter();
+    }
+}
+BENCHMARK(enterResults)->DenseRange(mero::forms::kSurface, mero::forms::kTank)->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,106 @@
+/// A program whose results tab is entered again and again: rain, areas and soil given, any of the six types.
+#pragma once
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "data/rain_database.h"
+#include "forms/calc/program.h"
+#include "platform/clock.h"
+#include "platform/desk.h"
+#include "platform/locale_settings.h"
+
+namespace mero::bench {
+
+/// A desk whose user answers everything at once and to whom nothing is told.
+class SilentDesk : public platform::Desk {
+  public:
+    void showMessage(const platform::Message& /*message*/) override {}
+    void reportError(const RuntimeError& /*error*/) override {}
+    void openAddress(const std::string& /*address*/) override {}
+    void formOpened(const std::string& /*form*/) override {}
+    void formClosed(const std::string& /*form*/) override {}
+    void navigated(const std::string& /*view*/, const std::string& /*path*/) override {}
+    void openPrintPreview(const std::string& /*path*/) override {}
+    std::optional<std::string> askSavePath(const std::string& /*suggested_path*/) override {
+        return std::nullopt;
+    }
+    void saved(const std::string& /*path*/) override {}
+    void ended() override {}
+};
+
+/// One station with the same heavy rain in every row.
+class OneRain : public data::RainDatabase {
+  public:
+    data::StationTable read(std::int16_t /*station_number*/, const std::string& /*path*/) override {
+        data::StationTable table;
+        table.columns = {"doba", "5", "2", "1", "05", "02", "01", "005"};
+        table.rows.assign(9, std::vector<data::StationTable::Value>(8, 150.0));
+        return table;
+    }
+};
+
+/// A folder of its own, gone at the end.
+class Folder {
+  public:
+    Folder() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "mero-bench-XXXXXX").string();
+        path_ = mkdtemp(pattern.data());
+    }
+    ~Folder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+  private:
+    std::string path_;
+};
+
+struct ResultsTab {
+    Folder folder;
+    SilentDesk desk;
+    platform::SystemClock clock;
+    platform::ProgramLocale locale{".", "", ","};
+    OneRain rain;
+    forms::Program program{{desk, clock, locale, rain, folder.path()}};
+
+    /// Starts the program and gives everything that the type needs.
+    void start(int type) {
+        constexpr int kAreas = 20;
+        program.start();
+        forms::frmCalc& window = program.window();
+        window.cmdEdit[0].userClick();
+        window.intDialog.cboSelStanice.userSelect(4);
+        window.intDialog.cboSelPeriod.userSelect(4);
+        window.intDialog.fgIntDeste.userClick({3, 2});
+        window.intDialog.cmdOK.userClick();
+        window.cmdEdit[1].userClick();
+        for (int i = 0; i < kAreas; ++i) {
+            window.areaDialog.fgSoucPovrchOdtok.userClick({8, 3});
+            window.areaDialog.txtPlocha.userEdit("40");
+            window.areaDialog.cmdZapsat.userClick();
+        }
+        window.areaDialog.OKButton.userClick();
+        window.txtSoucFiltrace.userEdit("1e-4");
+        window.optSelType[type == forms::kTank ? 1 : 0].userClick();
+        if (type != forms::kTank) {
+            window.cboSelType.userSelect(type);
+        }
+    }
+
+    /// Leaves the tab to the inputs and enters it: the report is built, written and shown.
+    void enter() {
+        program.enter([this] {
+            program.window().SSTab1.userSelect(forms::kTabInputs);
+            program.window().SSTab1.userSelect(forms::kTabResults);
+        });
+    }
+};
+
+}  // namespace mero::bench

@@ -1,0 +1,59 @@
+/// The system's dialog, and a question of our own where the added suffix leads to another file.
+/// Names with points in them ("hala 1.2") have no suffix for that.
+#include "app/mero/save_dialog.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace mero::app {
+namespace {
+
+bool mayReplace(QWidget* parent, const QString& path) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Uložit výsledky"),
+                    QStringLiteral("Soubor %1 už existuje. Nahradit jej?").arg(QFileInfo(path).fileName()),
+                    QMessageBox::Yes | QMessageBox::No, parent);
+    box.setObjectName(QStringLiteral("replace"));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+}  // namespace
+
+QString withSuffix(const QString& path, const QString& filter) {
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || suffix == QLatin1String("pdf")) {
+        return path;
+    }
+    return path + (filter == QString::fromUtf8(kPdfFilter) ? QLatin1String(".pdf") : QLatin1String(".html"));
+}
+
+std::optional<QString> askWhereToSave(QWidget* parent, const QString& suggested_path) {
+    QFileDialog dialog(parent, QStringLiteral("Uložit výsledky"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilters({QString::fromUtf8(kHtmlFilter), QString::fromUtf8(kPdfFilter)});
+    dialog.setDirectory(QFileInfo(suggested_path).absolutePath());
+    dialog.selectFile(QFileInfo(suggested_path).fileName());
+    const auto follow_filter = [&dialog](const QString& filter) {
+        // The name goes with the filter: what the user reads is what he gets.
+        const QStringList chosen = dialog.selectedFiles();
+        if (const QFileInfo file(chosen.value(0)); !chosen.isEmpty() && !file.isDir()) {
+            const bool known = withSuffix(file.fileName(), filter) == file.fileName();
+            const QString bare = known ? file.fileName().chopped(file.suffix().size() + 1) : file.fileName();
+            dialog.selectFile(withSuffix(bare, filter));
+        }
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow_filter);
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const QString chosen = dialog.selectedFiles().constFirst();
+        const QString path = withSuffix(chosen, dialog.selectedNameFilter());
+        if (path == chosen || !QFileInfo::exists(path) || mayReplace(parent, path)) {
+            return path;
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace mero::app

@@ -1,0 +1,94 @@
+/// The PDF file of a report, read back with another program, and under faults.
+#include "app/mero/pdf_file.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <filesystem>
+
+#include "report/html_report.h"
+#include "report/report_file.h"
+#include "report/sample_project.h"
+#include "report/view_html.h"
+#include "support/temporary_folder.h"
+
+namespace mero::app {
+namespace {
+
+using platform::PdfResult;
+using testing::HasSubstr;
+using testing::Not;
+
+class PdfFile : public testing::Test {
+  protected:
+    PdfResult make(int type, const std::string& target) const {
+        EXPECT_EQ(report::writeReport(folder.file("Mero_Test"),
+                                      report::htmlReport(report::test::sampleProject(type))),
+                  report::WriteResult::Written);
+        return makePdfFile(folder.file("Mero_Test"), target, report::viewHtml);
+    }
+    /// What a tool of the PDF world says of the file; the test is skipped where it is not installed.
+    [[nodiscard]] std::string told(const QString& tool, const QStringList& arguments) const {
+        QProcess process;
+        process.start(tool, arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        return process.readAllStandardOutput().toStdString();
+    }
+    static bool toolsMissing() { return QStandardPaths::findExecutable("pdftotext").isEmpty(); }
+
+    test::TemporaryFolder folder{" pdf ěš"};
+    std::string pdf = folder.file("zpráva.pdf");
+    QString pdf_path = QString::fromStdString(pdf);
+};
+
+TEST_F(PdfFile, HasTheTextOfEveryTypeWithItsDiacritics) {
+    if (toolsMissing()) {
+        GTEST_SKIP() << "no pdftotext";
+    }
+    const std::vector<std::string> names = {"Plošné vsakování",   "Vsakování v průlezích",
+                                            "Hloubka průlehu",    "Délka vsakovací rýhy",
+                                            "Šachtové vsakování", "Vsakovací nádrže"};
+    for (int type = 1; type <= 6; ++type) {
+        ASSERT_EQ(make(type, pdf), PdfResult::Made);
+        const std::string text = told("pdftotext", {"-layout", pdf_path, "-"});
+        EXPECT_THAT(text, HasSubstr("Nákupní centrum Žďár")) << type;
+        EXPECT_THAT(text, HasSubstr("Ing. Jiří Šťastný")) << type;
+        EXPECT_THAT(text, HasSubstr("Součinitel filtrace")) << "no ligatures";
+        EXPECT_THAT(text, HasSubstr("Datum a čas výpočtu:")) << type;
+        EXPECT_THAT(text, HasSubstr(names[static_cast<std::size_t>(type - 1)]));
+        EXPECT_THAT(text, Not(HasSubstr("Stránku nelze zobrazit")));
+    }
+}
+
+TEST_F(PdfFile, IsA4WithItsFontsInside) {
+    if (toolsMissing()) {
+        GTEST_SKIP() << "no pdfinfo";
+    }
+    ASSERT_EQ(make(2, pdf), PdfResult::Made);
+    EXPECT_THAT(told("pdfinfo", {pdf_path}), HasSubstr("(A4)"));
+    const QStringList fonts =
+        QString::fromStdString(told("pdffonts", {pdf_path})).split('\n', Qt::SkipEmptyParts);
+    ASSERT_GT(fonts.size(), 2);
+    for (const QString& font : fonts.mid(2)) {
+        // Columns from the right: object number and generation, unicode, subset, embedded.
+        const QStringList columns = font.split(' ', Qt::SkipEmptyParts);
+        EXPECT_EQ(columns.at(columns.size() - 5), "yes") << font.toStdString();
+        EXPECT_EQ(columns.at(columns.size() - 3), "yes") << font.toStdString();
+    }
+}
+
+TEST_F(PdfFile, IsNotMadeOfAMissingDocument) {
+    EXPECT_EQ(makePdfFile(folder.file("Mero_"), pdf, report::viewHtml), PdfResult::Failed);
+    EXPECT_FALSE(folder.has("zpráva.pdf"));
+}
+
+TEST_F(PdfFile, TellsOfAFullDiskAFolderAndAMissingFolder) {
+    EXPECT_EQ(make(2, "/dev/full"), PdfResult::Failed);
+    EXPECT_EQ(make(2, folder.path()), PdfResult::Failed);
+    EXPECT_EQ(make(2, folder.file("není/a.pdf")), PdfResult::Failed);
+}
+
+}  // namespace
+}  // namespace mero::app

@@ -1,0 +1,27 @@
+// Stands in for the window program: what it does is named by the document that it is given.
+// Prints nothing; a file that it makes holds the document's name.
+#include <unistd.h>
+
+#include <fstream>
+#include <string>
+
+int main(int argc, char** argv) {
+    if (argc != 4 || std::string(argv[1]) != "--export-pdf") {
+        return 2;
+    }
+    const std::string document = argv[2];
+    if (document == "slow") {
+        pause();
+    }
+    if (document == "without libraries") {
+        return 127;
+    }
+    if (document == "crash") {
+        __builtin_trap();
+    }
+    if (document == "unreadable") {
+        return 1;
+    }
+    std::ofstream(argv[3]) << document;
+    return 0;
+}

@@ -1,0 +1,78 @@
+/// A saved copy needs nothing but itself.
+#include "report/saved_copy.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "report/html_report.h"
+#include "report/report_file.h"
+#include "report/sample_project.h"
+#include "support/temporary_folder.h"
+
+namespace mero::report {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::Not;
+
+class SavedCopy : public testing::Test {
+  protected:
+    void SetUp() override {
+        fs::create_directories(program.file("Webs/Desc_soubory"));
+        program.write("Webs/Desc_soubory/logo.gif", "GIF89a");
+        ASSERT_EQ(writeReport(program.file("Mero_Test"), htmlReport(test::sampleProject(2))),
+                  WriteResult::Written);
+    }
+    [[nodiscard]] std::string copy() const {
+        EXPECT_TRUE(saveCopy(program.file("Mero_Test"), program.path(), elsewhere.file("kopie.html")));
+        return elsewhere.read("kopie.html");
+    }
+
+    mero::test::TemporaryFolder program;
+    mero::test::TemporaryFolder elsewhere;
+};
+
+TEST_F(SavedCopy, DeclaresItsCharacterSetAndIsWrittenInIt) {
+    const std::string html = copy();
+    EXPECT_TRUE(html.starts_with("<html><head><meta charset=\"utf-8\">"));
+    EXPECT_THAT(html, HasSubstr("Návrhový déšť"));
+    EXPECT_THAT(html, HasSubstr("Ing. Jiří Šťastný"));
+}
+
+TEST_F(SavedCopy, CarriesItsLogo) {
+    const std::string html = copy();
+    EXPECT_THAT(html, HasSubstr("<img border=0 src=\"data:image/gif;base64,R0lGODlh\">"));
+    EXPECT_THAT(html, Not(HasSubstr("logo.gif")));
+}
+
+TEST_F(SavedCopy, WithoutALogoRefersToNone) {
+    fs::remove(program.file("Webs/Desc_soubory/logo.gif"));
+    EXPECT_THAT(copy(), Not(HasSubstr("src=")));
+}
+
+TEST_F(SavedCopy, AsksForNothingWhateverTheUserTyped) {
+    EXPECT_THAT(copy(), HasSubstr("default-src 'none'; img-src data:"));
+}
+
+TEST_F(SavedCopy, IsNotMadeOfAMissingReportOrAFolder) {
+    EXPECT_FALSE(saveCopy(program.file("Mero_"), program.path(), elsewhere.file("kopie.html")));
+    EXPECT_FALSE(saveCopy(program.path(), program.path(), elsewhere.file("kopie.html")));
+    EXPECT_TRUE(fs::is_empty(elsewhere.path()));
+}
+
+TEST(PdfPath, IsToldByItsSuffix) {
+    for (const char* path : {"a.pdf", "/x/zpráva.PDF", "x.Pdf", "a.html.pdf"}) {
+        EXPECT_TRUE(isPdfPath(path)) << path;
+    }
+    for (const char* path :
+         {"", "pdf", ".pdf", "/x/.pdf", "apdf", "a.pdf.html", "a.pdf/b", "a.pd", "a.pdf "}) {
+        EXPECT_FALSE(isPdfPath(path)) << path;
+    }
+}
+
+}  // namespace
+}  // namespace mero::report
