@@ -199,7 +199,8 @@ TEST(WindowEquality, RandomProjectsMeetEveryVerdict) {
     for (int n = 0; n < kProjects; ++n) {
         const project::Project project = projects.next();
         const Site site = project::prepareSite(project.inputs, storeFor(project));
-        for (const Verdict verdict : design(site, project.inputs.facility).verdicts.all()) {
+        const DesignResult result = design(site, project.inputs.facility);
+        for (const Verdict verdict : result.verdicts.all()) {
             ++seen[static_cast<std::size_t>(verdict)];
         }
     }

@@ -8,6 +8,7 @@ its beginning say what is special about it:
     # name: TEXT          name of the program's folder
     # exit: STATUS        expected exit status; default 0
     # leaves: A | B       files that the run leaves in the folder; default none
+    # needs: window       it saves a PDF file, which the window program makes: skipped where that was not built
 Every examples/*.mero of the project is followed too; its trace stands in examples/ here. A script that fails writes
 NAME.out beside its trace. --accept writes the traces instead: check each line before committing it.
 With --window the scripts drive the real window, all of them under one virtual display.
@@ -99,6 +100,7 @@ class Script:
     name: str = "program"
     exit: int = 0
     leaves: list[str] | None = field(default_factory=list)  # None: whatever it leaves
+    needs_window_program: bool = False
 
 
 def read_script(path: Path, trace: Path) -> Script:
@@ -116,6 +118,8 @@ def read_script(path: Path, trace: Path) -> Script:
             script.exit = int(value)
         elif key == "leaves":
             script.leaves = [name.strip() for name in value.split("|")]
+        elif key == "needs":
+            script.needs_window_program = value == "window"
     return script
 
 
@@ -211,6 +215,9 @@ def main() -> int:
     failed, skipped, followed = 0, 0, 0
     for script in all_scripts():
         if arguments.only and script.path.stem not in arguments.only:
+            continue
+        if script.needs_window_program and not (program.parent / "mero").exists():
+            skipped += 1
             continue
         if arguments.window and script.folder in NEEDS_ORDINARY_USER and os.geteuid() == 0:
             skipped += 1
