@@ -24,6 +24,7 @@ std::string marksOf(const platform::Grid& grid) {
     std::vector<std::string> rows;
     for (int row = 0; row <= grid.dataRows() && !grid.rows().empty(); ++row) {
         std::vector<std::string> cells;
+        cells.reserve(grid.columns().size());
         for (int column = 0; column < static_cast<int>(grid.columns().size()); ++column) {
             cells.push_back(json(grid.mark({row, column})));
         }

@@ -33,6 +33,7 @@ requires requires(const List& list) {
     list.begin();
 } &&(!std::convertible_to<List, std::string_view>) [[nodiscard]] std::string json(const List& list) {
     std::vector<std::string> elements;
+    elements.reserve(list.size());
     for (const auto& element : list) {
         elements.push_back(json(element));
     }

@@ -10,6 +10,7 @@ The newest files come first. After SECONDS no further file is begun; what is lef
 import hashlib
 import json
 import os
+import re
 import subprocess
 import sys
 import time
@@ -19,6 +20,7 @@ from pathlib import Path
 from sources import includes
 
 CLANG_TIDY = "clang-tidy-14"
+PRECOMPILED = re.compile(r"-Winvalid-pch|-include \S+cmake_pch\.hxx")
 
 
 def with_headers(root: Path, file: Path) -> list[Path]:
@@ -31,6 +33,18 @@ def with_headers(root: Path, file: Path) -> list[Path]:
         seen.append(path)
         waiting += [root / "src" / name for _, name, own in includes(path.read_text(encoding="utf-8")) if own]
     return sorted(seen)
+
+
+def commands_for_clang(root: Path) -> Path:
+    """A folder with the build's compile commands, less gcc's precompiled headers, which clang cannot read."""
+    built = root / "build" / "dev" / "compile_commands.json"
+    entries = json.loads(built.read_text(encoding="utf-8"))
+    for entry in entries:
+        entry["command"] = PRECOMPILED.sub("", entry["command"])
+    folder = root / "build" / "tidy-commands"
+    folder.mkdir(parents=True, exist_ok=True)
+    (folder / built.name).write_text(json.dumps(entries, indent=1), encoding="utf-8")
+    return folder
 
 
 def key_of(root: Path, entry: dict) -> str:
@@ -53,7 +67,7 @@ def tidy(database: Path, file: str, deadline: float) -> subprocess.CompletedProc
 def main() -> int:
     root = Path(sys.argv[1]).resolve()
     deadline = time.monotonic() + (float(sys.argv[2]) if len(sys.argv) > 2 else float("inf"))
-    database = root / "build" / "dev"
+    database = commands_for_clang(root)
     entries = json.loads((database / "compile_commands.json").read_text(encoding="utf-8"))
     stamps = root / "build" / "tidy"
     stamps.mkdir(parents=True, exist_ok=True)

@@ -15,8 +15,8 @@ using Values = data::modPublicVariables;
 enum class Fails { AtZeroOrBelow, BelowZero };
 
 struct Check {
-    float Values::*input;
-    const char* text;
+    float Values::*input = nullptr;
+    const char* text = "";
     Fails fails = Fails::AtZeroOrBelow;
     bool only_with_sand_layer = false;
 };

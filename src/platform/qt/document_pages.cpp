@@ -23,8 +23,8 @@ constexpr qreal kFootPoints = 8;
 /// One page's room for the document, in device pixels, and how much smaller than in its own size it is drawn.
 struct PageRoom {
     QSizeF paper;
-    qreal foot_height;
-    qreal scale;
+    qreal foot_height = 0;
+    qreal scale = 1;
 
     [[nodiscard]] QSizeF forDocument() const {
         return QSizeF(paper.width(), paper.height() - foot_height) / scale;
