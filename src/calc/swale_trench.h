@@ -29,15 +29,15 @@ struct Balance {
     const double throttled = balance.throttled_m3_s;
     const double swale_volume = balance.swale_volume_m3;
     const double safety_factor = balance.safety_factor;
-    const TrenchSection trench = balance.trench;
+    const UptakePerMetre uptake(balance.trench);
 
     const double collected = (reduced_area + infiltration_area) * kRatePerIntensity;
     return findCriticalRain<Rows::PositiveDuration>(rains, [=](const Rain& rain) {
         const double intensity = rain.intensity_l_s_ha;
         const double seconds = balanceSeconds(rain, safety_factor);
         const double to_trench_m3_s =
-            collected * intensity - throttled - numbers::divide(swale_volume, seconds);
-        return numbers::divide(to_trench_m3_s, uptakePerMetre(trench, seconds));
+            collected * intensity - throttled - numbers::divideOfSingles(swale_volume, seconds);
+        return numbers::divide(to_trench_m3_s, uptake.over(seconds));
     });
 }
 

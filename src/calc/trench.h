@@ -22,13 +22,13 @@ struct Balance {
 [[nodiscard]] inline CriticalRain requiredLength(const Balance& balance, RainTable rains) {
     const double reduced_area = balance.reduced_area_m2;
     const double safety_factor = balance.safety_factor;
-    const TrenchSection section = balance.section;
+    const UptakePerMetre uptake(balance.section);
 
     const double collected = kRatePerIntensity * reduced_area;
     return findCriticalRain<Rows::PositiveDuration>(rains, [=](const Rain& rain) {
         const double intensity = rain.intensity_l_s_ha;
         const double seconds = balanceSeconds(rain, safety_factor);
-        return numbers::divide(collected * intensity, uptakePerMetre(section, seconds));
+        return numbers::divide(collected * intensity, uptake.over(seconds));
     });
 }
 

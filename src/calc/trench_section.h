@@ -21,15 +21,27 @@ struct TrenchSection {
 }
 
 /// What one metre of trench takes over the time of a balance: its pores filled in that time, and what soaks
-/// away through its infiltration area at half the saturated conductivity [m3/s per m].
-/// @param balance_seconds duration of the rain in seconds times the safety factor
-/// @throws RuntimeError DivisionByZero when that time is 0
-[[nodiscard]] inline double uptakePerMetre(const TrenchSection& section, double balance_seconds) {
-    const double width = section.width_m;
-    const double height = section.height_m;
-    const double pores_m2 = width * height * static_cast<double>(section.storage_coefficient);
-    const double filtration = section.filtration_m_s;
-    return numbers::divide(pores_m2, balance_seconds) + infiltrationWidth(width, height) * filtration / 2.0;
-}
+/// away through its infiltration area at half the saturated conductivity.
+class UptakePerMetre {
+  public:
+    explicit UptakePerMetre(const TrenchSection& section) {
+        const double width = section.width_m;
+        const double height = section.height_m;
+        const double filtration = section.filtration_m_s;
+        pores_m2_ = width * height * static_cast<double>(section.storage_coefficient);
+        soaked_m2_s_ = infiltrationWidth(width, height) * filtration / 2.0;
+    }
+
+    /// @param balance_seconds duration of the rain in seconds times the safety factor
+    /// @return uptake [m3/s per m]
+    /// @throws RuntimeError DivisionByZero when that time is 0
+    [[nodiscard]] double over(double balance_seconds) const {
+        return numbers::divideOfSingles(pores_m2_, balance_seconds) + soaked_m2_s_;
+    }
+
+  private:
+    double pores_m2_;
+    double soaked_m2_s_;
+};
 
 }  // namespace mero::calc

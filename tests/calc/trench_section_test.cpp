@@ -21,11 +21,11 @@ TEST(TrenchSection, SoaksThroughItsBottomAndHalfItsHeight) {
 
 TEST(TrenchSection, TakesItsPoresAndWhatSoaksAway) {
     // 1 * 1.5 * 0.35 / 1050 + 1.75 * 10^-5 / 2 = 0.0005 + 0.00000875
-    expectClose(uptakePerMetre(kTrench, 1050.0), 0.00050875);
+    expectClose(UptakePerMetre(kTrench).over(1050.0), 0.00050875);
 }
 
 TEST(TrenchSection, WithoutTimeDividesByZero) {
-    EXPECT_EQ(errorNumberOf([] { return uptakePerMetre(kTrench, 0.0); }), 11);
+    EXPECT_EQ(errorNumberOf([] { return UptakePerMetre(kTrench).over(0.0); }), 11);
 }
 
 }  // namespace

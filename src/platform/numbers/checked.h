@@ -31,6 +31,16 @@ namespace mero::numbers {
     return quotient;
 }
 
+/// dividend / divisor for products of a few Singles: these stay so far inside the range of a double that the
+/// quotient cannot overflow, and only a zero divisor has to be looked for (in the innermost loops).
+/// @throws RuntimeError DivisionByZero when the divisor is 0
+[[nodiscard]] inline double divideOfSingles(double dividend, double divisor) {
+    if (divisor == 0.0) {
+        throw RuntimeError(ErrorNumber::DivisionByZero);
+    }
+    return dividend / divisor;
+}
+
 /// Square root. @throws RuntimeError InvalidCall when the value is negative or not a number
 [[nodiscard]] inline double squareRoot(double value) {
     if (!(value >= 0.0)) {

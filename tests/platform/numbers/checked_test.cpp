@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 #include "support/errors.h"
@@ -29,6 +30,16 @@ TEST(Divide, RefusesAZeroDivisor) {
     EXPECT_EQ(errorNumberOf([] { return divide(1.0, 0.0); }), 11);
     EXPECT_EQ(errorNumberOf([] { return divide(0.0, -0.0); }), 11);
     EXPECT_EQ(errorNumberOf([] { return divide(1e300, 1e-300); }), 6);
+}
+
+TEST(DivideOfSingles, RefusesAZeroDivisorAndNeedsNoMore) {
+    EXPECT_EQ(divideOfSingles(1.0, 4.0), 0.25);
+    EXPECT_EQ(errorNumberOf([] { return divideOfSingles(1.0, 0.0); }), 11);
+    EXPECT_EQ(errorNumberOf([] { return divideOfSingles(0.0, -0.0); }), 11);
+    // The largest product of three Singles over the smallest of two is still a double.
+    constexpr double kLargest = std::numeric_limits<float>::max();
+    constexpr double kSmallest = std::numeric_limits<float>::denorm_min();
+    EXPECT_TRUE(std::isfinite(divideOfSingles(kLargest * kLargest * kLargest, kSmallest * kSmallest)));
 }
 
 TEST(SquareRoot, RefusesNegativeValues) {
