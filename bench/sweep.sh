@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Times a sweep of 1,000,000 variants to CSV, and its largest memory.
 # Use: bench/sweep.sh [MERO_BATCH]   by default the program of the preset "bench"
 set -euo pipefail

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What every target of the project shares: the language, the warnings, the layer rule.
 
 set(CMAKE_CXX_STANDARD 20)

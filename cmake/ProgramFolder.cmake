@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The program's folder in a build tree: the rain database and the description pages beside the programs.
 # Each file is copied when it is missing or older than its original, so a database that somebody puts there stays.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Texts of numbers: any bytes as a text, and as a number that is written out and read again.
 /// Written texts hold nothing but digits and signs, and read back to what was written.
 #include <cmath>

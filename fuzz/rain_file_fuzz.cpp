@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Damaged rain databases: the input is a list of edits of the database that ships, or a whole file.
 /// Each is read by the reader program, which must answer in time with the whole table or with an error.
 #include <algorithm>

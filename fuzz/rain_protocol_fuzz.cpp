@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The lines that come from the rain database's reader: any bytes are refused or are, to the last byte, the
 /// text of the table that they give.
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Stands in for the fuzzer in ordinary builds: runs every file of the given files and folders once.
 /// Seeds and findings of the past are replayed so with any compiler.
 #include <algorithm>

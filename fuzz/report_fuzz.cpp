@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reports with texts of any bytes: the document keeps its frame, and the code page never fails.
 /// What was stored as windows-1250 reads back to itself.
 #include <algorithm>

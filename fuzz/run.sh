@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Builds the fuzz targets and runs one, or all of them one after another.
 # Use: fuzz/run.sh TARGET|all SECONDS        e.g. fuzz/run.sh script 600
 # What it learns is kept in build/fuzz/corpus/TARGET; a finding is left in build/fuzz/findings/TARGET and ends

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Automation scripts: any bytes, line by line, on a program in a sandbox.
 /// After each line all that the monkey watches must hold, and the trace must be JSON lines.
 #include <cstdint>

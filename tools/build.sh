@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # Sourced by ./start and ./check, which set $root: builds a preset in $root/build, with ccache where it is there.
 : "${root:?}"

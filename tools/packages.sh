@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # The Debian packages that MERO needs, in groups, and their installation.
 # Use: tools/packages.sh GROUP...   installs what is missing of run, build, check and bench; asks for nothing.
 #      tools/packages.sh --missing GROUP...   only prints what is missing.

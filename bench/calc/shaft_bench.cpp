@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// How long a whole shaft design takes, without the fields in between.
 /// Beside it, the same formulas in a plain loop.
 #include "calc/shaft.h"

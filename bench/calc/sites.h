@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Sites for the benchmarks of the design formulas: many different ones, the same in every run.
 /// Each benchmark stands beside a loop of the same formulas written by hand without checks.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// How long a whole tank design takes.
 /// Beside it, the same formulas in a plain loop.
 #include "calc/tank.h"

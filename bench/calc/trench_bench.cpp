@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// How long the length of a trench takes, alone and under a swale.
 /// Beside each, the same formulas in a plain loop.
 #include "calc/trench.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// How many whole designs a second: the window's results without the window, type by type.
 /// Each project enters a safety factor of its own, so the pages that calculate live do so for every change.
 #include "design/design.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Projects for the benchmarks of whole designs: many different ones of one type, the same in every run.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The bare formulas of the same designs, each once: no fields that round, no live calculation, no verdicts.
 /// What stands between this and a whole design is what the window does besides.
 #include <benchmark/benchmark.h>

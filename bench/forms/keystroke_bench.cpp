@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Time of one keystroke in a field of the main window, without the window system.
 // Every text box of the form is typed into; the slowest is the one that counts.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Time from entering the results tab until the report is written, without a view. It may take 20 ms.
 // The drained area has twenty entries.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Time from entering the results tab until the report is painted in the window. It may take 150 ms.
 // The window is drawn into memory unless the environment names another window system.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A program whose results tab is entered again and again: rain, areas and soil given, any of the six types.
 #pragma once
 

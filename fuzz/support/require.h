@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What must hold in a fuzz target: says what does not and aborts, so that the fuzzer keeps the input.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The state of a control, as `get` prints it.
 /// Each kind adds its own members behind the common ones.
 #include "automation/inspection.h"

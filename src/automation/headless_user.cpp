@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Actions on controls without a window.
 /// Typing is one change per character, pasting is one change.
 #include "automation/headless_user.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The user's hands without a window: every action is told to the control directly.
 /// Each one enters the program as one event, as a widget's signal would.
 #pragma once

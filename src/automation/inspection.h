@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a script can ask: the state of a control and the shared values, as trace lines.
 /// Asking changes nothing and always answers, also for what is hidden.
 #pragma once

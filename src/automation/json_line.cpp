@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// JSON texts of the trace's values.
 /// The JSON library escapes texts; numbers come from the texts of numbers, which are valid JSON.
 #include "automation/json_line.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// One line of the trace: a JSON object with its members in the order in which they are added.
 /// Numbers keep the text of the program's own number texts, so that no digit is added or lost.
 #pragma once

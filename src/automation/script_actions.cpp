@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The actions of the script language.
 /// Each checks its words first, then whether the user can act on the control, then acts.
 #include "automation/inspection.h"

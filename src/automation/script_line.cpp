@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Splitting a script's line, and texts into the keys that type them.
 /// UTF-8 is checked once, at the line; everything behind it may rely on it.
 #include "automation/script_line.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// One line of a script, split into words.
 /// A word with blanks stands in double quotes; \" \\ \n \r \t inside are escapes.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reading a script line by line, finding controls, refusing what a user could not do.
 /// The actions themselves stand in a file of their own.
 #include "automation/script_runner.h"

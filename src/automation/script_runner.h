@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Follows a script: one action per line, each performed by the user's hands it was given.
 /// What happens meanwhile is traced by the desk; an action that a user could not do is refused.
 #pragma once

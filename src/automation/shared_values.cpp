@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The shared values by their names, as `value` prints them.
 /// A box that shows a shared value of another name (the reduced area, the picked rain) answers with that one.
 #include <functional>

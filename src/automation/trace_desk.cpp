@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The trace lines of what happens while a script runs.
 /// The line is printed before the real desk shows the thing, so that a box that hangs is still told.
 #include "automation/trace_desk.h"

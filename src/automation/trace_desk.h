@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The desk of a script: prints a trace line for everything that reaches the user, answers the boxes, and
 /// keeps what the next save dialog will be answered with.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The user's hands: how an action of a script reaches a control.
 /// Without a window the control is told directly; with one the real widget is typed into and clicked.
 #pragma once

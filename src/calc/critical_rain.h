@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Search of the design rain table for the critical rain: the one that asks the most of the facility.
 /// One search serves every quantity (volume, trench length, water level).
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Throttled outflow and storage coefficient of a trench with pipes.
 /// Both are kept from the confirmation of the drain panel until the design uses them.
 #include "calc/drain.h"

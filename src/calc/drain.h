@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the drain panel prepares for the trench: the throttled outflow, and the storage coefficient of a
 /// trench with pipes in its fill.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reduced drained area.
 /// Rounding after every addition makes the order of the entries part of the result.
 #include "calc/drained_area.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reduced (impermeable-equivalent) drained area: partial areas weighted by their runoff coefficients.
 /// The total is a Single at every step, as the shared value that holds it is.
 #pragma once

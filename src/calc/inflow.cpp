@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Inflow into the facility.
 /// Rational method, see the header.
 #include "calc/inflow.h"

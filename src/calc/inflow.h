@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Inflow into the facility under one rain, as the main window shows it and the drain of a trench is
 /// judged against it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The design rain table as the calculation sees it, and the unit constants of every design formula.
 /// Quantities come in as Singles; each formula widens them to double before the first operation.
 #pragma once

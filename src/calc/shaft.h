@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Infiltration shaft: water rises in the shaft and soaks away through its filter.
 /// The steps of the design in their order; between them the fields round what they show and store it back.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Diameters of round and rectangular shafts.
 /// A = pi * D^2 / 4, solved for the diameter.
 #include "calc/shaft_geometry.h"

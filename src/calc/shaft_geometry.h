@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Diameters of a shaft: a shaft is calculated as a round one, whatever its shape.
 /// A rectangular shaft counts with the diameters of circles of the same area.
 #pragma once

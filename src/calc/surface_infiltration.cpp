@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Surface infiltration.
 /// Steady balance of rain and soil, see the header.
 #include "calc/surface_infiltration.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Surface infiltration: the area through which the picked rain soaks away while it falls.
 /// Nothing is stored, so one formula is the whole design.
 #pragma once

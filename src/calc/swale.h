@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Swale: a shallow grassed hollow that stores the rain and lets it soak away through its bottom.
 /// The steps of the design in their order; the swale of the combined object uses them too.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Combined object: a swale over an infiltration trench, with or without a throttled outflow.
 /// The swale stores the rain, the trench takes what the swale lets through. Starting area, storage volume,
 /// ponding depth and emptying time are those of the swale with its own filtration coefficient.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Infiltration tank: an open basin with sloped sides that soaks away at a rate chosen beforehand.
 /// Required storage against the volume of its shape, then proof that the rate was not too optimistic.
 #pragma once

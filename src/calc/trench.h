@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Infiltration trench, with or without a drain pipe.
 /// The length follows from the balance; volume, area and the drain's outflow follow from the length.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Cross-section of an infiltration trench and what one metre of it can take.
 /// Shared by the trench and by the trench under a swale.
 #pragma once

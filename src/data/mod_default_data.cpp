@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The reference tables, row by row.
 /// Some texts carry a no-break space after a one-letter word, two blanks, or other oddities: all are data.
 #include "data/mod_default_data.h"

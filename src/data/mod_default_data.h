@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// modDefaultData: the fixed reference tables of the program and the defaults of five inputs.
 /// Nothing is read from files; only the rain intensities come from outside.
 #pragma once

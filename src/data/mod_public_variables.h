@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// modPublicVariables: the shared values of one running program, the project record among them.
 /// One object is created per program and handed to the forms by reference.
 #pragma once

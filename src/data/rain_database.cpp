@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reads a station by running `mero-rain` and says in Czech what went wrong.
 /// Nothing of the database's own format is known here.
 #include "data/rain_database.h"

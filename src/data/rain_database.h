@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The rain database: one table of rain intensities per rain-gauge station.
 /// What goes where is the rain dialog's rule; this only brings the named columns and the rows of a table.
 #pragma once

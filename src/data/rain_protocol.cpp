@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The lines between `mero-rain` and the rain database, written and read side by side.
 /// Reading is as strict as can be: what encode() would not write is refused.
 #include "data/rain_protocol.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What `mero-rain` prints and the rain database reads: one station table as strict lines of text.
 /// A text that was cut, interleaved or made up by a crashing program is told from a whole one.
 #pragma once

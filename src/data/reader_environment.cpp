@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Copies the environment but for a few names.
 #include "data/reader_environment.h"
 

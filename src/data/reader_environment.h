@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The variables that change what the database library answers, and an environment without them.
 /// The program cleans its child's environment, and the reader once more its own.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A program run in a process group of its own, its output through a pipe, one deadline for all of it.
 /// POSIX calls behind owners that close, kill and reap on every way out.
 #include "data/reader_process.h"

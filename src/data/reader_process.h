@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Runs a small program and takes what it prints, within limits of time and size.
 /// Whatever the program does, the call ends in time and leaves no process behind.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The first tab, the choice of the type, and what the pages share.
 /// The guards tell of a missing input; only the tank refuses to go on without it.
 #include "design/design.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A whole design without the window, with exactly the window's results.
 /// It replays what the main window does when a user, in a fresh program, enters each input once.
 ///

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a design leaves behind: the stored numbers, which boxes show one, and what was told, in order.
 /// A plain value without memory of its own, so that a sweep makes millions of them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a user enters about one facility: the fields of the six panels as plain numbers.
 /// The fields of all types stand side by side, so that a sweep can change the type and keep the rest.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Rounding by arithmetic where it is sure to agree with the text, by the text itself where it is not.
 /// The text rounds the shortest decimal of a Single, which lies within half a step of the Single itself.
 #include "design/field_rounding.h"

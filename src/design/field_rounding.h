@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a result field makes of a number: the field shows it, and its change rule stores what it shows.
 /// The same as writing the text and reading it back strictly, without making the text.
 #pragma once

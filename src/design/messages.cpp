@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Texts with numbers, and the joining of input checks.
 /// The texts of the drain end without a full stop, those of the area with one.
 #include "design/messages.h"

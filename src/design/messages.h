@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The message boxes of a design as the window shows them, from the verdicts and the numbers.
 /// Input checks that fail together share one box, one line each.
 #pragma once

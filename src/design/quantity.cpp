@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Names, captions and units of the results, one row each.
 /// The captions are those of the window's panels.
 #include "design/quantity.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The results of a design by name: what they are called in a file, on the panel, and in which unit they are.
 /// The order is the order of the columns of a sweep.
 #pragma once

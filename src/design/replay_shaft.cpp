@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Infiltration shaft: shape or ring, dimensions, balance, design.
 /// Each dimension box recomputes the diameters with what the others hold at that moment.
 #include "calc/shaft.h"

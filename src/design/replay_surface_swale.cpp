@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Surface infiltration and swales: calculated when the type is chosen and whenever an input changes.
 /// A swale is designed once for each change, and each design may pick another rain.
 #include "calc/surface_infiltration.h"

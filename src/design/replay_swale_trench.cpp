@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Combined object of a swale and a trench.
 /// The swale's starting area is live; the design follows the calculate button.
 #include "calc/swale_trench.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Infiltration tank.
 /// Its boxes are written when all of its numbers are known.
 #include "calc/tank.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Trench, with or without a drain.
 /// A drain whose pipes have no diameter is unticked again, but its coefficient was computed.
 #include "calc/trench.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Joins the two catalogues once.
 /// The list never changes after that, so all threads read it.
 #include "design/shaft_catalogue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The shaft catalogues as one list, which a project and a sweep choose from by number or designation.
 /// The rows are the reference tables'; the round ones come first.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The rain dialog's confirmation.
 /// Its running total is a 16-bit Integer, so intensities below 0.5 never add up.
 #include "design/site.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a user enters about a site: drained area, design rain, subsoil, as plain numbers.
 /// Preparing it is cheap, so a sweep prepares it anew for every variant.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reading a station's table row by row.
 /// A table without the field "005" has "004", which takes its place from the first row without it.
 #include "design/station_rain.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The intensities of one rain-gauge station: what of its table goes where.
 /// The same rules as the rain dialog's: a missing field or a bad value leaves its position at 0.
 #pragma once

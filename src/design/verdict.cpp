@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Codes and texts of the verdicts, one row each.
 /// Gender and wording of the input checks differ from one to the next; they are what users know.
 #include "design/verdict.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a design tells its user, as data: verdicts, refused inputs, run-time errors, each with a stable code.
 /// The window shows the same texts in its message boxes.
 #pragma once

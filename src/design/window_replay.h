@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The main window's calculation as a replay on plain numbers: the steps of the handlers in their order.
 /// One replay serves one design; the steps of each type stand in a file of their own.
 #pragma once

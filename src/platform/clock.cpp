@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Clock texts and the machine's clock.
 /// The texts are fixed patterns, so that no locale decides them.
 #include "platform/clock.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The door between the program and its user: message boxes, error reports, opened addresses, dialogs of the
 /// system. One object is injected; the window shows the real things, a script or a test records them.
 #pragma once

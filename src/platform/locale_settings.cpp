@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The program's own separators.
 /// The environment is asked through a locale object of its own; the process's locale is never switched.
 #include "platform/locale_settings.h"

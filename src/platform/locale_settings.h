@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The platform's interface to the user's number separators, as small as the locale guard needs it.
 /// Behind it stands the system's locale, this program's own separators, or a test.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The three routines of the locale guard.
 /// The module name in their error texts is the one that users have always been shown.
 #include "platform/mod_reg_settings.h"

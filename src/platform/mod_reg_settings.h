@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// modRegSettings, the locale guard: makes the point the decimal separator for the run of the program
 /// and puts the user's own separators back at its end.
 #pragma once

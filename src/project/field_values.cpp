@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// From the text of one value to the number that is stored for it.
 /// Stations are known by their name and by the number of their table.
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The table of fields.
 /// The captions are those of the window, so that a plot and a panel speak alike.
 #include "project/fields.h"

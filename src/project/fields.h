@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Every single value of a project file: its path, what it takes, and where it is stored.
 /// One table serves the reader, the sweep, the document and the schema, so that they cannot differ.
 #pragma once

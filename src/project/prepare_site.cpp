@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the dialogs of area and rain make of their entries.
 /// The limits of a project file's numbers keep the reduced area within a Single.
 #include "project/prepare_site.h"

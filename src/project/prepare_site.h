@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// From a project's inputs to the site that a design starts from.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A project as a file holds it: the texts of the report and everything that is entered in the window.
 /// The numbers stand apart from the texts, because a sweep copies and changes only them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reading a station's table through the rain database.
 /// The file's name is the program's, in the program's folder.
 #include "project/rain_store.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The rain of the stations that a design or a sweep needs, read once beforehand.
 /// After that it only answers, so all threads ask it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// From JSON to a project, value by value.
 /// Syntax and doubled names are found while parsing, everything else with the path in the document.
 #include "project/read_project.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reading a project file.
 /// Whatever is wrong is told with the file, the path in the document, and what was expected there.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The reference tables that project files are read against: stations, periodicities, durations.
 #pragma once
 

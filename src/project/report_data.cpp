@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The stored values of a fresh program after one design, field by field.
 /// What the panel of the chosen type does not offer keeps the value that the program starts with.
 #include "project/report_data.h"

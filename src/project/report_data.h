@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the results report shows of a design that was made without the window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// windows-1250 over iconv, one character at a time: so each character is either one of the code page or "?",
 /// whatever an iconv implementation does with characters it drops, substitutes or combines.
 #include "report/code_page.h"

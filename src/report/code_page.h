@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// UTF-8 to windows-1250 and back: the report is stored in the Central European code page.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Paths of the report and of the description pages.
 #include "report/documents.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Where the documents lie in the program's folder: the report and the description pages.
 #pragma once
 

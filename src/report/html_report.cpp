@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The frame of the report: project table, description, design rain, drained areas, date and time.
 #include "report/html_report.h"
 

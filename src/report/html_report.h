@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The HTML results report of a project: project, rain, drained areas, inputs and results of its type.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The building blocks of the report: lines, value rows, option headers.
 #include "report/html_rows.h"
 

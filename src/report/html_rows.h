@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The building blocks of the report: lines, value rows, the cells that close them, fixed rows.
 #pragma once
 

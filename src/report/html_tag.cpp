@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reading of tags.
 /// A letter, "/" or "!" behind "<" makes a tag; everything else is text.
 #include "report/html_tag.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// One tag of an HTML text, read as browsers read tags.
 /// It refers to the text and owns nothing but its name.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the results report reads: plain values, texts in UTF-8, every number in the unit of its name.
 /// The comments name the box of the window that a value is shown in.
 #pragma once

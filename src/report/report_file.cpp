@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The report file over POSIX calls: their error numbers tell a locked file from every other failure.
 #include "report/report_file.h"
 

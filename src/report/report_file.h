@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The report file: written whole or not at all, removed without complaint.
 #pragma once
 

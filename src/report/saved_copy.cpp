@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Making the report independent of its folder.
 /// The copy needs nothing of the program's folder.
 #include "report/saved_copy.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A copy of the report that can be handed over: it opens correctly in any browser and any folder.
 /// It declares its character set and carries its logo inside.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Report section of shaft infiltration.
 #include "platform/numbers/number_text.h"
 #include "report/html_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Report sections of surface infiltration and of swales, and the block of site inputs that all types share.
 #include "report/html_rows.h"
 #include "report/type_sections.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Report section of infiltration tanks.
 #include "report/html_rows.h"
 #include "report/type_sections.h"

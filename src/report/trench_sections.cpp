@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Report sections of the combined swale and trench object and of the trench with or without a drain.
 #include "report/html_rows.h"
 #include "report/type_sections.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The report's section of each infiltration type: its inputs and its results.
 #pragma once
 

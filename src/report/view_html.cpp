@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Arranging the report's tags for a rich-text view.
 /// Such a view knows no fixed-width block, lets text behind a rule slip in front of it, gives paragraphs
 /// around tables a height, and sets cells to the top.

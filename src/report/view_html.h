@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The report as a rich-text view has to be told it, so that it looks as in a browser.
 /// Only what is shown is arranged; the file keeps its bytes.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Making the new file, bringing it to the disk, renaming it.
 /// A rename within one folder is the one step that cannot end half way.
 #include "report/whole_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Replacing a file by a whole new one, or not at all.
 /// The new file is made beside the old one and takes its place only when it is complete on the disk.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The rows of a sweep as CSV (RFC 4180): commas, points, lines ended by CR LF, UTF-8.
 /// The varied values, every result that one of the types can have, the verdicts by their codes.
 #pragma once

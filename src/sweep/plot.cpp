@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Choosing what to draw, and designing its variants once more.
 /// Further varied values stay at their first value; the subtitle says so.
 #include "sweep/plot.h"

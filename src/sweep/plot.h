@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The chart of a sweep: one result over one varied value, one line per value of a second one.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Workers claim blocks in order and put their rows into a ring; the caller's thread empties it in order.
 /// A worker waits when the ring is full, so the fastest thread runs at most a ring ahead of the slowest.
 #include "sweep/run_sweep.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Runs a sweep on several threads and hands its rows over in their order.
 /// Only a few blocks of rows exist at a time, however many variants there are.
 #pragma once

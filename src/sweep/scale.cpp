@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Steps of 1, 2 or 5 times a power of ten; whole decades on a logarithmic scale.
 #include "sweep/scale.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Where a value of an axis lies on the drawing, and the round numbers beside it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The drawing, from the frame inwards.
 /// Everything is placed by numbers with two decimals on a sheet of fixed size.
 #include "sweep/svg.h"

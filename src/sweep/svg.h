@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A line chart as SVG: axes with units, a scale of round numbers, one line per series.
 /// Black and dark lines that differ by dashes and marks, so that a copy on paper can be read.
 #pragma once

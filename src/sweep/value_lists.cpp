@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Ranges are counted once and computed from their start, so that no error adds up.
 /// The last value of a range is taken when it lies within rounding of the steps.
 #include "sweep/value_lists.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The numbers of a range: arithmetic steps or a constant ratio.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Counting, checking and walking the variants.
 /// What a type needs is checked for every combination of the choices that decide about it.
 #include "sweep/variants.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// All combinations of the variations of one project, in a fixed order: the last variation runs fastest.
 /// A walk visits any stretch of them, so that several threads share the work.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// From PATH=VALUES to stored numbers and their texts.
 /// Each value goes through the same door as that of a project file.
 #include "sweep/variation.h"

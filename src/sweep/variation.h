@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// One value of a project that a sweep varies, and the values that it takes.
 /// `facility.trench_width_m=0.6:2.0:0.1`, `rain.station=all`, `subsoil....=log:1e-6:1e-3:20`.
 #pragma once

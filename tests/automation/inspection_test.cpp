@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What `get` and `value` answer: every kind of control, every shared value by its name.
 #include "automation/inspection.h"
 

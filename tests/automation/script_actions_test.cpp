@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Each action of the script language on the controls that it is made for.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Words of a script's line, numbers, and texts taken apart into keys.
 #include "automation/script_line.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Following a script: files as editors leave them, unusable lines, refusals, exit status.
 #include "automation/script_runner.h"
 

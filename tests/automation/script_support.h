@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A script that is followed on a whole program: what it printed, what it complained of, how it ended.
 #pragma once
 

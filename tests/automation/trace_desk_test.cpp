@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The trace's lines, and that a real desk behind it is shown the same things.
 #include "automation/trace_desk.h"
 

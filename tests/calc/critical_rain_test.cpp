@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the search for the critical rain.
 /// Ties, tables without a positive value, and which rows take part.
 #include "calc/critical_rain.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the throttled outflow and of the storage coefficient of a trench with pipes.
 #include "calc/drain.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the reduced drained area.
 /// The running total is a Single after every addition.
 #include "calc/drained_area.h"

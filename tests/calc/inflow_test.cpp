@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the inflow into the facility.
 #include "calc/inflow.h"
 

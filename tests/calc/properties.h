@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the properties of the design formulas share: random sites, exact values, tolerances.
 /// Each procedure is held against its formula evaluated once more in extended precision.
 #pragma once

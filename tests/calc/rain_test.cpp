@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the units and constants that every design formula uses.
 #include "calc/rain.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Rain tables and tolerances that the tests of the design formulas share.
 /// The expected numbers are worked out with the decimal values that stand here.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the diameters of round and rectangular shafts.
 #include "calc/shaft_geometry.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the shaft design, step by step, and of its three verdicts.
 #include "calc/shaft.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of surface infiltration.
 /// The formula is applied as it stands, without a guard.
 #include "calc/surface_infiltration.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Properties of the swale design over random sites.
 /// Extended precision beside the program's arithmetic, and truths that hold whatever the site.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the swale design, step by step.
 #include "calc/swale.h"
 

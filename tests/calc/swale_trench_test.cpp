@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the combined object: trench length under the swale, swale depth, area verdict.
 #include "calc/swale_trench.h"
 

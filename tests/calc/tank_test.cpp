@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the infiltration tank: required storage, shape, verdicts.
 #include "calc/tank.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of what one metre of trench takes.
 #include "calc/trench_section.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the infiltration trench: length, volume, area, drain.
 #include "calc/trench.h"
 

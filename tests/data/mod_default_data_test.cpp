@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The reference tables against plain lists of what they hold, and the five default inputs.
 // The lists in expected/ were written down on their own; no-break spaces stand in them as such.
 #include "data/mod_default_data.h"

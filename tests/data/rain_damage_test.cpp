@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Damaged copies of the rain database: the answer is the table or an error, in time, never fewer rows.
 /// The file has no check sums, so a flipped bit inside a stored value, a name or a type is a value, a name or
 /// a type; what is judged there is that the table has all its rows and fields.

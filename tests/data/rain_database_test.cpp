@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reading stations from the rain database that ships, and what is said when that cannot be.
 /// Expected intensities are worked out by hand from the formula of the demonstration values.
 #include "data/rain_database.h"

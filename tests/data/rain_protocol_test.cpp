@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The lines that the reader prints: whole texts are read back exactly, everything else is refused.
 #include "data/rain_protocol.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Helpers of the rain database's tests: a folder that vanishes, the reader, what a read ended in, how long.
 /// The reader and the database that ships come from the build.
 #pragma once

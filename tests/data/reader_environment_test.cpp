@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The reader's environment: everything but the variables that change the database library's answers.
 #include "data/reader_environment.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A reader that crashes, hangs, lies or floods: each is a failed read, in time, and no process is left.
 /// Shell scripts stand in for the reader.
 #include <gmock/gmock.h>

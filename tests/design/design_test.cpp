@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Designs worked out by hand: what they give, what they tell, where they stop.
 #include "design/design.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The user's hands on the forms.
 /// An action on a control that a user could not reach is a mistake of this test and throws.
 #include "design/entered_window.h"

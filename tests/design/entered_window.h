@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Enters a project into the real forms, as a user does, and keeps everything that was told.
 /// The order of the entries is the one that design/design.h documents.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Whole designs of the storing facilities, worked out by hand, with their verdicts and stops.
 /// One rain of 100 l/(s.ha) for 60 min, safety factor 1 unless said otherwise.
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Rounding by arithmetic against the text that a field shows: equal bit by bit.
 #include "design/field_rounding.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Names and texts of the results.
 #include "design/quantity.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The generator: a fixed sequence of bits, shaped into what engineers and careless users enter.
 /// The machine's random source has no part in it, so that a failure shows again.
 #include "design/random_projects.h"

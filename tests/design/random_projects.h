@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Random projects from a seed: mostly sensible, often odd, now and then absurd.
 /// Every value is one that a project file may hold.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What of a station's table goes where.
 #include "design/station_rain.h"
 

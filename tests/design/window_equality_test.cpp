@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The design without the window gives what the window gives: every number, every box, every message.
 /// Thousands of random projects are entered into the real forms and compared.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Stands in for the window program: what it does is named by the document that it is given.
 // Prints nothing; a file that it makes holds the document's name.
 #include <unistd.h>

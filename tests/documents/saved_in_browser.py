@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Saves a report of every type and opens all copies, from another folder, in one start of a real browser.
 
 Use: saved_in_browser.py --program MERO_BATCH --root PROJECT

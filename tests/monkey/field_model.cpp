@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The boxes of every quantity and the judgement by the field rules.
 #include "monkey/field_model.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the stored values must be, judged from the texts of the fields alone.
 /// A quantity may stand in several boxes; the one whose text changed last decides.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Choosing the next action.
 /// Lists and grids are asked only for entries and cells that they have; everything else may be refused.
 #include "monkey/generator.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The monkey: makes up the next action of a user from what the program shows now.
 /// Half of what it does are tasks of a user who knows the program (a rain, an area, a soil, a type with its
 /// inputs and the calculation), so that it gets deep; in between it touches anything.

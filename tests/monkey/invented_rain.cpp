@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Plausible tables by a power law; the odd ones as offices could put them in.
 #include "monkey/invented_rain.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Rain that depends on nothing but the station's number: most stations have a plausible table, some an odd
 /// one, and one in 31 has none, which ends the program.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The table of actions and their errors.
 /// What is not in the table (ticks, tabs, focus, spins, closing, most clicks) ends in no error at all.
 #include "monkey/known_errors.h"

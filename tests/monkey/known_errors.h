@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Which run-time errors an action can end in. Everything else that comes out of an action is a fault.
 /// The table is worked out from what the handlers of each control compute, not from what was seen.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// mero-monkey [--seed N] [--actions N]: random actions on the forms, checked after each.
 /// A fault is printed with the shortest script that shows it, which is also left in monkey-SEED.mero.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The monkey's own parts: the same seed does the same, nothing of the program is left out, scripts get
 /// short.
 #include <gmock/gmock.h>

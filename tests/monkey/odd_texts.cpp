@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Pools of texts, and texts put together from pieces.
 #include "monkey/odd_texts.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The texts that a user, or a cat on the keyboard, may put into a field.
 #pragma once
 

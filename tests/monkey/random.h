@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Random numbers that are the same on every machine: the standard's distributions may differ, its engine
 /// not.
 #pragma once

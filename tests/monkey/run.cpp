@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Living, replaying, shrinking.
 #include "monkey/run.h"
 

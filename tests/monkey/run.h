@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Lives of the monkey: a program is started, acted on until it ends or the life is over, and started again.
 #pragma once
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # The long form of the monkey: 1,000,000 actions (or as many as told) under the sanitizers.
 # Use: tests/monkey/run_long.sh [ACTIONS [FIRST_SEED]]
 set -euo pipefail

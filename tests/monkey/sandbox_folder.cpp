@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Making, watching and removing the temporary folder.
 /// Errors of removing are ignored: a name that was too odd to remove is no fault of the program under test.
 #include "monkey/sandbox_folder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A program's folder inside a temporary folder of its own, removed with all that is in it at the end.
 /// Whatever appears beside the program's folder was written where nothing may be written.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Delta debugging: pieces of half the script, of a quarter, and so on down to single lines.
 #include "monkey/shrink.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The shortest part of a script that still shows a fault, by leaving out ever smaller pieces.
 #pragma once
 

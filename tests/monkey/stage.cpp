@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The stage's desk and the performing of one line.
 #include "monkey/stage.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// One program on a stage of its own: a sandbox for its files, invented rain, a clock that stands still.
 /// Script lines are performed one by one; what reached the user during the last one is kept.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The rules that hold after every action.
 /// Texts are looked at when code writes them, so that what the user typed himself is not blamed.
 #include "monkey/watcher.h"

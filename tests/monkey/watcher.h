@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Watches a stage for what must hold after every action, whatever the user did.
 /// A fault is one line of text whose part before the colon says which rule was broken.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The watcher is blind to nothing that it promises to see: each rule is broken on purpose once.
 #include "monkey/watcher.h"
 

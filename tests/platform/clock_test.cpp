@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Date and time: reading the frozen moment, and the texts of the clock label and the report.
 #include "platform/clock.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's own separators: read like the platform's, taken from the environment, set without harm.
 #include "platform/locale_settings.h"
 

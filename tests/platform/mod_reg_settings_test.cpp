@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The locale guard: the order of the items, exact restoring, and the three error texts.
 #include "platform/mod_reg_settings.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// From the entries of the dialogs to the site of a design.
 #include "project/prepare_site.h"
 

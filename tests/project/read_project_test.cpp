@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a project file says and what it may not say.
 /// Every mistake is told with the file, the path, and what was expected.
 #include "project/read_project.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A small valid project file, and the error that a changed one gives.
 #pragma once
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The schema of project files: it is a valid schema, takes the examples, and refuses what the reader refuses.
 
 Use: schema_check.py SCHEMA EXAMPLES_FOLDER. Exit status 77 (skipped) without python3-jsonschema.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The schema and the reader know the same names, and the document explains each of them.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// windows-1250: every byte there and back, one "?" for whatever it lacks.
 #include "report/code_page.h"
 

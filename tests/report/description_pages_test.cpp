@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The description pages as they are delivered: complete, well nested, on their own, drawn alike everywhere.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Where the documents lie.
 #include "report/documents.h"
 

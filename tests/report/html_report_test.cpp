@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The whole report of each type and option against files that were written from the format's rules.
 #include "report/html_report.h"
 

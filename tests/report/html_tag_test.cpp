@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tags as browsers read them.
 #include "report/html_tag.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The report file under real faults: rights, folders, a full disk, names that no file system takes.
 #include "report/report_file.h"
 

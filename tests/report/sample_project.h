@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The sample project of the report tests: one set of values, of which each type shows its own.
 #pragma once
 

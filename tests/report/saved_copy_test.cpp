@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A saved copy needs nothing but itself.
 #include "report/saved_copy.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the view is told of the report: the same content, set so that rules, gaps and columns come out right.
 #include "report/view_html.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Files are replaced whole or not at all, under real faults.
 #include "report/whole_file.h"
 

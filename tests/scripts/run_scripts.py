@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Follows every script in a fresh program folder and compares trace, exit status and what is left behind.
 
 Use: run_scripts.py --program PROGRAM [--window] [--accept] [--only NAME]...

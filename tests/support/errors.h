@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Helper of the tests: which run-time error does a piece of code raise?
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The user's separators as a test wants them, with a log of all calls and a failure at a chosen one.
 #pragma once
 

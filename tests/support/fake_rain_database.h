@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A rain database in memory: stations by their number, and a log of what was asked.
 /// Its tables are as odd as files may be: too many rows, too few, nulls, the substitute field.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A desk that shows nothing and keeps everything that reached the user, in its order.
 /// Each thing is one readable line, so that a test states the whole dialogue.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting the program up and the user's longer ways through the dialogs.
 #include "support/test_program.h"
 

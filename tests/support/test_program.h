@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A program that runs in a temporary folder with everything around it faked, and a user's hands on it.
 /// Every act of the hands is one event, as in the window and in a script.
 #pragma once

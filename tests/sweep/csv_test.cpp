@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The rows: header, order, empty cells, quotes.
 #include "sweep/csv.h"
 

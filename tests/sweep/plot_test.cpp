@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The chart of a sweep, its scales, and its drawing.
 #include "sweep/plot.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The sweep on several threads: every row once and in order, ends of all kinds, bounded memory.
 #include "sweep/run_sweep.h"
 

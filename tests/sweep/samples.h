@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A project for sweeps: own rain, so that no database is needed, and the inputs of every type.
 #pragma once
 

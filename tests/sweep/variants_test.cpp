@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The combinations: how many, in which order, and what they need.
 #include "sweep/variants.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// PATH=VALUES: lists, ranges, logarithmic ranges, all; and what is refused.
 #include "sweep/variation.h"
 

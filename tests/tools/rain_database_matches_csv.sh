@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # usage: rain_database_matches_csv.sh DATA_FOLDER
 # Every table of mero.mdb is what its CSV file says, no table is missing and none is too many.
 # Who changes a CSV file and forgets to build the database, or the other way round, fails here.

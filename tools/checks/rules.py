@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Rules of the source tree that no compiler checks. Prints FILE:LINE: what is wrong; exit status 1 when anything is.
 
 Use: rules.py ROOT
@@ -7,9 +8,10 @@ import re
 import sys
 from pathlib import Path
 
-from sources import code_only, includes, source_files
+from sources import code_only, includes, script_files, source_files
 
 MAX_LINES = 450
+LICENCE = "SPDX-License-Identifier: MIT"
 
 # What each room of src/ may include, besides itself. The longest matching prefix counts.
 # `numbers` is also the home of the run-time error type.
@@ -85,8 +87,11 @@ def check_source(root: Path, file: Path) -> list[str]:
     name = file.relative_to(root).as_posix()
     text = file.read_text(encoding="utf-8")
     found = []
-    if not text.startswith("//"):
-        found.append(f"{name}:1: opens without a comment that says what the file is for")
+    first, _, rest = text.partition("\n")
+    if first != f"// {LICENCE}":
+        found.append(f"{name}:1: opens without // {LICENCE}")
+    elif not rest.startswith("//"):
+        found.append(f"{name}:2: no comment says what the file is for")
     lines = text.count("\n")
     if lines > MAX_LINES:
         found.append(f"{name}:{lines}: {lines} lines, more than {MAX_LINES}")
@@ -121,10 +126,18 @@ def check_links(root: Path, file: Path) -> list[str]:
     ]
 
 
+def check_licence(root: Path, file: Path) -> list[str]:
+    """A script or a build file whose first line, or the one below #!, does not tell its licence."""
+    lines = file.read_text(encoding="utf-8").split("\n")
+    line = lines[1:2] if lines[0].startswith("#!") else lines[:1]
+    return [] if line == [f"# {LICENCE}"] else [f"{file.relative_to(root).as_posix()}:1: opens without # {LICENCE}"]
+
+
 def check_tree(root: Path) -> list[str]:
     """Everything that is wrong in the tree, one line each."""
     found = [wrong for file in source_files(root) for wrong in check_source(root, file)]
     found += [wrong for file in sorted((root / "src").rglob("CMakeLists.txt")) for wrong in check_links(root, file)]
+    found += [wrong for file in script_files(root) for wrong in check_licence(root, file)]
     return found
 
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Tests of the rules: each breach is found, and what looks like one is let through."""
 
 import tempfile
@@ -7,7 +8,8 @@ from pathlib import Path
 import rules
 from sources import code_only, includes
 
-HEAD = "// What it is for.\n"
+SCRIPT_HEAD = "# SPDX-License-Identifier: MIT\n"
+HEAD = "// SPDX-License-Identifier: MIT\n// What it is for.\n"
 
 
 class Tree(unittest.TestCase):
@@ -76,7 +78,7 @@ class Layers(Tree):
             (self.root / "src" / name).unlink()
 
     def test_paths_begin_at_src(self):
-        self.assert_breach("src/calc/a.cpp", HEAD + '\n#include "swale.h"\n', 3, "no path from src/")
+        self.assert_breach("src/calc/a.cpp", HEAD + '\n#include "swale.h"\n', 4, "no path from src/")
         self.assert_breach("src/calc/a.cpp", HEAD + '#include "../calc/../data/tables.h"\n', 2, "")
         self.assert_breach("src/calc/a.cpp", HEAD + "#include <calc/swale.h>\n", 2, "in quotes")
 
@@ -92,10 +94,10 @@ class Qt(Tree):
         self.assertEqual(len(self.breaches("src/forms/calc/a.cpp", text)), 2)
 
     def test_links_too(self):
-        link = "target_link_libraries(x Qt6::Widgets) # why\n"
+        link = SCRIPT_HEAD + "target_link_libraries(x Qt6::Widgets) # why\n"
         self.assertEqual(self.breaches("src/platform/qt/CMakeLists.txt", link), [])
-        self.assertEqual(self.breaches("src/data/CMakeLists.txt", "# no Qt6::Core here\n"), [])
-        self.assert_breach("src/forms/calc/CMakeLists.txt", link, 1, "Qt6::Widgets")
+        self.assertEqual(self.breaches("src/data/CMakeLists.txt", SCRIPT_HEAD + "# no Qt6::Core here\n"), [])
+        self.assert_breach("src/forms/calc/CMakeLists.txt", link, 2, "Qt6::Widgets")
 
 
 class NumberTexts(Tree):
@@ -104,7 +106,7 @@ class NumberTexts(Tree):
             "std::stof(text)", "strtod(p, &q)", "std::to_string(1.5)", 'std::printf("%f", x)', "snprintf(b, n, f)",
             'setlocale(LC_ALL, "")', "std::locale here", "out << std::fixed", "edit.text().toDouble()",
         ):
-            self.assert_breach("src/data/a.cpp", HEAD + f"void f() {{\n  {code};\n}}\n", 3, "platform/numbers")
+            self.assert_breach("src/data/a.cpp", HEAD + f"void f() {{\n  {code};\n}}\n", 4, "platform/numbers")
 
     def test_their_own_room_and_the_tests_may(self):
         text = HEAD + "auto x = strtod(p, &q);\n"
@@ -118,13 +120,20 @@ class NumberTexts(Tree):
 
 class Files(Tree):
     def test_opening_comment(self):
-        self.assert_breach("tests/a_test.cpp", "#include <vector>\n// late\n", 1, "opens without")
+        licence = HEAD.splitlines(keepends=True)[0]
+        self.assert_breach("tests/a_test.cpp", licence + "#include <vector>\n// late\n", 2, "what the file is for")
+
+    def test_licence(self):
+        self.assert_breach("src/data/a.cpp", "// What it is for.\n", 1, "SPDX")
+        (self.root / "src/data/a.cpp").unlink()
+        self.assertEqual(self.breaches("tools/a.py", "#!/usr/bin/env python3\n" + SCRIPT_HEAD), [])
+        self.assert_breach("tools/a.sh", "#!/bin/sh\n# What it is for.\n", 1, "SPDX")
 
     def test_pragma_once(self):
         self.assert_breach("src/data/b.h", HEAD, 1, "#pragma once")
 
     def test_length(self):
-        longest = HEAD + "\n" * (rules.MAX_LINES - 1)
+        longest = HEAD + "\n" * (rules.MAX_LINES - 2)
         self.assertEqual(self.breaches("src/data/a.cpp", longest), [])
         self.assert_breach("src/data/a.cpp", longest + "\n", 451, "451 lines")
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The project's C++ sources as the checks see them: which files there are, their code without comments and
 texts, and what they include."""
 
@@ -5,6 +6,7 @@ import re
 from pathlib import Path
 
 FOLDERS = ("src", "tests", "bench", "fuzz")
+SCRIPT_FOLDERS = (*FOLDERS, "cmake", "docs", "packaging", "tools")
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<(?P<system>[^>]+)>|"(?P<own>[^"]+)")', re.MULTILINE)
 # In this order, so that what begins first wins: a quote in a comment is no text, slashes in a text no comment.
 # A ' between digits groups them (10'000).
@@ -24,6 +26,14 @@ def source_files(root: Path) -> list[Path]:
     """Every .h and .cpp file of the project, sorted."""
     found = (path for folder in FOLDERS for path in (root / folder).rglob("*"))
     return sorted(path for path in found if path.suffix in (".h", ".cpp"))
+
+
+def script_files(root: Path) -> list[Path]:
+    """Every shell, Python and CMake file of the project, sorted."""
+    found = [path for folder in SCRIPT_FOLDERS for path in (root / folder).rglob("*") if "target" not in path.parts]
+    scripts = [path for path in found if path.suffix in (".sh", ".py", ".cmake") or path.name == "CMakeLists.txt"]
+    roots = [root / name for name in ("CMakeLists.txt", "check", "start", ".ci/run")]
+    return sorted(scripts + [path for path in roots if path.is_file()])
 
 
 def code_only(text: str) -> str:

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """clang-tidy on the sources under src/, several at a time; a file that passed is remembered until it, a header
 that it includes, its compile command, .clang-tidy or this file changes. The tests are left out: the analyzer needs up
 to half a minute for each of them.

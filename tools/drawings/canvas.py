@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Drawing surface of the section drawings: materials, water, dimension lines, labels with subscripts."""
 import math
 import random

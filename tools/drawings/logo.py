@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The mark of the program: a drop above the layers of the soil, and its name."""
 from canvas import FONT, SOIL, SOIL_LINE, TOPSOIL, WATER_LINE, Canvas
 

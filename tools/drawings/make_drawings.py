@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Draws the pictures of the description pages and the logo into Webs/Desc_soubory.
 
 Needs python3-cairo, python3-pil and the DejaVu Sans font. Give a folder to draw into another one.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The section drawings of the six infiltration types, with the dimensions that their panels ask for."""
 from canvas import INK, WATER, WHITE, Canvas
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the start of the program is measured against: a window with four empty tabs and nothing else.
 #include <QApplication>
 #include <QTabWidget>

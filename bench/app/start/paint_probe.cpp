@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Preloaded into a Qt program: prints its resident memory when the first window has been painted, and ends
 /// it. So the program itself is measured, not a copy of it with a stopwatch inside.
 #include <unistd.h>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Time from the start of the process to the first painted window, and resident memory then: mero against a bare
 window with four empty tabs. Run it on an X display of its own:
 

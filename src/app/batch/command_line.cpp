@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Walking the arguments.
 /// A text behind "=" that nobody asked for is an error of the option before.
 #include "app/batch/command_line.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The arguments of one command: options with values, flags, and what is no option.
 /// Values follow their option as the next argument or behind "=".
 #pragma once

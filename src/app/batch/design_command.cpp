@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reads the project, designs, prints, and writes the report that the window would write.
 /// Everything is read and checked before anything is written.
 #include "app/batch/design_command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// mero-batch design: one project file in, results and verdicts out.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Captions and numbers are the window's: what the table shows stands in the box of the panel.
 /// The JSON carries the stored numbers in their shortest text.
 #include "app/batch/design_output.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The results of one design as text for people and as JSON for programs.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The last stop of every error of a command.
 /// What a user can mend is told by its own text, the rest by what the library says.
 #include "app/batch/failures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// How a command ends when something goes wrong: one line on standard error, and an exit status.
 #pragma once
 

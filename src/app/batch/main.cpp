@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // mero-batch: the program without any window system.
 // The first argument is the command.
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Starting the window program for one PDF file.
 /// Its exit status is all that it says.
 #include "app/batch/pdf_program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// PDF files without a window system: the window program makes them in a process of its own.
 #pragma once
 

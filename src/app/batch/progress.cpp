@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Rewrites its line a few times a second.
 /// A log file that catches standard error sees nothing of it.
 #include "app/batch/progress.h"

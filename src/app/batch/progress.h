@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The progress of a long run on one line of the terminal: rows, share, rate, time left.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// POSIX writing without buffers of its own: the rows come in blocks.
 /// An interrupted write goes on where it was.
 #include "app/batch/row_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Where the rows of a sweep go: a file or standard output.
 /// Written in large pieces; a full disk is noticed and told.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Puts the program together without a window and lets the script drive it.
 /// The trace is all that goes to standard output.
 #include "app/batch/run_command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// `mero-batch run`: follows a script on the forms without any window system.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The list needs no database; a station's table is read from it.
 /// The columns are wide enough for every intensity that a station can have.
 #include "app/batch/stations_command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// mero-batch stations: the rain-gauge stations, and the table of one of them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The only thing that a signal handler may touch is a lock-free flag.
 /// A second Ctrl-C ends the program at once.
 #include "app/batch/stop_signal.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Ctrl-C as a wish that the program looks at when it suits it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// mero-batch sweep: all variants of a project as rows of a CSV file, and as a plot.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reading the shared options.
 /// Values follow their option as the next argument or behind "=".
 #include "app/common/options.h"

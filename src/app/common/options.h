@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The options that the window and the program without a window share.
 /// An unusable argument is told in one line.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Finding the program's folder and the reader program.
 /// Paths are bytes; nothing here depends on a locale.
 #include "app/common/program_folder.h"

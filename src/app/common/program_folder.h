@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The program's folder: where the rain database, the description pages and the report file are.
 /// A build tree or an unpacked archive is its own folder; an installed copy uses the user's data folder.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // mero: the program with its window.
 // With --script a script's hands work the same widgets, and the trace goes to standard output.
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Painting the pages into memory and writing them.
 /// The PDF writer itself tells of no failed write, so the file is written in one piece afterwards.
 #include "app/mero/pdf_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A document as a PDF file: the pages of the print preview, with selectable text and its fonts inside.
 #pragma once
 

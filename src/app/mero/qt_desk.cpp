@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Boxes and dialogs of the window system.
 /// A printer is asked for only when the preview opens: looking for the default printer can take long.
 #include "app/mero/qt_desk.h"

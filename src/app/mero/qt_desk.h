@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The real desk: message boxes, the browser, save dialog and print preview of the window system.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Actions on the real widgets.
 /// Events are sent straight to the widget, so that a script runs the same whichever window is in front.
 #include "app/mero/qt_user.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The script's hands in the window: keys and clicks reach the real widgets.
 /// What they cause is what they would cause under a person's hands.
 #pragma once

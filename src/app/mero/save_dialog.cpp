@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The system's dialog, and a question of our own where the added suffix leads to another file.
 /// Names with points in them ("hala 1.2") have no suffix for that.
 #include "app/mero/save_dialog.h"

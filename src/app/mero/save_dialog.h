@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The save dialog of the report: HTML or PDF, the suffix added where it is missing.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Reading and performing of a script's lines.
 /// While a line is performed, boxes let other events run: no second line is begun then.
 #include "app/mero/script_feed.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Brings a script's lines to the runner while the window lives: from a file, or as they arrive on standard
 /// input.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Types, sizes and places of the fields.
 /// A table's header has no check sum; these comparisons find most of what damages it.
 #include "app/rain/jet_fields.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The fields of a table as libmdb finds them, each checked before its values are believed.
 /// The library follows damaged structures without a word, so the file's redundancy is compared here.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Catalog and rows through libmdb.
 /// The library skips what it cannot read without a word, so what comes is compared with what was promised.
 #include "app/rain/jet_table.h"

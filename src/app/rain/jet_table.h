@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// One table of a Jet database file, read whole or not at all.
 /// Catalog and rows; the fields have a file of their own.
 #pragma once

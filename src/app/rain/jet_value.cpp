@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Little-endian bytes to numbers, one small function per family of types.
 /// A text is a number when the program's own fields would take it as one.
 #include "app/rain/jet_value.h"

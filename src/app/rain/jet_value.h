@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The number that the stored bytes of a field are, by the field's type.
 /// The database library's own texts of numbers depend on the locale and show Singles as 0.15000001.
 #pragma once

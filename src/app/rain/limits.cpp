@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Resource limits and redirections by POSIX calls.
 /// A limit that cannot be set is left: the parent's time limit and checks hold in any case.
 #include "app/rain/limits.h"

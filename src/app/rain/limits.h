@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Limits and surroundings of the reader, set before the database library sees a byte.
 /// The library crashes or never ends on some damaged files; here that costs little.
 #pragma once

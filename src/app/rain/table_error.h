@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Why there is no table, with the exit status that tells the caller.
 /// The text is for who runs the reader by hand.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// CalcDesign: sizes the facility of the current type against the design rain table, writes the result
 /// fields and tells the verdicts. A verdict never blocks the results.
 #include "calc/drain.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// CalcDesign for the shaft and the tank: required volumes, and the verdicts with the checks that stop.
 /// The calculated flag is not set when a groundwater or volume check stops the design.
 #include "calc/shaft.h"

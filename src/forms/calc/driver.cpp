@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The calculation's driver: re-selecting the type after a common input changed, clearing results, and the
 /// calculate command with its input checks.
 #include "forms/calc/frm_calc.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The field rules.
 /// The trap covers the conversion only; what a changed text starts is outside of it.
 #include "forms/calc/field_rules.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// How the text of a numeric field becomes its stored value, shared by all fields of the main window.
 /// Bad typing is answered silently: the field is emptied, and the emptying stores 0.
 #pragma once

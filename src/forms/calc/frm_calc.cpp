@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The main window's construction: which handler serves which control.
 /// Field rules that only store a number are bound here; all others have a handler of their own.
 #include "forms/calc/frm_calc.h"

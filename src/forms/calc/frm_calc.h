@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// frmCalc, the main window: inputs and their field rules, the choice of the type, calculation, report.
 /// Handlers run at once and nest; the results come out right only in this order.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The members of the control arrays, and the state in which the controls open.
 /// Initial texts do not run change handlers: the stored defaults match them from the start.
 #include "forms/calc/frm_calc_controls.h"

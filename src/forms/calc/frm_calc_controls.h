@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The controls of the main window: tabs, input fields, the type choice, the six result panels.
 /// What they hold when the window opens is set here; what they do is frmCalc's.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// CalcInfiltArea: from drained area and design rain to the first size of the facility of the current type.
 /// A result that is written into a field with a change rule comes back from it as it is shown.
 #include "calc/shaft.h"

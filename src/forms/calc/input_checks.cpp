@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The checks per type as tables, in the order of their lines.
 /// Gender and wording of the texts differ from check to check; they are what users know.
 #include "forms/calc/input_checks.h"

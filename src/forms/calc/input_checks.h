@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The checks of the calculate command: which inputs of a type must not be zero or negative.
 /// All problems of a page are told at once, one line each.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The main window's field rules that do more than store a number.
 /// The derived inflow, the filtration coefficients, the two unguarded fields, the counters.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Start, events and end of a running program.
 /// Whatever ends it, the same clean-up runs: separators restored, report file deleted.
 #include "forms/calc/program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// One running program: its shared values, its main window, and the one place where events enter.
 /// A second program in the same process is simply a second object.
 #pragma once

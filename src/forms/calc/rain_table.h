@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The design rain table and the picked rain, between the shared values and the formulas.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// From the main window's shared values to the report's plain values.
 /// One function per group, so that each box is found beside its neighbours.
 #include "forms/calc/report_data.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Collects what the results report shows from the main window's values and options.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The tabs of the main window, the report and the description pages.
 /// The report is rebuilt from the current values whenever the results tab is entered.
 #include "forms/calc/frm_calc.h"

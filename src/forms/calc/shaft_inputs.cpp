@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The shaft's catalogue, shape and dimension boxes, which keep the two diameters in use in step.
 /// The calculation knows only D_i and D_a; a rectangular shaft counts by its equivalent diameters.
 #include "calc/shaft_geometry.h"

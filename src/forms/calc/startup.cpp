@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The main window's start and end, the clock, the buttons that open the dialogs, the links.
 /// The order of the steps of Form_Load and Form_QueryUnload is fixed.
 #include "data/mod_default_data.h"

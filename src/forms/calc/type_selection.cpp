@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The choice of the infiltration type: group, type list, panels, soil and shaft options, sub-panels.
 /// Selecting by code runs the same handlers; the order of the steps decides what the window shows.
 #include "forms/calc/frm_calc.h"

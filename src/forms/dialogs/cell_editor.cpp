@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Opening and closing the grid cell editor.
 /// The window lays the box over the cell that is current when the box is shown.
 #include "forms/dialogs/cell_editor.h"

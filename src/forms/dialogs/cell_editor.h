@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The grid cell editor that the dialogs share: one text box laid over the current cell of a grid.
 /// Each dialog says what the editor's text means; opening, keys and closing are the same everywhere.
 #pragma once

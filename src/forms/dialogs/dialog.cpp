@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Opening and closing of the input dialogs.
 /// A dialog that is open already is shown again, not loaded a second time.
 #include "forms/dialogs/dialog.h"

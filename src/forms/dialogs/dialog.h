@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the three input dialogs share: shown without being made modal, they disable the main window while
 /// they are open and enable it again when they close, whatever closes them.
 #pragma once

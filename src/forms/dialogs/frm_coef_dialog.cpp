@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The soil dialog's handlers.
 /// Closing without OK leaves the clicked coefficient in use while the field still shows the old text.
 #include "forms/dialogs/frm_coef_dialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// frmCoefDialog, the soil: its filtration coefficient picked from the soil table instead of being typed.
 /// The coefficient in use changes at the click, the main window's field only at the confirmation.
 #pragma once

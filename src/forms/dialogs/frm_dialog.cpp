@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The drained-area dialog: opening, choosing a surface, entering a partial area, closing.
 /// The table of entries and its editing stand in a file of their own.
 #include "forms/dialogs/frm_dialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// frmDialog, the drained area: partial areas with their runoff coefficients, summed to the reduced area.
 /// The list of entries is shared data; Cancel does not undo what was entered.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The drained-area dialog's table of entries: showing, summing, editing and deleting them.
 /// The lists keep one spare slot at their end, which the next entry fills.
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The design-rain dialog's handlers.
 /// Selecting an entry by code counts as the user's choice; opening and editing rely on that.
 #include "forms/dialogs/frm_int_dialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// frmIntDialog, the design rain: nine intensities from the rain database or typed, one row picked.
 /// Everything the user does is stored at once; only OK carries the picked rain to the main window.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// frmIntDialog::ReadStationTable: what of a station's rows goes into which shared value.
 /// A missing field or a bad value is passed over: the position keeps what it held.
 #include <array>

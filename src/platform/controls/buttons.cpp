@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// When the handlers of option buttons and check boxes run.
 /// The state is complete before the handler runs, because the handler may set it again.
 #include "platform/controls/buttons.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Buttons of all sorts: push button, option button of a group, check box, and the up-down control.
 /// When their click handlers run is a contract that the forms rely on.
 #pragma once

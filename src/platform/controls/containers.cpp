@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tab control and its pages.
 /// The pages are controls of their own, so that what lies on them knows whether it is on screen.
 #include "platform/controls/containers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What holds other controls: frame, panel, tab control with its pages, and the two views of documents.
 /// A control on a tab page that is not the current one is not on screen.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What all controls share: their place in the form and the notification of observers.
 /// A control registers itself with its form, so that it can be found by its name.
 #include "platform/controls/control.h"

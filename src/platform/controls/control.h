@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A control of a form without any window system: a name, a container, whether it is enabled and visible.
 /// Observers (a widget, a test) are told what changed before the form's handler runs.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// An array of controls: members of one name told apart by an index, which need not start at 0.
 /// One handler serves all members and is given the member's index.
 #pragma once

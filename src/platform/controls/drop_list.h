@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A drop-down list of texts of which one or none is selected.
 /// Its click handler runs whenever an entry is selected, by position or by text, by the user or by code.
 #pragma once

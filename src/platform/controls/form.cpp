@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Finding controls by name.
 /// A linear search does: only scripts and tests ask by name.
 #include "platform/controls/form.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A form: the window that holds named controls.
 /// It is created hidden, loads when it is first shown, and forgets its controls' states when it is closed.
 #pragma once

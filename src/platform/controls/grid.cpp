@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Building and clicking a grid.
 /// A rebuilt grid has no pictures, and its current cell is the first one.
 #include "platform/controls/grid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A grid of texts with one header row; cells may carry the marked or the unmarked picture.
 /// The cell change handler runs when the current cell changes, the click handler at every click.
 #pragma once

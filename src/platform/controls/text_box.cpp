@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The text box's events.
 /// Handlers run at once and may assign the text again: nothing here is touched after a handler ran.
 #include "platform/controls/text_box.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A text box: single or multi-line, its change handler runs at every assignment by code,
 /// and by the user whenever the text really changes.
 #pragma once

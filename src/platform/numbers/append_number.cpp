@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The shortest digits as std::to_chars gives them, laid out as general() does.
 /// Both agree for every Single; a test holds them against each other.
 #include "platform/numbers/append_number.h"

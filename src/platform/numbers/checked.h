@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Checked arithmetic: the only places where a division by zero, an overflow or a root can go wrong.
 /// What would be inf or nan is a RuntimeError here, so that neither ever reaches a stored value or a field.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Texts of numbers over std::from_chars and std::to_chars, which no locale touches.
 /// One scanner knows what a number looks like; one digit string is rounded as on paper.
 #include "platform/numbers/number_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Texts of numbers: every conversion between a text and a number goes through here.
 /// Point as decimal separator, blank as digit grouping, whatever the machine's locale says.
 #pragma once

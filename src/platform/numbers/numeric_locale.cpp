@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Switching the C library's number texts.
 #include "platform/numbers/numeric_locale.h"
 

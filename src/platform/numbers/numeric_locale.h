@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The C library's own number texts, for libraries that use it: always with a decimal point.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Run-time errors of the program: a number and a description, thrown by conversions and arithmetic.
 /// What no handler traps reaches the place where events enter and is reported there.
 #pragma once

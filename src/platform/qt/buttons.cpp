@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Binding of buttons and labels.
 /// A click on the selected option runs its handler again, so the click counts and not the change.
 #include "platform/qt/buttons.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Buttons, labels and the up-down control as widgets.
 /// Only what a person does is passed on; the state that the control then has is what is shown.
 #pragma once

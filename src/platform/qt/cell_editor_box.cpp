@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Placing of the cell editor.
 /// The control says when it is shown; where the cell then is only the view knows.
 #include "platform/qt/cell_editor_box.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The text box that lies over the current cell of a grid while the cell is edited.
 #pragma once
 

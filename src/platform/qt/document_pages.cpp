@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Laying out and painting of pages.
 /// Lengths of a page are pixels of 1/96 inch there and everywhere scaled to the device.
 #include "platform/qt/document_pages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A document on paper: the pages of the print preview, of the printer and of a PDF file are all painted
 /// here.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Binding of browser views.
 /// Pages are made for paper: they are shown black on white whatever the desktop's colours are.
 #include "platform/qt/document_view.h"

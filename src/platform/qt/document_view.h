@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A browser view as a widget: shows local pages, follows links between them, hands web addresses on.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Binding of drop-down lists.
 /// Only `activated` speaks of a person's choice; filling and selecting by code are silent.
 #include "platform/qt/drop_list_box.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A drop-down list as a widget.
 #pragma once
 

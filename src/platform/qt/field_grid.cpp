@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of fields.
 /// Long captions are broken into lines instead of being cut or pushing the fields away.
 #include "platform/qt/field_grid.h"

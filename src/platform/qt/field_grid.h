@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Fields in columns: caption, field, unit, and what stands beside it.
 /// All groups of a window are set out by it, so that they look alike.
 #pragma once

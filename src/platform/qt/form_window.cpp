@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Windows of forms.
 /// Closing is the form's decision: the close box only asks it.
 #include "platform/qt/form_window.h"

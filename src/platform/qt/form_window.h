@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A form as a top-level window. It is built when it is first shown.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Painting of grid cells.
 /// The pictures are drawn, not stored, so they are sharp at any scale and follow the palette.
 #include "platform/qt/grid_delegate.h"

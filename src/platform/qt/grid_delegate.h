@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Draws the cells of a grid: wrapped texts, the marked and the unmarked picture, the picked row's tint.
 #pragma once
 

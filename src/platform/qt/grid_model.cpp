@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Answers of the grid's item model.
 /// The grid may have changed since the last refresh, so every access looks whether the cell is there.
 #include "platform/qt/grid_model.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The cells of a grid as an item model; the header row is the model's header.
 /// It reads the control itself, so nothing is kept twice but the shape of the table.
 #pragma once

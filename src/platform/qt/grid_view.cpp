@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The grid's table widget.
 /// Handlers fill a grid cell by cell; the view follows once, after the event, or when somebody asks for it.
 #include "platform/qt/grid_view.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A grid as a table widget: header row, column widths as fractions, merged neighbours, pictures.
 #pragma once
 

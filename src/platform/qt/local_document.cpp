@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Loading of local documents.
 /// The report and the description pages join folders by backslashes and declare no character set.
 #include "platform/qt/local_document.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A local HTML document: decoded, with its pictures, and nothing else. It loads nothing from the network.
 /// Text without a font of its own stands in 12 pt, as in browsers, on the screen and on paper.
 #pragma once

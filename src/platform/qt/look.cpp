@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Palettes of fields.
 /// The tint of a result is mixed from the palette, so it suits light and dark desktops.
 #include "platform/qt/look.h"

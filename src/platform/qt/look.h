@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// How fields look: inputs, results, and fields that the program has greyed.
 /// All colours come from the user's palette and all sizes from the user's font.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Finding the places.
 /// The text layout's own pages cut through rows of several lines, so it is given no pages at all.
 #include "platform/qt/page_breaks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Where a document is cut into pages: between lines and between the rows of tables, never through them.
 #pragma once
 

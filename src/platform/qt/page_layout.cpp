@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Pages that suit small and large windows.
 /// The pair says itself how narrow it can be; a plain layout would only know its present direction.
 #include "platform/qt/page_layout.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of whole pages: two columns that stand below each other in a narrow window, and scrolling.
 #pragma once
 

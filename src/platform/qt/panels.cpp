@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Binding of frames and panels.
 #include "platform/qt/panels.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Frames and panels as widgets: boxes around what belongs together.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Binding of the tab control.
 /// A handler may switch back at once; the control's position is what counts.
 #include "platform/qt/tab_view.h"

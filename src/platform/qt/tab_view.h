@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A tab control as a widget whose pages are built when they are first shown.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Binding of text boxes.
 /// A handler may rewrite the text while it is being typed: the widget is brought in step after each event.
 #include "platform/qt/text_fields.h"

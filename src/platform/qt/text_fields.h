@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Text boxes as widgets: one line, or several.
 /// What a person types reaches the control; what code assigns is shown and does not come back.
 #pragma once

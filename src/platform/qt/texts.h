@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Texts between the two worlds: the forms hold UTF-8, Qt its own strings.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Common binding of controls and widgets.
 /// Controls keep their observers for ever, so each observer looks first whether its widget still lives.
 #include "platform/qt/widget_kit.h"

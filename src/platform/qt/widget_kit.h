@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What every widget needs of the program around it: the gate for events and the list of what is bound.
 /// It also holds what all controls have in common: name, enabled, visible, focus.
 #pragma once

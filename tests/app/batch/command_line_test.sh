@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # The command line of mero-batch: exit status, and what goes to which output.
 # Use: command_line_test.sh MERO_BATCH SOURCE_FOLDER
 batch=$1

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The line of progress, and the arguments of the commands.
 #include "app/batch/progress.h"
 

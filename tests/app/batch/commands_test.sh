@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # The commands on projects as a user calls them: outputs, exit statuses, what is left on the disk.
 # Use: commands_test.sh MERO_BATCH SOURCE_FOLDER
 set -u

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # The manual page against a checker of such pages, and against the help of the commands.
 # Use: manual_test.sh MERO_BATCH PAGE
 set -u

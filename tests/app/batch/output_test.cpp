@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the commands print and write: tables, JSON, rows.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What becomes of a PDF file when the window program makes it, fails, is broken or is not there.
 #include "app/batch/pdf_program.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The shared options: what they hold, and which arguments are refused.
 #include "app/common/options.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's folder: beside the executable where that holds the pages, else the user's own.
 #include "app/common/program_folder.h"
 

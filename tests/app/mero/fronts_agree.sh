@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # The window and the program without one print the same trace and end with the same status, script by script.
 # Use: fronts_agree.sh MERO MERO_BATCH PROJECT_ROOT
 set -euo pipefail

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The whole main window over a program without files, worked by a script's hands or by a person's.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The PDF file of a report, read back with another program, and under faults.
 #include "app/mero/pdf_file.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A person at the window: keys and clicks where they belong, focus as the window system gives it.
 #include <QComboBox>
 #include <QFocusEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The print preview opens without a printer and shows the report's pages.
 #include <gtest/gtest.h>
 

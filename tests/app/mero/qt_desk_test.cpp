@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The real desk: what its boxes say, and that a script is never kept waiting.
 #include "app/mero/qt_desk.h"
 

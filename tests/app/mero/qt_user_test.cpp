@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The script's hands on the whole main window: every control has its widget, and what people see is right.
 #include "app/mero/qt_user.h"
 

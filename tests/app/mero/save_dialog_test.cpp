@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The save dialog: suffixes, filters, files that are there already.
 #include "app/mero/save_dialog.h"
 

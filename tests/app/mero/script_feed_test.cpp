@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The script's way to the runner: lines, the end, what stops it.
 #include "app/mero/script_feed.h"
 

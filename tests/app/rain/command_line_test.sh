@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # The reader's own command line: exit statuses, and that nothing but a whole table reaches standard output.
 set -u
 reader=$1

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Cuts at and around every page, zeros in every page, swapped pages, flipped bits, forged lengths and
 /// offsets.
 #include "data/damage/damage.h"

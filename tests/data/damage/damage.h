@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Ways to damage a rain database: every one is a copy of the file with a name that tells what was done.
 #pragma once
 

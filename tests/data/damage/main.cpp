@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// mero-damage [SEED [EVERY]]: reads thousands of damaged copies of the rain database and judges the answers.
 /// EVERY takes only every so-manieth file. What breaks a rule is printed; its file is left beside the
 /// program.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Reads every damaged copy of the rain database (more than 5,000) and prints what came of it.
 # Use: tests/data/damage/run_long.sh [SEED]
 set -euo pipefail

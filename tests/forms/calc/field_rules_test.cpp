@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From the text of a field to its stored value: numbers, refused texts, overflow, filtration coefficients.
 #include "forms/calc/field_rules.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The project's input fields in the running program: what is stored, what is derived, what is recomputed.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Re-selecting the type after a common input changed, and clearing a type's results.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which value of the program stands where in the report: every value is another one, none is swapped.
 #include "forms/calc/report_data.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tabs, the report file and its two buttons, the description pages.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Saving the report: HTML or PDF by the path's suffix, failures, and what the report shows when nothing was
 // calculated.
 #include <gmock/gmock.h>

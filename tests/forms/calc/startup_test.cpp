@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Start, clock, links, dialogs' buttons and the end of the program.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Surface infiltration, computed live, and what happens while no type is chosen.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The choice of the infiltration type: groups, list, panels, guards, options, sub-panels.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Arithmetic that fails: reported as a run-time error, the event ends there, the program goes on.
 /// What was stored and shown before the error stays; no field ever shows "inf" or "nan".
 #include "forms/design/design_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The hands of the user.
 /// Events enter the program where those of a window do.
 #include "forms/design/design_fixture.h"

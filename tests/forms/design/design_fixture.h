@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A running program without a window and the hands of its user, for the tests of the designs.
 /// Whatever a user could not reach (hidden, disabled, on another tab) the hands refuse to touch.
 #pragma once

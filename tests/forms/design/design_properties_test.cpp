@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Whole designs of random sites, typed into the forms, against the reference written from the procedures.
 /// Every result text, every message and every reported error must agree.
 #include "forms/design/design_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The design rain that the designs find: the critical row overwrites the picked one.
 /// Ties, tables that give nothing, and rows that only some searches take.
 #include "forms/design/design_fixture.h"

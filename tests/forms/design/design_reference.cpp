@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The reference designs.
 /// Straight from the procedures, step by step; nothing of the program's own formulas is used.
 #include "forms/design/design_reference.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The procedures of the six types written down once more, for whole designs: extended precision, a rounding
 /// to Single at each store, the detour through the fields that read themselves back.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The sub-panels of overflow and drain: opening, confirming, refusing, re-opening.
 /// The two pages decide by different tests whether a confirmation is accepted.
 #include "forms/design/design_fixture.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Expected numbers of the design tests, worked out apart from the program.
 
 The procedures are written down once more here, in double precision with a rounding to Single at each store, and

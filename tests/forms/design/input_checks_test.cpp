@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The checks of the calculate command: every text, their order, one box for all.
 /// Nothing is calculated while one fails; what was shown stays.
 #include "forms/design/design_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Drawing of the sites.
 /// Numbers have few digits, as those that people type.
 #include "forms/design/random_site.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Random sites for the comparison of whole designs: mostly sensible, now and then 0, negative or absurd.
 /// A site holds what a user types; the numbers are Singles whose general text is typed.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a change of a common input does to results that are on screen.
 /// The group choice runs again: decentralised types go back to the prompt, the tank is shown again.
 #include "forms/design/design_fixture.h"

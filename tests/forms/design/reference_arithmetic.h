@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Arithmetic of the reference designs: extended precision, a rounding to Single at each store, and the
 /// faults that the program reports.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The shaft's shape, catalogue and dimension boxes, and the two diameters that follow from them.
 /// Numbers: see expected.py.
 #include "forms/design/design_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Shafts: water level, area, depths, then volume, filter and the checks that stop.
 /// Numbers: see expected.py.
 #include "forms/design/design_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Surface infiltration: computed while the inputs change, nothing to press.
 /// Numbers: see expected.py.
 #include "forms/design/design_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Swales: area from the soil option, storage volume, depth and emptying time, all while the inputs change.
 /// Numbers: see expected.py.
 #include "forms/design/design_fixture.h"

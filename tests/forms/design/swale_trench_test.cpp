@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Combined object of swale and trench: area while the inputs change, the rest by the calculate command.
 /// Numbers: see expected.py.
 #include "forms/design/design_fixture.h"

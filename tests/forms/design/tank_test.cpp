@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Infiltration tanks: required storage against the volume of the shape, then the proof of the flow.
 /// Numbers: see expected.py.
 #include "forms/design/design_fixture.h"

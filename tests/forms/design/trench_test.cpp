@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Trench with and without drain: length, volume, then the infiltration area, then the drain's verdict.
 /// Numbers: see expected.py.
 #include "forms/design/design_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The grid cell editor: opening shows a text, Enter and Escape and losing the focus close it.
 #include "forms/dialogs/cell_editor.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the three dialogs share: the main window is disabled while one is open, however it is closed.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

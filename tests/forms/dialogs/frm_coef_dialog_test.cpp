@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The soil dialog: picking a row, the coefficient that counts from the click on, the two fields at OK.
 #include "forms/dialogs/frm_coef_dialog.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The table of entries in the drained-area dialog: marking, editing in the cell, deleting.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The drained-area dialog: choosing a surface, entering partial areas, OK and Cancel.
 #include "forms/dialogs/frm_dialog.h"
 

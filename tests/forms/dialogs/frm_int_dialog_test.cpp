@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The design-rain dialog: stations and periodicities, own values, the picked row, confirmation, help.
 #include "forms/dialogs/frm_int_dialog.h"
 

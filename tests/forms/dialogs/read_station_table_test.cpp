@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What of a station's table goes where: the substitute field, rows too many and too few, bad values.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When check boxes run their handler: only when the value changes.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What all controls share: names, containers, whether they are on screen and can be reached, observers.
 #include "platform/controls/control.h"
 

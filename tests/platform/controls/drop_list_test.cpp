@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When lists run their handler: at every selection; not when emptied, not for a text they lack.
 #include <gtest/gtest.h>
 

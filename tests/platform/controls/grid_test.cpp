@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The grid: header format, cells and marks, and the order of cell change and click.
 #include "platform/controls/grid.h"
 

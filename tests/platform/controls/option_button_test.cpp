@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When option buttons run their handlers: at every selection, never at a deselection.
 #include <gtest/gtest.h>
 

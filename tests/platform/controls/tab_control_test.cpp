@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tab control: its handler gets the previous tab, by the user and by code, also nested.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When text boxes run their change handler, and what a user's text may consist of.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Appending writes what general() gives, and leaves what was there.
 #include "platform/numbers/append_number.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the checked arithmetic and of the run-time errors that it raises.
 #include "platform/numbers/checked.h"
 

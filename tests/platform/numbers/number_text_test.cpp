@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tests of the texts of numbers: strict and lenient reading, fixed, scientific and general texts.
 #include "platform/numbers/number_text.h"
 

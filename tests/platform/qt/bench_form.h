@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// A form and a window for tests of single widgets.
 #pragma once
 

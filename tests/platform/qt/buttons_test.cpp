@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Clicking buttons, options, boxes, links and arrows; states that the program sets.
 #include "platform/qt/buttons.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Pages: A4 with margins, rows that stay whole, page ranges, narrow paper.
 #include "platform/qt/document_pages.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Local pages: character sets, pictures, missing files, links.
 #include "platform/qt/document_view.h"
 

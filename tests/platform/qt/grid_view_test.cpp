@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Grids: what they show, where a click goes, the editor over a cell.
 #include "platform/qt/grid_view.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of fields and pages.
 #include <gtest/gtest.h>
 

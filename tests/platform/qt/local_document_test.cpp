@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// How a document's text is set: sizes as a browser has them.
 #include "platform/qt/local_document.h"
 

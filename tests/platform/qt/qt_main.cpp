@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Main program of tests that need the window system's application object.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Typing into fields, and fields that the program writes.
 #include "platform/qt/text_fields.h"
 

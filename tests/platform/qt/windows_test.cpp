@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Tabs, forms as windows, dialogs over a disabled main window.
 #include <gtest/gtest.h>
 

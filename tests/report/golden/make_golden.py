@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Writes the expected reports of the sample projects, from the report's rules and not by the program.
 
 Each report is the list of its rows as the format describes them: label, value text, key of the closing cell.

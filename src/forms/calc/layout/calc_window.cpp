@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Building of the main window.
 /// Only the first tab is built at the start; everything else when it is first shown.
 #include "forms/calc/layout/calc_window.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The main window: the tab control with its four tabs, and the windows of the three dialogs.
 #pragma once
 

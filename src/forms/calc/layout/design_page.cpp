@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of the design tab.
 /// All panels share one place; the form shows one of them at a time.
 #include "forms/calc/layout/design_page.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The tab "Výpočet": the choice of the type and the six result panels.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of the two tabs that show documents.
 #include "forms/calc/layout/documents_pages.h"
 

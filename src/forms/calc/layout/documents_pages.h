@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The tabs "Popis technologie" and "Výsledky": the two browser views and the report's buttons.
 #pragma once
 

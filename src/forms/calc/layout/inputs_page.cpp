@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of the inputs tab: the form on the left, the guide on the right.
 /// The captions stand as they have always stood, slips of the pen included.
 #include "forms/calc/layout/inputs_page.h"

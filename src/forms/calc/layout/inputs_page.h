@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The tab "Základní informace": project, hydraulic inputs, selection guide, clock, links.
 #pragma once
 

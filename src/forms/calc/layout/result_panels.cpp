@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The panels of surface infiltration, swales, the combined object and trenches, and what all panels share.
 #include "forms/calc/layout/result_panels.h"
 

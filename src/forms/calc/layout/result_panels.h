@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The six result panels: inputs on the left, results on the right, the calculation's button below.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Drawing of the selection guide.
 /// The regions' places are those of planning practice; all texts keep their size and always fit.
 #include "forms/calc/layout/selection_guide.h"

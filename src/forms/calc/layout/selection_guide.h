@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The chart that helps to choose an infiltration system, by the subsoil's capacity and the area at hand.
 /// It is drawn, not stored: sharp at any scale, in the colours of the desktop.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The panels of shaft infiltration and of infiltration tanks.
 #include <QHBoxLayout>
 

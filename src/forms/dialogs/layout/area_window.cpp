@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of the drained-area dialog.
 #include <QHBoxLayout>
 #include <QLabel>

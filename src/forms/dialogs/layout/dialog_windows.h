@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The windows of the three input dialogs.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of the rain dialog.
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Setting out of the soil dialog.
 #include <QHBoxLayout>
 #include <QVBoxLayout>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 package mero.rain;
 
 import java.io.IOException;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 package mero.rain;
 
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 package mero.rain;
 
 import com.healthmarketscience.jackcess.Column;
