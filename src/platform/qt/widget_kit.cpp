@@ -101,9 +101,4 @@ void later(QObject& object, std::function<void()> action) {
     timer->start(0);
 }
 
-void describe(QWidget& widget, const QString& caption, const QString& unit) {
-    widget.setAccessibleName(unit.isEmpty() ? caption
-                                            : caption + QLatin1String(" [") + unit + QLatin1Char(']'));
-}
-
 }  // namespace mero::qt

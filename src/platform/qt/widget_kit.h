@@ -10,6 +10,7 @@
 #include <unordered_map>
 
 #include "platform/controls/control.h"
+#include "platform/qt/spoken.h"
 
 namespace mero::qt {
 
@@ -49,8 +50,5 @@ void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::
 
 /// Calls `action` once, after the running event, if the object still lives then.
 void later(QObject& object, std::function<void()> action);
-
-/// Names the widget for assistive technology: caption and unit.
-void describe(QWidget& widget, const QString& caption, const QString& unit = {});
 
 }  // namespace mero::qt

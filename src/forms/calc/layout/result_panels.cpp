@@ -138,6 +138,7 @@ void addSafetyFactor(frmCalcControls& form, int type, FieldGrid& inputs) {
 QWidget& buildOptions(qt::WidgetKit& kit, const platform::ControlArray<platform::OptionButton>& options,
                       QWidget& parent) {
     QWidget& row = qt::makeRow(parent);
+    qt::speakAs(row, QAccessible::Grouping);
     options.forEach([&](int, platform::OptionButton& option) {
         row.layout()->addWidget(&qt::makeOption(kit, option, row));
     });
