@@ -93,6 +93,7 @@ class Mero {
           window_(kit_, program_.window(),
                   {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}) {
         real_desk_.setMainWindow(&window_);
+        real_desk_.message_closed = [this](const std::string& text) { window_.returnToField(text); };
         program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
     }
 

@@ -53,6 +53,9 @@ void QtDesk::showMessage(const platform::Message& message) {
     box.setTextFormat(Qt::PlainText);
     if (sitter_ == Sitter::Person) {
         box.exec();
+        if (message_closed) {
+            message_closed(message.text);
+        }
         return;
     }
     box.setWindowModality(Qt::ApplicationModal);

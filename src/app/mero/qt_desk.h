@@ -4,6 +4,8 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <functional>
+#include <string>
 
 #include "platform/desk.h"
 #include "platform/qt/local_document.h"
@@ -21,6 +23,9 @@ class QtDesk : public platform::Desk {
 
     /// The window over which boxes show while no other window of the program is active.
     void setMainWindow(QWidget* window) { main_window_ = window; }
+
+    /// Called after a person has closed a message box.
+    std::function<void(const std::string& text)> message_closed;
 
     void showMessage(const platform::Message& message) override;
     void reportError(const RuntimeError& error) override;

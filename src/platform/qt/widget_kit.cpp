@@ -5,6 +5,8 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QLineEdit>
+#include <QScrollArea>
 #include <QTimer>
 #include <utility>
 
@@ -88,6 +90,18 @@ void bindCommon(WidgetKit& kit, platform::Control& control, QWidget& widget) {
 void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost) {
     if (kit.runsFocusHandlers()) {
         widget.installEventFilter(new FocusFilter(kit, widget, std::move(got), std::move(lost)));
+    }
+}
+
+void leadTo(QWidget& widget) {
+    for (QWidget* holder = widget.parentWidget(); holder != nullptr; holder = holder->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(holder)) {
+            area->ensureWidgetVisible(&widget);
+        }
+    }
+    widget.setFocus(Qt::ActiveWindowFocusReason);
+    if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
+        line->selectAll();
     }
 }
 
