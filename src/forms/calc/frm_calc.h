@@ -6,8 +6,6 @@
 #include <cstdint>
 #include <string>
 
-#include "calc/shaft.h"
-#include "calc/trench_section.h"
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
 #include "forms/calc/frm_calc_controls.h"
@@ -128,8 +126,6 @@ class frmCalc : public frmCalcControls {
     void designTank();
     void showStorageCoefficient();
 
-    [[nodiscard]] calc::shaft::Balance shaftBalance() const;
-    [[nodiscard]] calc::TrenchSection trenchSection() const;
     /// Index of the selected soil option, -1 when none is.
     [[nodiscard]] static int soilOption(const ControlArray<OptionButton>& options);
     void fillShaftList();

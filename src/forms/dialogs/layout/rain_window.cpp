@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
+#include "forms/dialogs/layout/rain_curve_view.h"
 #include "platform/qt/buttons.h"
 #include "platform/qt/cell_editor_box.h"
 #include "platform/qt/drop_list_box.h"
@@ -65,6 +66,7 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     qt::describe(table, QStringLiteral("Intenzity trvání deště"));
     qt::makeCellEditor(kit(), form_->txtSChange, table, form_->fgIntDeste);
     column->addWidget(&table, 1);
+    column->addWidget(&makeRainCurve(*form_, side));
 
     auto* foot = new QHBoxLayout;
     foot->addStretch(1);
