@@ -20,6 +20,7 @@
 #include "app/mero/qt_desk.h"
 #include "app/mero/qt_user.h"
 #include "app/mero/script_feed.h"
+#include "app/mero/window_icon.h"
 #include "automation/script_runner.h"
 #include "automation/trace_desk.h"
 #include "data/rain_database.h"
@@ -178,6 +179,7 @@ int main(int argc, char** argv) {
         if (options.palette != app::Palette::System) {
             qt::usePalette(options.palette == app::Palette::Dark ? qt::darkPalette() : qt::lightPalette());
         }
+        app::wearIcon();
         QTranslator translator;
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);
