@@ -61,7 +61,10 @@ bool saveCopy(const std::string& report_path, const std::string& program_folder,
     if (!bytes) {
         return false;
     }
-    std::string html = fromWindows1250(*bytes);
+    return saveCopyOf(fromWindows1250(*bytes), program_folder, target_path);
+}
+
+bool saveCopyOf(std::string html, const std::string& program_folder, const std::string& target_path) {
     if (html.starts_with(kDocumentStart)) {
         html.insert(kDocumentStart.size(), kHead);
     }

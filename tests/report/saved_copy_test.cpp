@@ -65,6 +65,17 @@ TEST_F(SavedCopy, IsNotMadeOfAMissingReportOrAFolder) {
     EXPECT_TRUE(fs::is_empty(elsewhere.path()));
 }
 
+TEST_F(SavedCopy, OfAReportAtHandNeedsNoFile) {
+    const std::string expected = copy();
+    const std::string html = htmlReport(test::sampleProject(2));
+    fs::remove(program.file("Mero_Test"));
+    EXPECT_TRUE(saveCopyOf(html, program.path(), elsewhere.file("kopie.html")));
+    EXPECT_EQ(elsewhere.read("kopie.html"), expected);
+    fs::remove_all(program.path());
+    EXPECT_TRUE(saveCopyOf(html, program.path(), elsewhere.file("kopie.html")));
+    EXPECT_THAT(elsewhere.read("kopie.html"), HasSubstr("Návrhový déšť"));
+}
+
 TEST(PdfPath, IsToldByItsSuffix) {
     for (const char* path : {"a.pdf", "/x/zpráva.PDF", "x.Pdf", "a.html.pdf"}) {
         EXPECT_TRUE(isPdfPath(path)) << path;
