@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "report/whole_file.h"
+
 namespace mero::app {
 namespace {
 
@@ -31,11 +33,24 @@ fs::path userDataFolder() {
     return fs::path(home != nullptr ? home : "/") / ".local/share/mero";
 }
 
-/// Copies what is missing; what the user replaced by his own stays.
+/// Copies what is missing; what the user replaced by his own stays. A file appears whole: what a full disk or
+/// a program that starts at the same moment left half done would count as the user's own for ever.
 void fillWithMissing(const fs::path& folder, const fs::path& installed) {
-    std::error_code ignored;
-    fs::create_directories(folder, ignored);
-    fs::copy(installed, folder, fs::copy_options::recursive | fs::copy_options::skip_existing, ignored);
+    std::error_code failure;
+    fs::create_directories(folder, failure);
+    for (fs::recursive_directory_iterator entry(installed, failure), end; !failure && entry != end;
+         entry.increment(failure)) {
+        std::error_code ignored;
+        const fs::path target = folder / entry->path().lexically_relative(installed);
+        if (entry->is_directory(ignored)) {
+            fs::create_directory(target, ignored);
+        } else if (!fs::exists(target, ignored)) {
+            static_cast<void>(report::replaceWhole(target.string(), [&](const std::string& fresh_path) {
+                return fs::copy_file(entry->path(), fresh_path, fs::copy_options::overwrite_existing,
+                                     ignored);
+            }));
+        }
+    }
 }
 
 }  // namespace
@@ -55,6 +70,15 @@ std::string defaultProgramFolder() {
     const fs::path folder = userDataFolder();
     fillWithMissing(folder, beside / kInstalledData);
     return folder.string();
+}
+
+bool folderExists(const std::string& folder) {
+    std::error_code failure;
+    return fs::is_directory(folder, failure);
+}
+
+std::string folderMissing(const std::string& folder) {
+    return "the program's folder " + folder + " cannot be made: there is no rain database and no report";
 }
 
 std::string rainReaderProgram() {
