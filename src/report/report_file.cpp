@@ -12,6 +12,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <string>
+#include <system_error>
 
 #include "report/code_page.h"
 #include "report/whole_file.h"
@@ -120,13 +122,12 @@ WriteResult writeReport(const std::string& path, std::string_view html_utf8) {
 }
 
 bool holdsReport(const std::string& path, std::string_view html_utf8) {
-    std::ifstream file(path, std::ios::binary);
-    std::string bytes;
-    try {
-        bytes.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-    } catch (const std::exception&) {  // a folder opens, but reading it throws
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(path, failure)) {  // a pipe would keep us waiting
         return false;
     }
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     return file.is_open() && !file.bad() && bytes == toWindows1250(html_utf8);
 }
 

@@ -158,6 +158,7 @@ TEST_F(ReportFile, LeavesNoHalfReportWhenTheDiskIsFull) {
 TEST_F(ReportFile, DoesNotWaitForAPipeThatNobodyReads) {
     ASSERT_EQ(mkfifo(path("roura").c_str(), 0600), 0);
     EXPECT_EQ(writeReport(path("roura"), "x"), WriteResult::Failed);
+    EXPECT_FALSE(holdsReport(path("roura"), ""));
     EXPECT_TRUE(fs::is_fifo(path("roura")));
 }
 
