@@ -36,8 +36,9 @@ fs::path userDataFolder() {
     return fs::path(home != nullptr ? home : "/") / ".local/share/mero";
 }
 
-/// Copies a file that is missing, whole or not at all. The copy is the user's to replace, whatever the
-/// original's permissions are.
+/// Copies a file that is missing, whole or not at all: what a full disk or a program that starts at the same
+/// moment left half done would count as the user's own for ever. The copy is the user's to replace, whatever
+/// the original's permissions are.
 void fillFile(const fs::path& file, const fs::path& original) {
     std::error_code failure;
     if (fs::exists(file, failure)) {
@@ -87,6 +88,15 @@ std::string defaultProgramFolder() {
     // An unpacked archive that nobody here may write has its data beside the programs.
     fillWithMissing(folder, own_folder ? beside : beside / kInstalledData);
     return folder.string();
+}
+
+bool folderExists(const std::string& folder) {
+    std::error_code failure;
+    return fs::is_directory(folder, failure);
+}
+
+std::string folderMissing(const std::string& folder) {
+    return "the program's folder " + folder + " cannot be made: there is no rain database and no report";
 }
 
 std::string rainReaderProgram() {

@@ -16,6 +16,11 @@ namespace mero::app {
 /// and `Webs`: from the installed data, or from beside the executable where that folder cannot be written. What cannot be made or copied is left out; the program then tells of the missing file.
 [[nodiscard]] std::string defaultProgramFolder();
 
+/// Whether the folder is there. The user's own folder is not when it could not be made.
+[[nodiscard]] bool folderExists(const std::string& folder);
+/// What to say of a missing one on error output.
+[[nodiscard]] std::string folderMissing(const std::string& folder);
+
 /// Path of the rain reader: beside the executable, or in ../libexec/mero of an installed copy.
 [[nodiscard]] std::string rainReaderProgram();
 

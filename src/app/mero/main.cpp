@@ -16,6 +16,7 @@
 
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
+#include "app/common/standard_streams.h"
 #include "app/mero/pdf_file.h"
 #include "app/mero/qt_desk.h"
 #include "app/mero/qt_user.h"
@@ -103,6 +104,7 @@ class Mero {
         if (program_.ended()) {
             return program_.exitStatus();
         }
+        tellOfMissingFolder();
         return scripted_ ? runScript() : runForPerson();
     }
 
@@ -110,6 +112,22 @@ class Mero {
     platform::Desk& desk() {
         return scripted_ ? static_cast<platform::Desk&>(trace_desk_)
                          : static_cast<platform::Desk&>(real_desk_);
+    }
+
+    /// Before somebody works for an hour and then sees no report.
+    void tellOfMissingFolder() {
+        if (app::folderExists(folder_)) {
+            return;
+        }
+        std::cerr << "mero: " << app::folderMissing(folder_) << '\n';
+        if (!scripted_) {
+            qt::later(window_, [this] {
+                real_desk_.showMessage({"Složku programu „" + folder_ +
+                                            "“ nelze vytvořit. Bez ní chybí databáze dešťů a výsledky se "
+                                            "nezobrazí.",
+                                        platform::MessageIcon::Exclamation});
+            });
+        }
     }
 
     int runForPerson() {
@@ -126,7 +144,8 @@ class Mero {
         app::ScriptFeed feed(runner, [](int exit_status) { QApplication::exit(exit_status); });
         qt::later(feed,
                   [this, &feed] { script_name_ == "-" ? feed.feedStandardInput() : feed.feedAll(script_); });
-        return QApplication::exec();
+        const int status = QApplication::exec();
+        return std::cout ? status : app::traceFailed("mero");
     }
 
     bool scripted_;
@@ -155,6 +174,7 @@ int exportPdf(int& argc, char** argv, const std::string& report, const std::stri
 
 int main(int argc, char** argv) {
     try {
+        app::holdStandardStreams();
         const std::vector<std::string_view> arguments(argv + 1, argv + argc);
         // All arguments are the program's own; the window system gets none of them.
         int window_system_arguments = 1;

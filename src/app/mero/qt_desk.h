@@ -41,10 +41,12 @@ class QtDesk : public platform::Desk {
 
   private:
     [[nodiscard]] QWidget* window() const;
+    void tellOfNoBrowser(const std::string& address);
 
     Sitter sitter_;
     qt::Decoder decode_;
     QPointer<QWidget> main_window_;
+    QObject while_there_;  ///< what was started may end when this desk is gone
 };
 
 }  // namespace mero::app
