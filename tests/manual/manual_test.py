@@ -18,7 +18,7 @@ from pathlib import Path
 
 from captions import Person, script_of
 from manual_text import MANUAL, ROOT, Example, Message, Result, commands, examples, input_tables
-from program_texts import caption_texts, code_table, message_texts
+from program_texts import caption_texts, code_table, message_texts, sentences
 
 sys.path.insert(0, str(ROOT / "tests" / "forms" / "design"))
 import expected  # noqa: E402
@@ -47,8 +47,8 @@ class Folder:
 def trace_of(script: list[str]) -> list[dict]:
     with Folder() as folder:
         run = subprocess.run([program, "run", "--folder", str(folder), "--clock", "2026-11-20T14:05:09", "-"],
-                             input="\n".join(script) + "\n", capture_output=True, text=True, check=False,
-                             timeout=TIME_LIMIT_S)
+                             input="\n".join(script) + "\n", capture_output=True, encoding="utf-8",
+                             check=False, timeout=TIME_LIMIT_S)
     if run.returncode != 0:
         raise AssertionError(f"exit status {run.returncode}: {run.stderr}")
     return [json.loads(line) for line in run.stdout.splitlines()]
@@ -193,7 +193,7 @@ class Inputs(unittest.TestCase):
 
 class Messages(unittest.TestCase):
     def test_each_stands_in_the_manual_word_for_word(self):
-        missing = [f"{file}: {text!r}" for file, text in message_texts() if text not in TEXT]
+        missing = [f"{file}: {text!r}" for file, text in message_texts() + sentences() if text not in TEXT]
         self.assertEqual(missing, [])
 
     def test_the_list_is_not_empty(self):
@@ -218,7 +218,7 @@ class Commands(unittest.TestCase):
                 (folder / "examples").symlink_to(ROOT / "examples")
                 programs = {**os.environ, "PATH": f"{Path(program).parent}:{os.environ['PATH']}"}
                 run = subprocess.run(command.arguments, shell=True, cwd=folder, env=programs, capture_output=True,
-                                     text=True, check=False, timeout=TIME_LIMIT_S)
+                                     encoding="utf-8", check=False, timeout=TIME_LIMIT_S)
                 self.assertEqual(run.returncode, 0, run.stderr)
                 shown = (run.stdout + run.stderr).rstrip("\n").split("\n")
                 wanted = "\n".join(command.output)
