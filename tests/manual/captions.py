@@ -111,19 +111,28 @@ class Person:
     def __init__(self) -> None:
         self.dialog = ""
         self.type_number = 0
+        self.tab = 0
 
     def control(self, caption: str) -> str:
+        """The field of a caption, wherever it is. KeyError when no field is called so."""
         found = SITE.get(caption) or PANEL.get(caption) or LISTS.get(caption)
         if found is None:
             raise KeyError(f"no field is called {caption}")
         return found.replace("#", str(self.type_number))
+
+    def seen(self, caption: str) -> str:
+        """The field of a caption that is on the screen now."""
+        control = self.control(caption)
+        if caption not in LISTS and (self.dialog or self.tab != (0 if caption in SITE else 1)):
+            raise KeyError(f"{caption} is not on the screen here")
+        return control
 
     def script(self, step: Action | Result | Message) -> list[str]:
         """The script lines of a step. KeyError for a caption that the window does not have."""
         if isinstance(step, Message):
             return []
         if isinstance(step, Result):
-            return [f"get {self.control(step.caption)}"]
+            return [f"get {self.seen(step.caption)}"]
         if step.value is None:
             return self.press(step.caption)
         if step.caption == "Typ vsakování":
@@ -134,14 +143,15 @@ class Person:
         if step.caption in ("Dílčí plocha", "Součinitel odtoku"):
             box = {"Dílčí plocha": "txtPlocha", "Součinitel odtoku": "txtSoucinitel"}[step.caption]
             return [f'type frmDialog.{box} "{step.value}"']
-        control = self.control(step.caption)
+        control = self.seen(step.caption)
         if control.startswith(FILTRATION):
             return [f'set {control} ""', f'type {control} "{step.value}"', f"leave {control}"]
         return [f'set {control} "{step.value}"']
 
     def press(self, caption: str) -> list[str]:
         if caption.startswith(TAB):
-            return [f"tab {TABS.index(caption.removeprefix(TAB))}"]
+            self.tab = TABS.index(caption.removeprefix(TAB))
+            return [f"tab {self.tab}"]
         for prefix, grid, column, rows in (
                 (RAINS, "frmIntDialog.fgIntDeste", 2, [f"{t} min" for t in DURATIONS]),
                 (SURFACES, "frmDialog.fgSoucPovrchOdtok", 3, reference_rows("surfaces.csv", "description")),

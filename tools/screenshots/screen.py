@@ -75,16 +75,23 @@ class Screen:
 
 
 class Program:
-    """mero on a screen, in a folder of its own, worked by script lines."""
+    """mero on a screen, in a folder of its own, worked by script lines or by a person."""
 
-    def __init__(self, screen: Screen, program: Path, look: Look) -> None:
+    @classmethod
+    def for_person(cls, screen: Screen, program: Path, look: Look) -> "Program":
+        return cls(screen, program, look, scripted=False)
+
+    def __init__(self, screen: Screen, program: Path, look: Look, scripted: bool = True) -> None:
+        self.scripted = scripted
         self.work = tempfile.TemporaryDirectory()
         folder = Path(self.work.name) / "mero"
         folder.mkdir()
         shutil.copy(ROOT / "data" / "mero.mdb", folder)
         shutil.copytree(ROOT / "Webs", folder / "Webs")
         environment = {**screen.environment, "QT_SCALE_FACTOR": str(look.scale_percent / 100)}
-        arguments = [str(program), "--folder", str(folder), "--clock", CLOCK, "--script", "-"]
+        arguments = [str(program), "--folder", str(folder), "--clock", CLOCK]
+        if scripted:
+            arguments += ["--script", "-"]
         if look.palette != "light" or knows_palettes(program):
             arguments += ["--palette", look.palette]
         self.process = subprocess.Popen(arguments, env=environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
@@ -92,11 +99,14 @@ class Program:
         self.steps = 0
 
     def __enter__(self) -> "Program":
-        self.perform([])
+        if self.scripted:
+            self.perform([])
         return self
 
     def __exit__(self, *_) -> None:
         self.process.stdin.close()
+        if not self.scripted:
+            self.process.terminate()
         try:
             self.process.wait(START_LIMIT_S)
         except subprocess.TimeoutExpired:
