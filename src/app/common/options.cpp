@@ -72,6 +72,13 @@ platform::DateTime moment(std::string_view value) {
     return *parsed;
 }
 
+Palette palette(std::string_view value) {
+    if (value != "light" && value != "dark") {
+        throw UsageError("neither light nor dark: " + std::string(value));
+    }
+    return value == "light" ? Palette::Light : Palette::Dark;
+}
+
 }  // namespace
 
 RunOptions parseRunOptions(std::span<const std::string_view> arguments, ScriptArgument script_argument) {
@@ -85,6 +92,8 @@ RunOptions parseRunOptions(std::span<const std::string_view> arguments, ScriptAr
             options.frozen_moment = moment(rest.takeValue(argument));
         } else if (argument == "--script" && script_argument == ScriptArgument::WithOption) {
             options.script = rest.takeValue(argument);
+        } else if (argument == "--palette" && script_argument == ScriptArgument::WithOption) {
+            options.palette = palette(rest.takeValue(argument));
         } else if (argument == "--help" || argument == "-h") {
             rest.requireNoValue(argument);
             options.help = true;

@@ -27,6 +27,7 @@
 #include "forms/calc/program.h"
 #include "platform/locale_settings.h"
 #include "platform/numbers/numeric_locale.h"
+#include "platform/qt/palettes.h"
 #include "report/view_html.h"
 
 namespace {
@@ -37,13 +38,15 @@ constexpr int kUnusable = 2;
 constexpr int kClockPeriodMs = 1000;
 
 constexpr const char* kHelp =
-    "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--script SCRIPT]\n"
+    "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--palette light|dark] [--script SCRIPT]\n"
     "       mero --export-pdf REPORT FILE\n"
     "\n"
     "Design of stormwater infiltration facilities.\n"
     "\n"
     "  --folder DIR      the program's folder: mero.mdb, Webs, the report file\n"
     "  --clock TIME      freezes date and time\n"
+    "  --palette light|dark\n"
+    "                    the window's colours, whatever the desktop's are\n"
     "  --script SCRIPT   works the window from a script (a UTF-8 file, - for standard input), prints the\n"
     "                    trace, one JSON object per line, and exits when the script ends\n"
     "  --export-pdf REPORT FILE\n"
@@ -171,6 +174,9 @@ int main(int argc, char** argv) {
         }
         QApplication application(window_system_arguments, argv);
         numbers::useNumericCLocale();
+        if (options.palette != app::Palette::System) {
+            qt::usePalette(options.palette == app::Palette::Dark ? qt::darkPalette() : qt::lightPalette());
+        }
         QTranslator translator;
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);

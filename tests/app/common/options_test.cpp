@@ -56,6 +56,17 @@ TEST(Options, TheWindowNamesItsScriptWithAnOption) {
     EXPECT_THROW(parse({"--script", "a.mero"}), UsageError) << "only the window has it";
 }
 
+TEST(Options, OnlyTheWindowHasAPalette) {
+    constexpr auto kWindow = ScriptArgument::WithOption;
+    EXPECT_EQ(parse({}, kWindow).palette, Palette::System);
+    EXPECT_EQ(parse({"--palette", "light"}, kWindow).palette, Palette::Light);
+    EXPECT_EQ(parse({"--palette=dark"}, kWindow).palette, Palette::Dark);
+    EXPECT_THROW(parse({"--palette", "Dark"}, kWindow), UsageError);
+    EXPECT_THROW(parse({"--palette="}, kWindow), UsageError);
+    EXPECT_THROW(parse({"--palette"}, kWindow), UsageError);
+    EXPECT_THROW(parse({"--palette", "dark"}), UsageError);
+}
+
 TEST(Options, StandardInputIsADash) {
     EXPECT_EQ(parse({"-"}).script, "-");
 }
