@@ -24,6 +24,7 @@ from screen import Program, Screen, Look  # noqa: E402
 
 ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
 PATIENCE_S = 6.0
+UNITS = r"m|m²|m³|mm|m/s|m³/s|h|min|l/s|l/\(s\.ha\)|l/s\.ha|cm²/m|1 : n"
 AFTER_CLICK_S = 0.15
 
 
@@ -33,7 +34,8 @@ class NotFound(Exception):
 
 def bare(name: str) -> str:
     """A caption without its colon and its unit: "Výška rýhy [m]", "Počet šachet:"."""
-    return re.sub(r"(\s*\[[^\]]*\]|,\s*\S+)?:?$", "", name.replace("&", "").strip()).strip()
+    name = re.sub(r":$", "", name.replace("&", "").strip())
+    return re.sub(rf"(\s*\[[^\]]*\]|, ({UNITS}))$", "", name).strip()
 
 
 class Eyes:
