@@ -1,0 +1,84 @@
+# SPDX-License-Identifier: MIT
+"""The texts that the program shows, read from its sources: messages and captions.
+
+A message that is put together of parts counts by its parts, so that what varies may be anything.
+"""
+
+import re
+from pathlib import Path
+
+from manual_text import ROOT
+
+SRC = ROOT / "src"
+LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
+ADJACENT = re.compile(r'"\s*\n?\s*"')
+# Files that hold nothing but such texts.
+TABLES = ("design/verdict.cpp", "design/messages.cpp", "platform/numbers/runtime_error.cpp", "data/rain_database.cpp",
+          "app/mero/qt_desk.cpp", "app/mero/save_dialog.cpp", "platform/mod_reg_settings.cpp")
+STATEMENT = re.compile(
+    r"\b(?:message|error|showMessage)\((?:[^;\"]|\"(?:[^\"\\\n]|\\.)*\")*;", re.DOTALL)
+# Captions that stand beside a field, in the order of the arguments: a control, then the caption.
+CAPTION = re.compile(r"\.(?:text|input|result|area|widget)\(\s*(?:[\w.\[\]]+,\s*)?QStringLiteral\(\"([^\"]+)\"\)")
+SHORTEST = 4
+
+
+def without_comments(text: str) -> str:
+    return re.sub(r"//[^\n]*", "", text)
+
+
+def joined(text: str) -> str:
+    """Adjacent literals as one."""
+    return ADJACENT.sub("", text)
+
+
+def is_message(literal: str) -> bool:
+    """A text for people: longer than a joint, with a blank in it, or with a Czech letter."""
+    return len(literal.strip()) >= SHORTEST and (" " in literal.strip() or not literal.isascii())
+
+
+def literals(code: str) -> list[str]:
+    found = []
+    for literal in LITERAL.findall(joined(code)):
+        for part in re.split(r"\\r\\n|\\n|%\d", literal):
+            if is_message(part):
+                found.append(part.strip())
+    return found
+
+
+def message_texts() -> list[tuple[str, str]]:
+    """File and text of each message, run-time error and question."""
+    found = []
+    for file in sorted(SRC.rglob("*.cpp")):
+        name = file.relative_to(SRC).as_posix()
+        code = without_comments(file.read_text(encoding="utf-8"))
+        code = re.sub(r"^#include.*$", "", code, flags=re.MULTILINE)
+        if name in TABLES:
+            code = re.sub(r"static_assert\(.*?\);", "", code, flags=re.DOTALL)
+            found += [(name, text) for text in literals(code)]
+        elif name.startswith(("forms/", "app/mero/")):
+            for statement in STATEMENT.findall(joined(code)):
+                found += [(name, text) for text in literals(statement)]
+    return found
+
+
+def sentences() -> list[tuple[str, str]]:
+    """File and text of each sentence that the window shows elsewhere: notes, warnings, the page for a missing file."""
+    found = []
+    for file in sorted([*SRC.glob("forms/**/*.cpp"), *SRC.glob("platform/qt/*.cpp"), *SRC.glob("app/mero/*.cpp")]):
+        code = without_comments(file.read_text(encoding="utf-8"))
+        for text in literals(re.sub(r"</?\w+>", "\" \"", code)):
+            if not text.isascii() and text.endswith((".", "!")):
+                found.append((file.relative_to(SRC).as_posix(), text))
+    return found
+
+
+def caption_texts() -> list[tuple[str, str]]:
+    """File and text of each caption beside a field, a list or a group of options."""
+    return [(file.relative_to(SRC).as_posix(), caption)
+            for file in sorted(SRC.glob("forms/**/layout/*.cpp"))
+            for caption in CAPTION.findall(file.read_text(encoding="utf-8"))]
+
+
+def code_table() -> list[str]:
+    """The codes of the verdicts, as the commands print them."""
+    return re.findall(r'\{Verdict::\w+, "(\w+)"', Path(SRC / "design" / "verdict.cpp").read_text(encoding="utf-8"))

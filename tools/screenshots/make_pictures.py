@@ -1,0 +1,79 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Makes pictures of the running program.
+
+Use: make_pictures.py [--program MERO]         the pictures of the user manual, into docs/pictures
+     make_pictures.py --all [--program MERO] [--only WORD]
+                                               every tab, panel and dialog, light and dark, 100 and 200 %, on a small
+                                               and a large screen, with contact sheets, into build/screenshots
+The program is build/release/bin/mero unless told otherwise. Needs what `tools/packages.sh screenshots` installs.
+The states are those of the manual's examples, so that the pictures show the numbers that it prints.
+"""
+
+import argparse
+import subprocess
+import sys
+from pathlib import Path
+
+from screen import ROOT, Look, Program, Screen
+from views import MANUAL_PICTURES, VIEWS
+
+COLOURS = 64
+LOOKS = [Look(palette, scale, width, height)
+         for palette in ("light", "dark")
+         for scale in (100, 200)
+         for width, height in ((1024, 768), (1900, 1060))]
+
+
+def shrink(file: Path) -> None:
+    """Few colours are plenty for a window and make small files; no dates, so that the same picture is the same file."""
+    subprocess.run(["convert", str(file), "-strip", "+dither", "-colors", str(COLOURS), "-define",
+                    "png:compression-level=9", "-define", "png:exclude-chunks=date,time", f"PNG8:{file}"], check=True)
+
+
+def take(program: Path, look: Look, views, folder: Path) -> list[Path]:
+    """Walks the views on one screen; a view that begins anew gets a fresh program."""
+    files = []
+    with Screen(look.width, look.height) as screen:
+        for name, steps in views.items():
+            with Program(screen, program, look) as running:
+                for lines, picture in steps:
+                    running.perform(lines)
+                    if picture:
+                        file = folder / f"{picture}.png"
+                        screen.shoot(file)
+                        files.append(file)
+            print(f"{look.name}: {name}", flush=True)
+    return files
+
+
+def contact_sheets(files: list[Path], folder: Path, look: Look) -> None:
+    """Four pictures to a sheet, large enough to be read."""
+    for number in range(0, len(files), 4):
+        subprocess.run(["montage", *map(str, files[number:number + 4]), "-label", "%t", "-tile", "2x2", "-geometry",
+                        "950x715+4+4", "-background", "#808080", str(folder / f"sheet-{look.name}-{number // 4:02}.png")],
+                       check=True)
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--all", action="store_true")
+    parser.add_argument("--only", default="", help="only looks whose name holds this word")
+    parser.add_argument("--program", type=Path, default=ROOT / "build" / "release" / "bin" / "mero")
+    options = parser.parse_args()
+    if not options.program.is_file():
+        print(f"make_pictures: there is no {options.program}; build it, or tell --program", file=sys.stderr)
+        return 2
+    if options.all:
+        folder = ROOT / "build" / "screenshots"
+        for look in (look for look in LOOKS if options.only in look.name):
+            files = take(options.program, look, VIEWS, folder / look.name)
+            contact_sheets(files, folder, look)
+        return 0
+    for file in take(options.program, Look(), MANUAL_PICTURES, ROOT / "docs" / "pictures"):
+        shrink(file)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
