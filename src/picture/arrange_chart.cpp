@@ -168,12 +168,12 @@ class ChartLayout {
         for (const std::size_t i : order) {
             const Emphasis emphasis = chart_->marked == i ? Emphasis::Strong : Emphasis::Plain;
             PlacedText text = centredText(chart_->points[i].label, xOf(i), plot_.bottom + 0.2 * line_,
-                                          inner_.left, inner_.right, *sizes_, emphasis);
+                                          plot_.left, inner_.right, *sizes_, emphasis);
             const double gap = kLabelGap * line_;
             const bool free = std::none_of(taken.begin(), taken.end(), [&](const Box& box) {
                 return text.box.left < box.right + gap && box.left < text.box.right + gap;
             });
-            if (free && text.box.width() <= inner_.width()) {
+            if (free && text.box.width() <= inner_.right - plot_.left) {
                 taken.push_back(text.box);
                 drawing_.texts.push_back(std::move(text));
             }
