@@ -11,6 +11,7 @@ declare -A packages=(
     [check]="libgtest-dev libgmock-dev librapidcheck-dev
              clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev lld-14 ccache
              mdbtools xvfb xauth chromium poppler-utils locales
+             at-spi2-core gir1.2-atspi-2.0 python3-gi dbus-daemon xdotool
              python3 python3-jsonschema mandoc default-jdk-headless maven"
     [bench]="libbenchmark-dev"
 )

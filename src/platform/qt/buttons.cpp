@@ -32,7 +32,9 @@ void showSelected(QRadioButton& radio, bool selected) {
 class LinkLabel : public QLabel {
   public:
     LinkLabel(const QString& text, std::function<void()> clicked, QWidget& parent)
-        : QLabel(text, &parent), clicked_(std::move(clicked)) {
+        : QLabel(&parent), clicked_(std::move(clicked)) {
+        speakAs(*this, QAccessible::Link);
+        setText(text);
         setTextFormat(Qt::PlainText);
         setCursor(Qt::PointingHandCursor);
         setFocusPolicy(Qt::TabFocus);
@@ -42,7 +44,6 @@ class LinkLabel : public QLabel {
         setForegroundRole(QPalette::Link);
         setFrameShape(QFrame::NoFrame);
         setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-        speakAs(*this, QAccessible::Link);
     }
 
   protected:

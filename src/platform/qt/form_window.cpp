@@ -65,6 +65,7 @@ FormWindow::FormWindow(WidgetKit& kit, platform::Form& form, FormWindow* owner)
       kit_(&kit),
       form_(&form),
       owner_(owner) {
+    speakAs(*this, owner == nullptr ? QAccessible::Window : QAccessible::Dialog);
     kit.add(form, *this);
     setObjectName(shown(form.name()));
     setWindowTitle(shown(form.title()));

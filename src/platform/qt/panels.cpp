@@ -25,6 +25,8 @@ QWidget& makePanel(WidgetKit& kit, platform::Panel& panel, QWidget& parent) {
 
 QGroupBox& makeFramedPanel(WidgetKit& kit, platform::Panel& panel, const QString& heading, QWidget& parent) {
     auto& box = *new QGroupBox(heading, &parent);
+    // Without a name of its own it would be called like the group that it lies in.
+    describe(box, heading);
     bindCommon(kit, panel, box);
     return box;
 }
