@@ -2,6 +2,7 @@
 // mero: the program with its window.
 // With --script a script's hands work the same widgets, and the trace goes to standard output.
 #include <QApplication>
+#include <QFontMetrics>
 #include <QLibraryInfo>
 #include <QTimer>
 #include <QTranslator>
@@ -191,6 +192,10 @@ int main(int argc, char** argv) {
         }
         QApplication application(window_system_arguments, argv);
         numbers::useNumericCLocale();
+        if (!QFontMetrics(QApplication::font()).inFont(QLatin1Char('A'))) {
+            std::cerr
+                << "mero: there is no font on this machine: the window shows boxes in place of letters\n";
+        }
         QTranslator translator;
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);
