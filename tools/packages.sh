@@ -10,7 +10,7 @@ declare -A packages=(
     [build]="g++ cmake ninja-build pkg-config qt6-base-dev mdbtools-dev nlohmann-json3-dev"
     [check]="libgtest-dev libgmock-dev librapidcheck-dev
              clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev lld-14 ccache
-             mdbtools xvfb xauth chromium poppler-utils locales
+             mdbtools xvfb xauth xdotool chromium poppler-utils locales
              python3 python3-jsonschema mandoc default-jdk-headless maven"
     [bench]="libbenchmark-dev"
 )
