@@ -53,8 +53,9 @@ constexpr const char* kHelp =
     "  --help            this text\n"
     "  --version         the version\n"
     "\n"
-    "Exit status: 0 ordinary end, 1 a run-time error ended the program or the PDF file was not made, 2 "
-    "unusable script or arguments.\n";
+    "Exit status: 0 ordinary end, 1 a run-time error ended the program, the trace could not be written or "
+    "the PDF\n"
+    "file was not made, 2 unusable script or arguments.\n";
 
 std::string readScript(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
