@@ -83,12 +83,14 @@ class NoPermission(FaultTest):
         closed.chmod(0o555)
         folder.chmod(0o555)
         events = self.run_script(front, [*REPORT, f'answer-save "{closed}/a.html"', "click cmdSaveResults",
-                                         f'answer-save "{closed}/old.html"', "click cmdSaveResults"],
+                                         f'answer-save "{closed}/old.html"', "click cmdSaveResults",
+                                         f'answer-save "{closed}/a.pdf"', "click cmdSaveResults"],
                                  folder, **ordinary_user())
         self.assertEqual(messages(events), [
             "Soubor Mero_ je otevřený jinou aplikací.",
             f"Zprávu se nepodařilo uložit do souboru {closed}/a.html.",
-            f"Zprávu se nepodařilo uložit do souboru {closed}/old.html."])
+            f"Zprávu se nepodařilo uložit do souboru {closed}/old.html.",
+            f"Zprávu se nepodařilo uložit do souboru {closed}/a.pdf."])
         self.assertEqual((closed / "old.html").read_text(), "old")
         self.assertEqual([path.name for path in closed.iterdir()], ["old.html"])
 
@@ -154,6 +156,19 @@ class FullDisk(FaultTest):
             original = self.scratch / "usr/share" / name
             self.assertEqual(size, original.stat().st_size, name)
         self.assertGreater(len(left), 0, "what there is room for comes")
+
+    @on_each_front
+    def test_the_next_start_brings_what_there_was_no_room_for(self, front):
+        programs = self.installed()
+        script = self.scratch / "s.mero"
+        script.write_text("tab 0\n")
+        variables = environment(XDG_DATA_HOME=str(self.scratch / "home"))
+        database = self.scratch / "home/mero/mero.mdb"
+        start = command(front, str(script), programs=programs)
+        self.run_command(start, env=variables, preexec_fn=no_more_than(DATABASE_BYTES // 2))
+        self.assertFalse(database.exists())
+        self.run_command(start, env=variables)
+        self.assertEqual(database.read_bytes(), (ROOT / "data/mero.mdb").read_bytes())
 
     @on_each_front
     def test_the_report_is_whole_or_not_there_and_the_copy_is_told(self, front):

@@ -2,6 +2,7 @@
 // mero: the program with its window.
 // With --script a script's hands work the same widgets, and the trace goes to standard output.
 #include <QApplication>
+#include <QFontMetrics>
 #include <QLibraryInfo>
 #include <QTimer>
 #include <QTranslator>
@@ -56,8 +57,9 @@ constexpr const char* kHelp =
     "  --help            this text\n"
     "  --version         the version\n"
     "\n"
-    "Exit status: 0 ordinary end, 1 a run-time error ended the program or the PDF file was not made, 2 "
-    "unusable script or arguments.\n";
+    "Exit status: 0 ordinary end, 1 a run-time error ended the program, the trace could not be written or "
+    "the PDF\n"
+    "file was not made, 2 unusable script or arguments.\n";
 
 std::string readScript(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -200,6 +202,10 @@ int main(int argc, char** argv) {
             qt::usePalette(options.palette == app::Palette::Dark ? qt::darkPalette() : qt::lightPalette());
         }
         app::wearIcon();
+        if (!QFontMetrics(QApplication::font()).inFont(QLatin1Char('A'))) {
+            std::cerr
+                << "mero: there is no font on this machine: the window shows boxes in place of letters\n";
+        }
         QTranslator translator;
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);
