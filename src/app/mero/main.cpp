@@ -62,12 +62,14 @@ constexpr const char* kHelp =
     "file was not made, 2 unusable script or arguments.\n";
 
 std::string readScript(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::string script{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (!file.is_open() || file.bad() || (file.fail() && !file.eof())) {
+    try {
+        std::ifstream file;
+        file.exceptions(std::ios::badbit | std::ios::failbit);
+        file.open(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    } catch (const std::ios_base::failure&) {  // no such file, no permission, a folder
         throw app::UsageError("cannot read the script " + path);
     }
-    return script;
 }
 
 /// The window system's own texts (context menus, file dialogs) in the program's language, where installed.
