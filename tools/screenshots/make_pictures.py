@@ -51,7 +51,7 @@ def contact_sheets(files: list[Path], folder: Path, look: Look) -> None:
     """Four pictures to a sheet, large enough to be read."""
     for number in range(0, len(files), 4):
         subprocess.run(["montage", *map(str, files[number:number + 4]), "-label", "%t", "-tile", "2x2", "-geometry",
-                        "950x715+4+4", "-background", "#808080", str(folder / f"sheet-{look.name}-{number // 4:02}.png")],
+                        "950x715>+4+4", "-background", "#808080", str(folder / f"sheet-{look.name}-{number // 4:02}.png")],
                        check=True)
 
 
