@@ -23,6 +23,11 @@ struct CriticalRain {
 /// volumes take all nine (a row of duration 0 gives volume 0).
 enum class Rows { All, PositiveDuration };
 
+template <Rows rows>
+[[nodiscard]] constexpr bool takesPart(const Rain& rain) {
+    return rows == Rows::All || rain.duration_min > 0.0F;
+}
+
 /// Runs through the table in its order. The maximum starts at 0 and only a strictly greater value replaces
 /// it, so of equal rows the earliest is the critical one.
 /// @param quantity called with each row that takes part, gives the row's value
@@ -32,10 +37,8 @@ template <Rows rows, std::invocable<const Rain&> Quantity>
     double maximum = 0.0;
     const Rain* critical = nullptr;
     for (const Rain& rain : table) {
-        if constexpr (rows == Rows::PositiveDuration) {
-            if (!(rain.duration_min > 0.0F)) {
-                continue;
-            }
+        if (!takesPart<rows>(rain)) {
+            continue;
         }
         const double value = quantity(rain);
         if (value > maximum) {

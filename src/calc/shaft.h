@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "calc/critical_rain.h"
+#include "calc/per_rain.h"
 #include "platform/numbers/checked.h"
 
 namespace mero::calc::shaft {
@@ -31,14 +31,13 @@ struct Balance {
     Shafts shafts;
 };
 
-/// Rise of the water in the shafts under the critical rain: inflow less what soaks away through the outer
+/// Rise of the water in the shafts that a rain brings [m]: inflow less what soaks away through the outer
 /// cross-section at half the saturated conductivity, divided by what one metre of rise takes (the inner
 /// cross-section filled over the time of the balance, and the wetted wall). The program's rule multiplies
 /// the diameter by the number of shafts before squaring it, so n shafts act as one of n times the diameter.
-/// Rows without a positive duration are left out.
-/// @return rise [m] and the critical rain; 0 and none when the soil keeps up with every rain
-/// @throws RuntimeError DivisionByZero when the safety factor or what one metre of rise takes is 0, Overflow
-[[nodiscard]] inline CriticalRain waterLevel(const Balance& balance, RainTable rains) {
+/// Rows without a positive duration are left out. Its formula throws RuntimeError DivisionByZero when the
+/// safety factor or what one metre of rise takes is 0, Overflow.
+[[nodiscard]] inline auto levelPerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double filtration = balance.filtration_m_s;
     const double safety_factor = balance.safety_factor;
@@ -49,7 +48,7 @@ struct Balance {
     const double soaked_m3_s = kPi * (outer * outer) / 4.0 * (filtration / 2.0);
     const double four_sections_m2 = kPi * (inner * inner);
     const double soaked_by_wall_m2_s = outer * kPi * filtration / 4.0;
-    return findCriticalRain<Rows::PositiveDuration>(rains, [=](const Rain& rain) {
+    return perRain<Rows::PositiveDuration>([=](const Rain& rain) {
         const double intensity = rain.intensity_l_s_ha;
         const double duration = rain.duration_min;
         const double surplus_m3_s = collected * intensity - soaked_m3_s;
@@ -58,6 +57,13 @@ struct Balance {
             numbers::divide(four_sections_m2, quadruple_seconds) + soaked_by_wall_m2_s;
         return numbers::divide(surplus_m3_s, per_metre_m2_s);
     });
+}
+
+/// Rise of the water in the shafts under the critical rain.
+/// @return rise [m] and the critical rain; 0 and none when the soil keeps up with every rain
+/// @throws RuntimeError as levelPerRain()
+[[nodiscard]] inline CriticalRain waterLevel(const Balance& balance, RainTable rains) {
+    return levelPerRain(balance).critical(rains);
 }
 
 /// Infiltration area: the outer cross-section and a share of the wetted wall [m2]. The program's rule for

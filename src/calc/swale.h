@@ -3,7 +3,7 @@
 /// The steps of the design in their order; the swale of the combined object uses them too.
 #pragma once
 
-#include "calc/critical_rain.h"
+#include "calc/per_rain.h"
 #include "platform/numbers/checked.h"
 
 namespace mero::calc::swale {
@@ -34,11 +34,10 @@ struct Balance {
     float safety_factor;         ///< stretches the duration [-]
 };
 
-/// Storage volume under the critical rain: what runs off the drained area and falls on the swale, less what
+/// Storage volume that a rain asks for [m3]: what runs off the drained area and falls on the swale, less what
 /// soaks away through half the saturated conductivity, over the rain's duration times the safety factor.
 /// All nine rows take part, those with a negative duration too.
-/// @return volume [m3] and the critical rain; 0 and none when the soil keeps up with every rain
-[[nodiscard]] inline CriticalRain storageVolume(const Balance& balance, RainTable rains) {
+[[nodiscard]] inline auto volumePerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double infiltration_area = balance.infiltration_area_m2;
     const double filtration = balance.filtration_m_s;
@@ -46,11 +45,17 @@ struct Balance {
 
     const double collected = (reduced_area + infiltration_area) * kRatePerIntensity;
     const double soaked_m3_s = infiltration_area * filtration / 2.0;
-    return findCriticalRain<Rows::All>(rains, [=](const Rain& rain) {
+    return perRain<Rows::All>([=](const Rain& rain) {
         const double intensity = rain.intensity_l_s_ha;
         const double duration = rain.duration_min;
         return (collected * intensity - soaked_m3_s) * duration * kSecondsPerMinute * safety_factor;
     });
+}
+
+/// Storage volume under the critical rain.
+/// @return volume [m3] and the critical rain; 0 and none when the soil keeps up with every rain
+[[nodiscard]] inline CriticalRain storageVolume(const Balance& balance, RainTable rains) {
+    return volumePerRain(balance).critical(rains);
 }
 
 /// Depth of the water when the whole volume stands on the infiltration area [m].

@@ -4,7 +4,7 @@
 /// ponding depth and emptying time are those of the swale with its own filtration coefficient.
 #pragma once
 
-#include "calc/critical_rain.h"
+#include "calc/per_rain.h"
 #include "calc/trench_section.h"
 #include "platform/numbers/checked.h"
 
@@ -20,11 +20,10 @@ struct Balance {
     TrenchSection trench;        ///< the trench under the swale, in the subsoil
 };
 
-/// Trench length under the critical rain: the inflow, less the throttled outflow and what the swale stores,
-/// divided by what one metre of trench takes. Rows without a positive duration are left out.
-/// @return length [m] and the critical rain; 0 and none when the swale alone is enough
-/// @throws RuntimeError DivisionByZero when the safety factor or what one metre takes is 0, Overflow
-[[nodiscard]] inline CriticalRain trenchLength(const Balance& balance, RainTable rains) {
+/// Trench length that a rain asks for [m]: the inflow, less the throttled outflow and what the swale stores,
+/// divided by what one metre of trench takes. Rows without a positive duration are left out. Its formula
+/// throws RuntimeError DivisionByZero when the safety factor or what one metre takes is 0, Overflow.
+[[nodiscard]] inline auto lengthPerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double infiltration_area = balance.infiltration_area_m2;
     const double throttled = balance.throttled_m3_s;
@@ -33,13 +32,20 @@ struct Balance {
     const UptakePerMetre uptake(balance.trench);
 
     const double collected = (reduced_area + infiltration_area) * kRatePerIntensity;
-    return findCriticalRain<Rows::PositiveDuration>(rains, [=](const Rain& rain) {
+    return perRain<Rows::PositiveDuration>([=](const Rain& rain) {
         const double intensity = rain.intensity_l_s_ha;
         const double seconds = balanceSeconds(rain, safety_factor);
         const double to_trench_m3_s =
             collected * intensity - throttled - numbers::divideOfSingles(swale_volume, seconds);
         return numbers::divide(to_trench_m3_s, uptake.over(seconds));
     });
+}
+
+/// Trench length under the critical rain.
+/// @return length [m] and the critical rain; 0 and none when the swale alone is enough
+/// @throws RuntimeError as lengthPerRain()
+[[nodiscard]] inline CriticalRain trenchLength(const Balance& balance, RainTable rains) {
+    return lengthPerRain(balance).critical(rains);
 }
 
 /// Ground plan of the swale over the trench [m2], as the area verdict compares and shows it.

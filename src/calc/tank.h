@@ -3,7 +3,7 @@
 /// Required storage against the volume of its shape, then proof that the rate was not too optimistic.
 #pragma once
 
-#include "calc/critical_rain.h"
+#include "calc/per_rain.h"
 #include "platform/numbers/checked.h"
 
 namespace mero::calc::tank {
@@ -24,20 +24,25 @@ struct Balance {
     float safety_factor;           ///< stretches the duration [-]
 };
 
-/// Required storage under the critical rain: inflow less the assumed infiltration flow, over the duration
-/// times the safety factor. All nine rows take part, those with a negative duration too.
-/// @return volume [m3] and the critical rain; 0 and none when the flow keeps up with every rain
-[[nodiscard]] inline CriticalRain requiredStorage(const Balance& balance, RainTable rains) {
+/// Storage that a rain asks for [m3]: inflow less the assumed infiltration flow, over the duration times the
+/// safety factor. All nine rows take part, those with a negative duration too.
+[[nodiscard]] inline auto storagePerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double infiltration_flow = balance.infiltration_flow_m3_s;
     const double safety_factor = balance.safety_factor;
 
     const double collected = kRatePerIntensity * reduced_area;
-    return findCriticalRain<Rows::All>(rains, [=](const Rain& rain) {
+    return perRain<Rows::All>([=](const Rain& rain) {
         const double intensity = rain.intensity_l_s_ha;
         const double duration = rain.duration_min;
         return (collected * intensity - infiltration_flow) * duration * kSecondsPerMinute * safety_factor;
     });
+}
+
+/// Required storage under the critical rain.
+/// @return volume [m3] and the critical rain; 0 and none when the flow keeps up with every rain
+[[nodiscard]] inline CriticalRain requiredStorage(const Balance& balance, RainTable rains) {
+    return storagePerRain(balance).critical(rains);
 }
 
 /// Length or width of the top: the side slope runs out on both sides of the bottom [m].

@@ -3,7 +3,7 @@
 /// The length follows from the balance; volume, area and the drain's outflow follow from the length.
 #pragma once
 
-#include "calc/critical_rain.h"
+#include "calc/per_rain.h"
 #include "calc/trench_section.h"
 #include "platform/numbers/checked.h"
 
@@ -16,21 +16,27 @@ struct Balance {
     TrenchSection section;  ///< the trench in the subsoil
 };
 
-/// Trench length under the critical rain: the inflow from the reduced area divided by what one metre of
-/// trench takes. Rows without a positive duration are left out.
-/// @return length [m] and the critical rain; 0 and none without a rain
-/// @throws RuntimeError DivisionByZero when the safety factor or what one metre takes is 0, Overflow
-[[nodiscard]] inline CriticalRain requiredLength(const Balance& balance, RainTable rains) {
+/// Trench length that a rain asks for [m]: the inflow from the reduced area divided by what one metre of
+/// trench takes. Rows without a positive duration are left out. Its formula throws RuntimeError
+/// DivisionByZero when the safety factor or what one metre takes is 0, Overflow.
+[[nodiscard]] inline auto lengthPerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double safety_factor = balance.safety_factor;
     const UptakePerMetre uptake(balance.section);
 
     const double collected = kRatePerIntensity * reduced_area;
-    return findCriticalRain<Rows::PositiveDuration>(rains, [=](const Rain& rain) {
+    return perRain<Rows::PositiveDuration>([=](const Rain& rain) {
         const double intensity = rain.intensity_l_s_ha;
         const double seconds = balanceSeconds(rain, safety_factor);
         return numbers::divide(collected * intensity, uptake.over(seconds));
     });
+}
+
+/// Trench length under the critical rain.
+/// @return length [m] and the critical rain; 0 and none without a rain
+/// @throws RuntimeError as lengthPerRain()
+[[nodiscard]] inline CriticalRain requiredLength(const Balance& balance, RainTable rains) {
+    return lengthPerRain(balance).critical(rains);
 }
 
 /// Storage volume of the trench under the picked rain: inflow less what soaks away through the infiltration

@@ -10,6 +10,7 @@
 #include "platform/numbers/runtime_error.h"
 #include "project/read_project.h"
 #include "project/reference.h"
+#include "project/shown_text.h"
 
 namespace mero::project {
 namespace {
@@ -30,7 +31,8 @@ float withinLimits(float number) {
 }
 
 [[noreturn]] void refuse(const Field& field, std::string_view text, std::span<const std::string> words = {}) {
-    std::string reason = "expected " + expected(field) + ", not \"" + std::string(text) + "\"";
+    constexpr std::size_t kLongestText = 60;
+    std::string reason = "expected " + expected(field) + ", not \"" + shownText(text, kLongestText) + "\"";
     const std::string near = nearestName(text, words);
     if (!near.empty()) {
         reason += "; did you mean \"" + near + "\"?";

@@ -241,6 +241,11 @@ std::vector<std::string> namesIn(std::string_view object_path) {
 
 std::string nearestName(std::string_view name, std::span<const std::string> names) {
     constexpr std::size_t kTellingBeginning = 3;
+    // Far longer than any name: nothing is near it, and comparing would take its time.
+    constexpr std::size_t kLongestName = 100;
+    if (name.size() > kLongestName) {
+        return {};
+    }
     std::string nearest;
     std::size_t least = std::max<std::size_t>(2, name.size() / 3) + 1;
     for (const std::string& candidate : names) {

@@ -13,11 +13,16 @@
 
 #include "platform/numbers/number_text.h"
 #include "project/reference.h"
+#include "project/shown_text.h"
 
 namespace mero::project {
 namespace {
 
 using nlohmann::json;
+
+// Most bytes of a file's own words in an error.
+constexpr std::size_t kLongestPath = 200;
+constexpr std::size_t kLongestReason = 1200;  // all stations or shafts that a value can be
 
 /// Line and column of a byte of the document, both from 1.
 std::string place(std::string_view document, std::size_t byte) {
@@ -33,7 +38,7 @@ std::string place(std::string_view document, std::size_t byte) {
 /// The reason of a syntax error without the library's prefix.
 std::string syntaxReason(const std::string& what) {
     const std::size_t colon = what.find(": ");
-    return colon == std::string::npos ? what : what.substr(colon + 2);
+    return shownText(colon == std::string::npos ? what : what.substr(colon + 2), kLongestPath);
 }
 
 /// Finds a name that stands twice in one object.
@@ -82,7 +87,8 @@ json parse(std::string_view document, const std::string& file) {
     try {
         json parsed = json::parse(document, see);
         if (!watch.doubled().empty()) {
-            throw ProjectError(file + ": " + watch.doubled() + ": stands twice; expected each name once");
+            throw ProjectError(file + ": " + shownText(watch.doubled(), kLongestPath) +
+                               ": stands twice; expected each name once");
         }
         return parsed;
     } catch (const json::parse_error& error) {
@@ -125,8 +131,9 @@ class Reader {
 
   private:
     [[noreturn]] void fail(const std::string& path, const std::string& reason) const {
-        throw ProjectError(*file_ + ": " + (path.empty() ? std::string("the document") : path) + ": " +
-                           reason);
+        throw ProjectError(*file_ + ": " +
+                           (path.empty() ? std::string("the document") : shownText(path, kLongestPath)) +
+                           ": " + shownText(reason, kLongestReason));
     }
 
     [[nodiscard]] bool isGiven(const std::string& path) const {

@@ -10,8 +10,13 @@
 #include <cstddef>
 #include <exception>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <system_error>
 
 #include "report/code_page.h"
+#include "report/whole_file.h"
 
 namespace mero::report {
 namespace {
@@ -19,8 +24,13 @@ namespace {
 /// An open file; closes itself.
 class OpenFile {
   public:
-    explicit OpenFile(const std::string& path)
-        : descriptor_(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)) {}
+    /// A pipe that nobody reads is not waited for.
+    explicit OpenFile(const std::string& path, int flags = 0)
+        : descriptor_(open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | flags, 0666)) {
+        if (isOpen()) {
+            static_cast<void>(fcntl(descriptor_, F_SETFL, 0));  // a pipe that is read is waited for
+        }
+    }
     ~OpenFile() { static_cast<void>(closeIt()); }
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
@@ -64,8 +74,15 @@ bool isPermissionDenied(int error) {
     return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == ETXTBSY;
 }
 
-WriteResult writeBytes(const std::string& path, std::string_view bytes) {
-    OpenFile file(path);
+bool isDenied(const std::string& path) {
+    const OpenFile old(path);
+    return !old.isOpen() && isPermissionDenied(errno);
+}
+
+/// Where no new file can take the old one's place: in a protected folder, on a full disk, through a link to a
+/// device.
+WriteResult writeInPlace(const std::string& path, std::string_view bytes) {
+    OpenFile file(path, O_CREAT | O_TRUNC);
     if (!file.isOpen()) {
         return isPermissionDenied(errno) ? WriteResult::PermissionDenied : WriteResult::Failed;
     }
@@ -81,6 +98,15 @@ WriteResult writeBytes(const std::string& path, std::string_view bytes) {
     return WriteResult::Failed;
 }
 
+WriteResult writeBytes(const std::string& path, std::string_view bytes) {
+    if (isDenied(path)) {
+        return WriteResult::PermissionDenied;
+    }
+    // A second program in this folder may be reading a report of the same name: it gets the old one or the
+    // new one whole.
+    return replaceWhole(path, bytes, OnDisk::NotRequired) ? WriteResult::Written : writeInPlace(path, bytes);
+}
+
 }  // namespace
 
 WriteResult writeReport(const std::string& path, std::string_view html_utf8) {
@@ -93,6 +119,16 @@ WriteResult writeReport(const std::string& path, std::string_view html_utf8) {
     } catch (const std::exception&) {
         return WriteResult::Failed;
     }
+}
+
+bool holdsReport(const std::string& path, std::string_view html_utf8) {
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(path, failure)) {  // a pipe would keep us waiting
+        return false;
+    }
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return file.is_open() && !file.bad() && bytes == toWindows1250(html_utf8);
 }
 
 void removeReport(const std::string& path) {

@@ -11,6 +11,7 @@
 #include <iterator>
 #include <optional>
 #include <string_view>
+#include <system_error>
 
 #include "report/code_page.h"
 #include "report/whole_file.h"
@@ -26,13 +27,17 @@ constexpr std::string_view kHead =
     "content=\"default-src 'none'; img-src data:; style-src 'unsafe-inline'\"></head>";
 
 std::optional<std::string> readFile(const std::string& path) {
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(path, failure)) {  // a pipe would keep us waiting
+        return std::nullopt;
+    }
     std::ifstream file(path, std::ios::binary);
     if (!file) {
         return std::nullopt;
     }
     try {
         return std::string{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    } catch (const std::exception&) {  // a folder opens, but reading it throws
+    } catch (const std::exception&) {
         return std::nullopt;
     }
 }
@@ -61,7 +66,10 @@ bool saveCopy(const std::string& report_path, const std::string& program_folder,
     if (!bytes) {
         return false;
     }
-    std::string html = fromWindows1250(*bytes);
+    return saveCopyOf(fromWindows1250(*bytes), program_folder, target_path);
+}
+
+bool saveCopyOf(std::string html, const std::string& program_folder, const std::string& target_path) {
     if (html.starts_with(kDocumentStart)) {
         html.insert(kDocumentStart.size(), kHead);
     }

@@ -17,6 +17,10 @@ namespace mero::report {
 [[nodiscard]] bool saveCopy(const std::string& report_path, const std::string& program_folder,
                             const std::string& target_path);
 
+/// The same of a report that is at hand, in UTF-8: it does not depend on what became of its file.
+[[nodiscard]] bool saveCopyOf(std::string html, const std::string& program_folder,
+                              const std::string& target_path);
+
 /// Does the name ask for a PDF file? Its suffix says so, in large or small letters; all others mean HTML.
 [[nodiscard]] bool isPdfPath(std::string_view path);
 

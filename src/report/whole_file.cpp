@@ -70,8 +70,9 @@ class FreshFile {
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] const std::string& path() const { return path_; }
 
-    [[nodiscard]] bool putInPlace() {
-        in_place_ = fchmod(descriptor_, target_->mode) == 0 && fsync(descriptor_) == 0 &&
+    [[nodiscard]] bool putInPlace(OnDisk on_disk) {
+        in_place_ = fchmod(descriptor_, target_->mode) == 0 &&
+                    (on_disk == OnDisk::NotRequired || fsync(descriptor_) == 0) &&
                     rename(path_.c_str(), target_->path.c_str()) == 0;
         return in_place_;
     }
@@ -85,22 +86,24 @@ class FreshFile {
 
 }  // namespace
 
-bool replaceWhole(const std::string& path, const std::function<bool(const std::string& fresh_path)>& write) {
+bool replaceWhole(const std::string& path, const std::function<bool(const std::string& fresh_path)>& write,
+                  OnDisk on_disk) {
     const auto target = findTarget(path);
     if (!target) {
         return false;
     }
     FreshFile fresh(*target);
-    return fresh.isOpen() && write(fresh.path()) && fresh.putInPlace();
+    return fresh.isOpen() && write(fresh.path()) && fresh.putInPlace(on_disk);
 }
 
-bool replaceWhole(const std::string& path, std::string_view content) {
-    return replaceWhole(path, [content](const std::string& fresh_path) {
+bool replaceWhole(const std::string& path, std::string_view content, OnDisk on_disk) {
+    const auto write = [content](const std::string& fresh_path) {
         std::ofstream file(fresh_path, std::ios::binary | std::ios::trunc);
         file << content;
         file.close();
         return !file.fail();
-    });
+    };
+    return replaceWhole(path, write, on_disk);
 }
 
 }  // namespace mero::report

@@ -6,13 +6,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <array>
 #include <filesystem>
 
 #include "data/rain_support.h"
+#include "support/unprivileged.h"
 
 namespace mero::data {
 namespace {
@@ -169,31 +168,18 @@ TEST(RainDatabase, WhatIsNoDatabaseCannotBeOpened) {
     }
 }
 
-/// Reads Brno from the file without the superuser's rights, which know no denial: in a process that gives
-/// them up first. The error number, 0 when the table came.
-int errorReadingUnprivileged(const std::string& reader, const std::string& path) {
-    constexpr int kCame = 0;
-    constexpr int kRefused = 1;
-    constexpr int kOtherwise = 2;
-    const pid_t child = ::fork();
-    if (child == 0) {
-        constexpr uid_t kNobody = 65534;
-        int result = kOtherwise;
-        if (::geteuid() != 0 || (::setgid(kNobody) == 0 && ::setuid(kNobody) == 0)) {
-            try {
-                static_cast<void>(MdbRainDatabase(reader).read(84, path));
-                result = kCame;
-            } catch (const RuntimeError& error) {
-                result = error.number() == kCannotOpenDatabase ? kRefused : kOtherwise;
-            }
+enum class Outcome { Came, Refused, Otherwise };
+
+/// What comes of it when an ordinary user reads Brno from the file.
+Outcome readUnprivileged(const std::string& reader, const std::string& path) {
+    return mero::test::unprivileged([&] {
+        try {
+            static_cast<void>(MdbRainDatabase(reader).read(84, path));
+            return Outcome::Came;
+        } catch (const RuntimeError& error) {
+            return error.number() == kCannotOpenDatabase ? Outcome::Refused : Outcome::Otherwise;
         }
-        ::_exit(result);
-    }
-    int status = 0;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFEXITED(status));
-    EXPECT_NE(WEXITSTATUS(status), kOtherwise);
-    return WEXITSTATUS(status) == kRefused ? kCannotOpenDatabase : 0;
+    });
 }
 
 TEST(RainDatabase, AnUnreadableFileCannotBeOpened) {
@@ -207,9 +193,9 @@ TEST(RainDatabase, AnUnreadableFileCannotBeOpened) {
     fs::permissions(reader, fs::perms(0755));
 
     fs::permissions(path, fs::perms(0644));
-    EXPECT_EQ(errorReadingUnprivileged(reader, path), 0);
+    EXPECT_EQ(readUnprivileged(reader, path), Outcome::Came);
     fs::permissions(path, fs::perms::none);
-    EXPECT_EQ(errorReadingUnprivileged(reader, path), kCannotOpenDatabase);
+    EXPECT_EQ(readUnprivileged(reader, path), Outcome::Refused);
 }
 
 TEST(RainDatabase, AFileThatMayOnlyBeReadIsEnough) {

@@ -13,6 +13,7 @@
 
 #include "automation/script_line.h"
 #include "monkey/run.h"
+#include "monkey/written_script.h"
 #include "platform/numbers/number_text.h"
 
 namespace {
@@ -27,13 +28,16 @@ constexpr int kActionsOfALife = 500;
 constexpr const char* kHelp =
     "usage: mero-monkey [--seed N] [--actions N]      lives of at most 500 actions with the seeds N, N+1, "
     "...\n"
-    "       mero-monkey --write FILE [--seed N] [--actions N]   one long life as a script that does not end\n"
+    "       mero-monkey --write FILE [--life endless|short] [--seed N] [--actions N]\n"
+    "                                                 one life as a script; an endless one does not end by "
+    "itself\n"
     "       mero-monkey --replay FILE                 checks a script\n";
 
 struct Options {
     int seed = 1;
     int actions = 10000;
     std::string write_to;
+    Generator::Life life = Generator::Life::Endless;
     std::string replay_from;
 };
 
@@ -48,6 +52,8 @@ Options parse(std::span<char*> words) {
             options.seed = *number;
         } else if (name == "--actions" && number) {
             options.actions = *number;
+        } else if (name == "--life" && (value == "endless" || value == "short")) {
+            options.life = value == "short" ? Generator::Life::Short : Generator::Life::Endless;
         } else if (name == "--write" && !value.empty()) {
             options.write_to = value;
         } else if (name == "--replay" && !value.empty()) {
@@ -81,8 +87,9 @@ void report(const SandboxFolder& sandbox, const Life& life, int seed) {
 
 int writeScript(const SandboxFolder& sandbox, const Options& options) {
     const auto seed = static_cast<std::uint64_t>(options.seed);
-    const Life life = live(sandbox, seed, options.actions, Generator::Life::Endless);
-    write(options.write_to, "Random actions, seed " + numbers::general(options.seed), life.script);
+    const Life life = live(sandbox, seed, options.actions, options.life);
+    write(options.write_to, "Random actions, seed " + numbers::general(options.seed),
+          written(sandbox, life.script));
     std::cout << life.script.size() << " actions" << std::endl;
     return life.fault.empty() ? 0 : 1;
 }

@@ -14,14 +14,17 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 
 #include "report/documents.h"
+#include "support/unprivileged.h"
 
 namespace mero::report {
 namespace {
 
 namespace fs = std::filesystem;
+using mero::test::unprivileged;
 
 /// A folder of its own for each test, gone with it.
 class ReportFile : public testing::Test {
@@ -48,24 +51,6 @@ class ReportFile : public testing::Test {
 
     std::string folder_;
 };
-
-/// Runs the action in a process of its own and gives its result. Root's rights know no denial, so the
-/// process gives them up first.
-template <typename Action>
-WriteResult inUnprivilegedProcess(Action action) {
-    constexpr int kNotRun = 99;
-    const pid_t child = fork();
-    if (child == 0) {
-        constexpr uid_t kNobody = 65534;
-        const bool unprivileged = geteuid() != 0 || (setgid(kNobody) == 0 && setuid(kNobody) == 0);
-        _exit(unprivileged ? static_cast<int>(action()) : kNotRun);
-    }
-    int status = 0;
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFEXITED(status));
-    EXPECT_NE(WEXITSTATUS(status), kNotRun);
-    return static_cast<WriteResult>(WEXITSTATUS(status));
-}
 
 TEST_F(ReportFile, IsWrittenInWindows1250) {
     ASSERT_EQ(writeReport(path("Test"), "déšť\r\n\xF0\x9F\x92\xA7"), WriteResult::Written);
@@ -117,14 +102,14 @@ TEST_F(ReportFile, FailsInAMissingFolder) {
 TEST_F(ReportFile, IsDeniedWhereTheFileIsProtectedAndKeepsItsContent) {
     put(path("chráněný"), "starý");
     fs::permissions(path("chráněný"), fs::perms::owner_read | fs::perms::others_read);
-    EXPECT_EQ(inUnprivilegedProcess([&] { return writeReport(path("chráněný"), "nový"); }),
+    EXPECT_EQ(unprivileged([&] { return writeReport(path("chráněný"), "nový"); }),
               WriteResult::PermissionDenied);
     EXPECT_EQ(contentOf(path("chráněný")), "starý");
 }
 
 TEST_F(ReportFile, IsDeniedInAProtectedFolder) {
     fs::permissions(folder_, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_exec);
-    const WriteResult result = inUnprivilegedProcess([&] { return writeReport(path("Test"), "x"); });
+    const WriteResult result = unprivileged([&] { return writeReport(path("Test"), "x"); });
     fs::permissions(folder_, fs::perms::all);
     EXPECT_EQ(result, WriteResult::PermissionDenied);
     EXPECT_TRUE(fs::is_empty(folder_));
@@ -160,7 +145,7 @@ TEST_F(ReportFile, LeavesNoHalfReportWhenTheDiskIsFull) {
     put(path("Test"), "starý");
     // The file may grow to 4096 bytes and no further, as on a disk that fills up while it is written.
     fs::permissions(path("Test"), fs::perms::all);
-    const WriteResult full = inUnprivilegedProcess([&] {
+    const WriteResult full = unprivileged([&] {
         const rlimit limit{4096, 4096};
         std::signal(SIGXFSZ, SIG_IGN);
         setrlimit(RLIMIT_FSIZE, &limit);
@@ -168,6 +153,53 @@ TEST_F(ReportFile, LeavesNoHalfReportWhenTheDiskIsFull) {
     });
     EXPECT_EQ(full, WriteResult::Failed);
     EXPECT_FALSE(fs::exists(path("Test")));
+}
+
+TEST_F(ReportFile, DoesNotWaitForAPipeThatNobodyReads) {
+    ASSERT_EQ(mkfifo(path("roura").c_str(), 0600), 0);
+    EXPECT_EQ(writeReport(path("roura"), "x"), WriteResult::Failed);
+    EXPECT_FALSE(holdsReport(path("roura"), ""));
+    EXPECT_TRUE(fs::is_fifo(path("roura")));
+}
+
+TEST_F(ReportFile, IsWrittenWhereOnlyTheFileItselfMayBe) {
+    put(path("Test"), std::string(5000, 'x'));
+    fs::permissions(path("Test"), fs::perms(0666));
+    fs::permissions(folder_, fs::perms(0555));
+    const WriteResult result = unprivileged([&] { return writeReport(path("Test"), "nový"); });
+    fs::permissions(folder_, fs::perms::all);
+    EXPECT_EQ(result, WriteResult::Written);
+    EXPECT_EQ(contentOf(path("Test")), "nov\xFD");
+}
+
+TEST_F(ReportFile, IsNeverReadHalfWhileASecondProgramWritesIt) {
+    const std::string one(30000, 'a');
+    const std::string other(20000, 'b');
+    ASSERT_EQ(writeReport(path("Test"), one), WriteResult::Written);
+    const pid_t second = fork();
+    if (second == 0) {
+        while (true) {
+            static_cast<void>(writeReport(path("Test"), other));
+            static_cast<void>(writeReport(path("Test"), one));
+        }
+    }
+    std::set<std::string> seen;
+    for (int reading = 0; reading < 300 || (seen.size() < 2 && reading < 20000); ++reading) {
+        seen.insert(contentOf(path("Test")));
+    }
+    kill(second, SIGKILL);
+    waitpid(second, nullptr, 0);
+    EXPECT_TRUE(seen == (std::set<std::string>{one, other})) << seen.size() << " different contents";
+}
+
+TEST_F(ReportFile, IsKnownAgainByItsContent) {
+    ASSERT_EQ(writeReport(path("Test"), "déšť \u4e2d"), WriteResult::Written);
+    EXPECT_TRUE(holdsReport(path("Test"), "déšť \u4e2d"));
+    EXPECT_FALSE(holdsReport(path("Test"), "déšť"));
+    EXPECT_FALSE(holdsReport(path("jiný"), "déšť"));
+    EXPECT_FALSE(holdsReport(path("jiný"), ""));
+    EXPECT_FALSE(holdsReport(folder_, ""));
+    EXPECT_FALSE(holdsReport("", ""));
 }
 
 TEST_F(ReportFile, LeavesADeviceThatThePathLeadsTo) {

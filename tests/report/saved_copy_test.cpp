@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
@@ -63,6 +64,25 @@ TEST_F(SavedCopy, IsNotMadeOfAMissingReportOrAFolder) {
     EXPECT_FALSE(saveCopy(program.file("Mero_"), program.path(), elsewhere.file("kopie.html")));
     EXPECT_FALSE(saveCopy(program.path(), program.path(), elsewhere.file("kopie.html")));
     EXPECT_TRUE(fs::is_empty(elsewhere.path()));
+}
+
+TEST_F(SavedCopy, DoesNotWaitForAPipeInTheReportsOrTheLogosPlace) {
+    ASSERT_EQ(mkfifo(program.file("Mero_").c_str(), 0600), 0);
+    EXPECT_FALSE(saveCopy(program.file("Mero_"), program.path(), elsewhere.file("kopie.html")));
+    fs::remove(program.file("Webs/Desc_soubory/logo.gif"));
+    ASSERT_EQ(mkfifo(program.file("Webs/Desc_soubory/logo.gif").c_str(), 0600), 0);
+    EXPECT_THAT(copy(), Not(HasSubstr("src=")));
+}
+
+TEST_F(SavedCopy, OfAReportAtHandNeedsNoFile) {
+    const std::string expected = copy();
+    const std::string html = htmlReport(test::sampleProject(2));
+    fs::remove(program.file("Mero_Test"));
+    EXPECT_TRUE(saveCopyOf(html, program.path(), elsewhere.file("kopie.html")));
+    EXPECT_EQ(elsewhere.read("kopie.html"), expected);
+    fs::remove_all(program.path());
+    EXPECT_TRUE(saveCopyOf(html, program.path(), elsewhere.file("kopie.html")));
+    EXPECT_THAT(elsewhere.read("kopie.html"), HasSubstr("Návrhový déšť"));
 }
 
 TEST(PdfPath, IsToldByItsSuffix) {

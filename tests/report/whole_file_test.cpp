@@ -5,20 +5,20 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
-#include <functional>
 #include <string>
 
 #include "support/temporary_folder.h"
+#include "support/unprivileged.h"
 
 namespace mero::report {
 namespace {
 
 namespace fs = std::filesystem;
+using mero::test::unprivileged;
 
 class WholeFile : public testing::Test {
   protected:
@@ -30,21 +30,6 @@ class WholeFile : public testing::Test {
 
     mero::test::TemporaryFolder folder{" whole ěš"};
 };
-
-/// Whether the action came to true in a process of its own without root's rights, which know no denial.
-bool unprivileged(const std::function<bool()>& action) {
-    const pid_t child = fork();
-    if (child == 0) {
-        constexpr uid_t kNobody = 65534;
-        const bool given_up = geteuid() != 0 || (setgid(kNobody) == 0 && setuid(kNobody) == 0);
-        _exit(given_up ? (action() ? 1 : 0) : 99);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status));
-    EXPECT_NE(WEXITSTATUS(status), 99);
-    return WEXITSTATUS(status) == 1;
-}
 
 TEST_F(WholeFile, IsMadeWithTheRightsOfNewFiles) {
     const mode_t mask = umask(027);

@@ -19,15 +19,16 @@ NUMBERS = ("platform/numbers",)
 CORE = ("calc", "data", "report", "platform")
 ROOMS = {
     "platform/numbers": (),
-    "platform/qt": ("platform",),
+    "platform/qt": ("platform", "picture"),
     "platform": NUMBERS,
     "calc": NUMBERS,
+    "picture": ("calc", *NUMBERS),
     "data": ("calc", "platform"),
     "design": ("calc", "data", "platform"),
     "report": ("calc", "data", "platform"),
     "project": (*CORE, "design"),
     "sweep": (*CORE, "design", "project"),
-    "forms": CORE,
+    "forms": (*CORE, "picture"),
     "automation": (*CORE, "forms"),
     "app": (*CORE, "design", "project", "sweep", "forms", "automation"),
 }

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Draws the pictures of the description pages and the logo into Webs/Desc_soubory.
+"""Draws the pictures of the description pages and the logo into Webs/Desc_soubory, the icon into packaging/icons.
 
-Needs python3-cairo, python3-pil and the DejaVu Sans font. Give a folder to draw into another one.
+Needs python3-cairo, python3-pil and the DejaVu Sans font. Give a folder to draw everything into another one.
 """
 import sys
 from pathlib import Path
@@ -10,9 +10,10 @@ from pathlib import Path
 from PIL import Image
 
 from logo import logo
+from mark import GRID, SIZES, as_svg, icon, mark
 from sections import SECTIONS
 
-DEFAULT_FOLDER = Path(__file__).resolve().parents[2] / "Webs" / "Desc_soubory"
+ROOT = Path(__file__).resolve().parents[2]
 
 
 def as_image(canvas):
@@ -21,8 +22,24 @@ def as_image(canvas):
                             canvas.surface.get_stride(), 1)
 
 
+def make_icons(folder):
+    """The icon as an icon theme has it: a folder for each size, and one for all others."""
+    for size in SIZES:
+        place = folder / f"{size}x{size}" / "apps"
+        place.mkdir(parents=True, exist_ok=True)
+        surface = icon(size)
+        picture = Image.frombuffer("RGBa", (size, size), bytes(surface.get_data()), "raw", "BGRa",
+                                   surface.get_stride(), 1)
+        picture.convert("RGBA").save(place / "mero.png", optimize=True)
+    place = folder / "scalable" / "apps"
+    place.mkdir(parents=True, exist_ok=True)
+    (place / "mero.svg").write_text(as_svg(mark(), GRID), encoding="utf-8")
+
+
 def main():
-    folder = Path(sys.argv[1]) if len(sys.argv) > 1 else DEFAULT_FOLDER
+    base = Path(sys.argv[1]) if len(sys.argv) > 1 else ROOT
+    make_icons(base / "packaging" / "icons")
+    folder = base / "Webs" / "Desc_soubory"
     folder.mkdir(parents=True, exist_ok=True)
     for number, draw in SECTIONS.items():
         # 96 colours are plenty for line drawings and make small files.

@@ -11,6 +11,7 @@
 #include "app/batch/run_command.h"
 #include "app/batch/stations_command.h"
 #include "app/batch/sweep_command.h"
+#include "app/common/standard_streams.h"
 
 namespace {
 
@@ -42,6 +43,7 @@ constexpr const char* kHelp =
 
 int main(int argc, char** argv) {
     constexpr int kUnusable = 2;
+    mero::app::holdStandardStreams();
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
     if (arguments.empty()) {
         std::cerr << kHelp;

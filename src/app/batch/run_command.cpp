@@ -10,6 +10,7 @@
 #include "app/batch/pdf_program.h"
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
+#include "app/common/standard_streams.h"
 #include "automation/headless_user.h"
 #include "automation/script_runner.h"
 #include "automation/trace_desk.h"
@@ -29,11 +30,15 @@ constexpr const char* kHelp =
     "  --folder DIR   the program's folder: mero.mdb, Webs, the report file\n"
     "  --clock TIME   freezes date and time\n"
     "\n"
-    "Exit status: 0 the script ran to its end, 1 a run-time error ended the program, 2 unusable script or\n"
-    "arguments.\n";
+    "Exit status: 0 the script ran to its end, 1 a run-time error ended the program or the trace could not "
+    "be\n"
+    "written, 2 unusable script or arguments.\n";
 
 int runScript(const RunOptions& options, std::istream& script) {
     const std::string folder = options.folder.empty() ? defaultProgramFolder() : options.folder;
+    if (!folderExists(folder)) {
+        std::cerr << "mero-batch: " << folderMissing(folder) << '\n';
+    }
     automation::TraceDesk desk(std::cout, nullptr, folder);
     desk.makePdfBy(makePdfByWindowProgram);
     std::unique_ptr<platform::Clock> clock = std::make_unique<platform::SystemClock>();
@@ -46,7 +51,8 @@ int runScript(const RunOptions& options, std::istream& script) {
     automation::HeadlessUser user(program);
     automation::ScriptRunner runner(program, user, desk, std::cerr, options.script);
     program.start();
-    return runner.run(script);
+    const int status = runner.run(script);
+    return std::cout ? status : traceFailed("mero-batch");
 }
 
 }  // namespace

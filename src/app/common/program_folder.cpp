@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "report/whole_file.h"
+
 namespace mero::app {
 namespace {
 
@@ -17,6 +19,9 @@ namespace fs = std::filesystem;
 /// Installed data relative to the executable's folder: PREFIX/bin and PREFIX/share/mero.
 constexpr const char* kInstalledData = "../share/mero";
 constexpr const char* kInstalledReader = "../libexec/mero/mero-rain";
+
+constexpr const char* kRainDatabase = "mero.mdb";
+constexpr const char* kPages = "Webs";
 
 bool canBeWritten(const fs::path& folder) {
     return access(folder.c_str(), W_OK) == 0;
@@ -31,11 +36,37 @@ fs::path userDataFolder() {
     return fs::path(home != nullptr ? home : "/") / ".local/share/mero";
 }
 
-/// Copies what is missing; what the user replaced by his own stays.
+/// Copies a file that is missing, whole or not at all: what a full disk or a program that starts at the same
+/// moment left half done would count as the user's own for ever. The copy is the user's to replace, whatever
+/// the original's permissions are.
+void fillFile(const fs::path& file, const fs::path& original) {
+    std::error_code failure;
+    if (fs::exists(file, failure)) {
+        return;
+    }
+    fs::create_directories(file.parent_path(), failure);
+    const auto copy = [&original](const std::string& fresh) {
+        std::error_code failed;
+        return fs::copy_file(original, fresh, fs::copy_options::overwrite_existing, failed) &&
+               (fs::permissions(fresh, fs::perms::owner_write, fs::perm_options::add, failed), !failed);
+    };
+    static_cast<void>(report::replaceWhole(file.string(), copy));
+}
+
+/// Copies what is missing of the rain database and the pages; what the user replaced by his own stays.
 void fillWithMissing(const fs::path& folder, const fs::path& installed) {
-    std::error_code ignored;
-    fs::create_directories(folder, ignored);
-    fs::copy(installed, folder, fs::copy_options::recursive | fs::copy_options::skip_existing, ignored);
+    std::error_code ended;
+    fs::create_directories(folder, ended);
+    if (fs::exists(installed / kRainDatabase, ended)) {
+        fillFile(folder / kRainDatabase, installed / kRainDatabase);
+    }
+    fs::recursive_directory_iterator entry(installed / kPages, ended);
+    for (; !ended && entry != fs::recursive_directory_iterator(); entry.increment(ended)) {
+        std::error_code failure;
+        if (entry->is_regular_file(failure)) {
+            fillFile(folder / entry->path().lexically_relative(installed), entry->path());
+        }
+    }
 }
 
 }  // namespace
@@ -49,12 +80,23 @@ std::string executableFolder() {
 std::string defaultProgramFolder() {
     const fs::path beside = executableFolder();
     std::error_code failure;
-    if (fs::is_directory(beside / "Webs", failure) && canBeWritten(beside)) {
+    const bool own_folder = fs::is_directory(beside / kPages, failure);
+    if (own_folder && canBeWritten(beside)) {
         return beside.string();
     }
     const fs::path folder = userDataFolder();
-    fillWithMissing(folder, beside / kInstalledData);
+    // An unpacked archive that nobody here may write has its data beside the programs.
+    fillWithMissing(folder, own_folder ? beside : beside / kInstalledData);
     return folder.string();
+}
+
+bool folderExists(const std::string& folder) {
+    std::error_code failure;
+    return fs::is_directory(folder, failure);
+}
+
+std::string folderMissing(const std::string& folder) {
+    return "the program's folder " + folder + " cannot be made: there is no rain database and no report";
 }
 
 std::string rainReaderProgram() {

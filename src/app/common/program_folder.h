@@ -12,9 +12,14 @@ namespace mero::app {
 [[nodiscard]] std::string executableFolder();
 
 /// The program's folder by the rule: the executable's folder when it holds `Webs` and can be written, else
-/// `$XDG_DATA_HOME/mero` (or `~/.local/share/mero`), made and filled from the installed data with what is
-/// missing there. What cannot be made or copied is left out; the program then tells of the missing file.
+/// `$XDG_DATA_HOME/mero` (or `~/.local/share/mero`), made and filled with what is missing there of `mero.mdb`
+/// and `Webs`: from the installed data, or from beside the executable where that folder cannot be written. What cannot be made or copied is left out; the program then tells of the missing file.
 [[nodiscard]] std::string defaultProgramFolder();
+
+/// Whether the folder is there. The user's own folder is not when it could not be made.
+[[nodiscard]] bool folderExists(const std::string& folder);
+/// What to say of a missing one on error output.
+[[nodiscard]] std::string folderMissing(const std::string& folder);
 
 /// Path of the rain reader: beside the executable, or in ../libexec/mero of an installed copy.
 [[nodiscard]] std::string rainReaderProgram();

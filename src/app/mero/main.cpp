@@ -16,10 +16,12 @@
 
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
+#include "app/common/standard_streams.h"
 #include "app/mero/pdf_file.h"
 #include "app/mero/qt_desk.h"
 #include "app/mero/qt_user.h"
 #include "app/mero/script_feed.h"
+#include "app/mero/window_icon.h"
 #include "automation/script_runner.h"
 #include "automation/trace_desk.h"
 #include "data/rain_database.h"
@@ -93,6 +95,7 @@ class Mero {
           window_(kit_, program_.window(),
                   {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}) {
         real_desk_.setMainWindow(&window_);
+        real_desk_.message_closed = [this](const std::string& text) { window_.returnToField(text); };
         program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
     }
 
@@ -101,6 +104,7 @@ class Mero {
         if (program_.ended()) {
             return program_.exitStatus();
         }
+        tellOfMissingFolder();
         return scripted_ ? runScript() : runForPerson();
     }
 
@@ -108,6 +112,22 @@ class Mero {
     platform::Desk& desk() {
         return scripted_ ? static_cast<platform::Desk&>(trace_desk_)
                          : static_cast<platform::Desk&>(real_desk_);
+    }
+
+    /// Before somebody works for an hour and then sees no report.
+    void tellOfMissingFolder() {
+        if (app::folderExists(folder_)) {
+            return;
+        }
+        std::cerr << "mero: " << app::folderMissing(folder_) << '\n';
+        if (!scripted_) {
+            qt::later(window_, [this] {
+                real_desk_.showMessage({"Složku programu „" + folder_ +
+                                            "“ nelze vytvořit. Bez ní chybí databáze dešťů a výsledky se "
+                                            "nezobrazí.",
+                                        platform::MessageIcon::Exclamation});
+            });
+        }
     }
 
     int runForPerson() {
@@ -124,7 +144,8 @@ class Mero {
         app::ScriptFeed feed(runner, [](int exit_status) { QApplication::exit(exit_status); });
         qt::later(feed,
                   [this, &feed] { script_name_ == "-" ? feed.feedStandardInput() : feed.feedAll(script_); });
-        return QApplication::exec();
+        const int status = QApplication::exec();
+        return std::cout ? status : app::traceFailed("mero");
     }
 
     bool scripted_;
@@ -153,6 +174,7 @@ int exportPdf(int& argc, char** argv, const std::string& report, const std::stri
 
 int main(int argc, char** argv) {
     try {
+        app::holdStandardStreams();
         const std::vector<std::string_view> arguments(argv + 1, argv + argc);
         // All arguments are the program's own; the window system gets none of them.
         int window_system_arguments = 1;
@@ -177,6 +199,7 @@ int main(int argc, char** argv) {
         if (options.palette != app::Palette::System) {
             qt::usePalette(options.palette == app::Palette::Dark ? qt::darkPalette() : qt::lightPalette());
         }
+        app::wearIcon();
         QTranslator translator;
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);

@@ -9,6 +9,8 @@
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 #include <utility>
 
@@ -53,6 +55,9 @@ void QtDesk::showMessage(const platform::Message& message) {
     box.setTextFormat(Qt::PlainText);
     if (sitter_ == Sitter::Person) {
         box.exec();
+        if (message_closed) {
+            message_closed(message.text);
+        }
         return;
     }
     box.setWindowModality(Qt::ApplicationModal);
@@ -70,10 +75,42 @@ void QtDesk::reportError(const RuntimeError& error) {
     showMessage({qt::stored(text), platform::MessageIcon::Critical});
 }
 
+void QtDesk::tellOfNoBrowser(const std::string& address) {
+    showMessage({"Adresu " + address + " se nepodařilo otevřít.", platform::MessageIcon::Exclamation});
+}
+
+// The window system's own way only tells whether the opener was started, not that it found no browser.
 void QtDesk::openAddress(const std::string& address) {
-    if (sitter_ == Sitter::Person && !QDesktopServices::openUrl(QUrl(shown(address)))) {
-        showMessage({"Adresu " + address + " se nepodařilo otevřít.", platform::MessageIcon::Exclamation});
+    if (sitter_ != Sitter::Person) {
+        return;
     }
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (opener.isEmpty()) {
+        if (!QDesktopServices::openUrl(QUrl(shown(address)))) {
+            tellOfNoBrowser(address);
+        }
+        return;
+    }
+    // It may be the browser itself that runs until it is closed: it outlives the desk and the program.
+    auto* process = new QProcess;
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
+    QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    QObject::connect(process, &QProcess::finished, &while_there_,
+                     [this, address](int exit_code, QProcess::ExitStatus status) {
+                         if (exit_code != 0 || status != QProcess::NormalExit) {
+                             tellOfNoBrowser(address);
+                         }
+                     });
+    QObject::connect(process, &QProcess::errorOccurred, &while_there_,
+                     [this, process, address](QProcess::ProcessError error) {
+                         if (error == QProcess::FailedToStart) {
+                             process->deleteLater();
+                             tellOfNoBrowser(address);
+                         }
+                     });
+    process->start(opener, {shown(address)});
 }
 
 // What happens to forms and views is seen on the screen.

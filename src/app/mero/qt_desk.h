@@ -4,6 +4,8 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <functional>
+#include <string>
 
 #include "platform/desk.h"
 #include "platform/qt/local_document.h"
@@ -22,6 +24,9 @@ class QtDesk : public platform::Desk {
     /// The window over which boxes show while no other window of the program is active.
     void setMainWindow(QWidget* window) { main_window_ = window; }
 
+    /// Called after a person has closed a message box.
+    std::function<void(const std::string& text)> message_closed;
+
     void showMessage(const platform::Message& message) override;
     void reportError(const RuntimeError& error) override;
     void openAddress(const std::string& address) override;
@@ -36,10 +41,12 @@ class QtDesk : public platform::Desk {
 
   private:
     [[nodiscard]] QWidget* window() const;
+    void tellOfNoBrowser(const std::string& address);
 
     Sitter sitter_;
     qt::Decoder decode_;
     QPointer<QWidget> main_window_;
+    QObject while_there_;  ///< what was started may end when this desk is gone
 };
 
 }  // namespace mero::app

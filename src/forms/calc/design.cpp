@@ -6,6 +6,7 @@
 #include "calc/swale.h"
 #include "calc/swale_trench.h"
 #include "calc/trench.h"
+#include "forms/calc/balances.h"
 #include "forms/calc/frm_calc.h"
 #include "forms/calc/rain_table.h"
 #include "platform/numbers/checked.h"
@@ -43,11 +44,7 @@ void frmCalc::CalcDesign() {
 void frmCalc::designSwale() {
     const auto rains = rainTable(*values_);
     const calc::CriticalRain volume =
-        calc::swale::storageVolume({.reduced_area_m2 = values_->RedukovanaPlocha,
-                                    .infiltration_area_m2 = values_->txtVsakPlocha,
-                                    .filtration_m_s = values_->txtSoucFiltrace,
-                                    .safety_factor = values_->txtSoucBezp},
-                                   rains);
+        calc::swale::storageVolume(swaleBalance(*values_, values_->txtSoucFiltrace), rains);
     pick(*values_, volume);
     values_->txtObjAkum = numbers::toSingle(volume.maximum);
     txtObjAkum[kSwale].setText(numbers::fixed(values_->txtObjAkum, 1));
@@ -70,11 +67,7 @@ void frmCalc::designSwaleTrench() {
         values_->s_RR = values_->txtPorVyplne;
     }
     const calc::CriticalRain volume =
-        calc::swale::storageVolume({.reduced_area_m2 = values_->RedukovanaPlocha,
-                                    .infiltration_area_m2 = values_->txtVsakPlocha,
-                                    .filtration_m_s = values_->txtSoucFiltrPruleh,
-                                    .safety_factor = values_->txtSoucBezp},
-                                   rains);
+        calc::swale::storageVolume(swaleBalance(*values_, values_->txtSoucFiltrPruleh), rains);
     pick(*values_, volume);
     values_->txtObjAkum = numbers::toSingle(volume.maximum);
     txtObjAkum[kSwaleTrench].setText(numbers::fixed(values_->txtObjAkum, 1));
@@ -85,14 +78,7 @@ void frmCalc::designSwaleTrench() {
         values_->txtVyskaVzduti = calc::swale::pondingDepth(values_->txtObjAkum, values_->txtVsakPlocha);
     }
 
-    const calc::CriticalRain length =
-        calc::swale_trench::trenchLength({.reduced_area_m2 = values_->RedukovanaPlocha,
-                                          .infiltration_area_m2 = values_->txtVsakPlocha,
-                                          .throttled_m3_s = values_->Q_dr,
-                                          .swale_volume_m3 = values_->txtObjAkum,
-                                          .safety_factor = values_->txtSoucBezp,
-                                          .trench = trenchSection()},
-                                         rains);
+    const calc::CriticalRain length = calc::swale_trench::trenchLength(swaleTrenchBalance(*values_), rains);
     pick(*values_, length);
     values_->txtDelkaRyhy = numbers::toSingle(length.maximum);
     txtDelkaRyhy[kSwaleTrench].setText(numbers::fixed(values_->txtDelkaRyhy, 1));
@@ -135,9 +121,7 @@ void frmCalc::designTrench() {
         values_->s_RR = values_->txtPorVyplne;
     }
     showStorageCoefficient();
-    const calc::trench::Balance balance{.reduced_area_m2 = values_->RedukovanaPlocha,
-                                        .safety_factor = values_->txtSoucBezp,
-                                        .section = trenchSection()};
+    const calc::trench::Balance balance = trenchBalance(*values_);
     const calc::CriticalRain length = calc::trench::requiredLength(balance, rains);
     pick(*values_, length);
     values_->txtDelkaRyhy = numbers::toSingle(length.maximum);
@@ -202,13 +186,6 @@ void frmCalc::cmdOK_Click(int Index) {
     } else {
         chkSelPretok[Index].setChecked(false);
     }
-}
-
-calc::TrenchSection frmCalc::trenchSection() const {
-    return {.width_m = values_->txtSirkaRyhy,
-            .height_m = values_->txtVyskaRyhy,
-            .storage_coefficient = values_->s_RR,
-            .filtration_m_s = values_->txtSoucFiltrace};
 }
 
 void frmCalc::showStorageCoefficient() {

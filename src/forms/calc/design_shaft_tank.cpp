@@ -3,6 +3,7 @@
 /// The calculated flag is not set when a groundwater or volume check stops the design.
 #include "calc/shaft.h"
 #include "calc/tank.h"
+#include "forms/calc/balances.h"
 #include "forms/calc/frm_calc.h"
 #include "forms/calc/rain_table.h"
 #include "platform/numbers/checked.h"
@@ -17,11 +18,11 @@ using platform::MessageIcon;
 
 void frmCalc::designShaft() {
     values_->txtObjAkum =
-        calc::shaft::storageVolume(shaftBalance(), values_->txtVsakPlocha, pickedRain(*values_));
+        calc::shaft::storageVolume(shaftBalance(*values_), values_->txtVsakPlocha, pickedRain(*values_));
     txtObjAkum[kShaft].setText(numbers::fixed(values_->txtObjAkum, 2));
 
     values_->txtSoucFiltrPruleh = calc::shaft::requiredFilterPermeability(
-        values_->txtVyskaVzduti, shaftBalance().shafts, values_->txtSoucFiltrace);
+        values_->txtVyskaVzduti, shaftBalance(*values_).shafts, values_->txtSoucFiltrace);
     txtSoucFiltrPruleh[kShaft].setText(numbers::scientific(values_->txtSoucFiltrPruleh, 1));
 
     if (calc::shaft::judgeGroundwater(values_->txtHPV, values_->txtPotrHloubkaZahl) ==
@@ -56,10 +57,7 @@ void frmCalc::designTank() {
     const auto rains = rainTable(*values_);
     values_->txtVsakTok = calc::tank::infiltrationFlow(values_->txtSpecMeroIntenz, values_->RedukovanaPlocha);
     const calc::CriticalRain storage =
-        calc::tank::requiredStorage({.reduced_area_m2 = values_->RedukovanaPlocha,
-                                     .infiltration_flow_m3_s = values_->txtVsakTok,
-                                     .safety_factor = values_->txtSoucBezp},
-                                    rains);
+        calc::tank::requiredStorage(tankBalance(*values_, values_->txtVsakTok), rains);
     pick(*values_, storage);
     values_->txtObjAkum = numbers::toSingle(storage.maximum);
 

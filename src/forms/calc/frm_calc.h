@@ -6,8 +6,6 @@
 #include <cstdint>
 #include <string>
 
-#include "calc/shaft.h"
-#include "calc/trench_section.h"
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
 #include "forms/calc/frm_calc_controls.h"
@@ -128,8 +126,6 @@ class frmCalc : public frmCalcControls {
     void designTank();
     void showStorageCoefficient();
 
-    [[nodiscard]] calc::shaft::Balance shaftBalance() const;
-    [[nodiscard]] calc::TrenchSection trenchSection() const;
     /// Index of the selected soil option, -1 when none is.
     [[nodiscard]] static int soilOption(const ControlArray<OptionButton>& options);
     void fillShaftList();
@@ -142,11 +138,18 @@ class frmCalc : public frmCalcControls {
     /// Saves the report as HTML or PDF, as the path's suffix says, and tells of a failure.
     void saveResults(const std::string& path);
 
+    /// Writes the shown report again when its file is gone or is another program's by now. False when it
+    /// cannot.
+    [[nodiscard]] bool keepReport();
+
     data::modPublicVariables* values_;
     platform::Desk* desk_;
     platform::Clock* clock_;
     std::string folder_;
     platform::modRegSettings reg_settings_;
+    /// The report that this program wrote and shows, in UTF-8; empty when none could be written. A second
+    /// program in this folder writes its report of the same project over ours, or removes it at its end.
+    std::string shown_report_;
     bool calculated_ = false;  ///< set when a design was completed
 };
 

@@ -5,6 +5,7 @@
 #include "calc/surface_infiltration.h"
 #include "calc/swale.h"
 #include "calc/trench.h"
+#include "forms/calc/balances.h"
 #include "forms/calc/frm_calc.h"
 #include "forms/calc/rain_table.h"
 #include "platform/numbers/checked.h"
@@ -86,12 +87,13 @@ void frmCalc::calcTrenchArea() {
 
 void frmCalc::calcShaftBalance() {
     const auto rains = rainTable(*values_);
-    const calc::CriticalRain level = calc::shaft::waterLevel(shaftBalance(), rains);
+    const calc::CriticalRain level = calc::shaft::waterLevel(shaftBalance(*values_), rains);
     pick(*values_, level);
     values_->txtVyskaVzduti = numbers::toSingle(level.maximum);
     txtVyskaVzduti[kShaft].setText(numbers::fixed(values_->txtVyskaVzduti, 2));
 
-    values_->txtVsakPlocha = calc::shaft::infiltrationArea(shaftBalance().shafts, values_->txtVyskaVzduti);
+    values_->txtVsakPlocha =
+        calc::shaft::infiltrationArea(shaftBalance(*values_).shafts, values_->txtVyskaVzduti);
     txtVsakPlocha[kShaft].setText(numbers::fixed(values_->txtVsakPlocha, 2));
 
     values_->txtHloubkaSachty =
@@ -104,15 +106,6 @@ void frmCalc::calcShaftBalance() {
     values_->txtPotrHloubkaZahl = calc::shaft::requiredEmbedding(
         values_->txtNezamrzHlPritok, values_->txtVyskaVzduti, values_->txtMinPrusakDraha);
     txtPotrHloubkaZahl.setText(numbers::fixed(values_->txtPotrHloubkaZahl, 2));
-}
-
-calc::shaft::Balance frmCalc::shaftBalance() const {
-    return {.reduced_area_m2 = values_->RedukovanaPlocha,
-            .filtration_m_s = values_->txtSoucFiltrace,
-            .safety_factor = values_->txtSoucBezp,
-            .shafts = {.count = values_->txtSachtyCount,
-                       .outer_diameter_m = values_->D_a,
-                       .inner_diameter_m = values_->D_i}};
 }
 
 int frmCalc::soilOption(const ControlArray<OptionButton>& options) {

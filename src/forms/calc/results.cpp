@@ -3,6 +3,7 @@
 /// The report is rebuilt from the current values whenever the results tab is entered.
 #include "forms/calc/frm_calc.h"
 #include "forms/calc/report_data.h"
+#include "report/code_page.h"
 #include "report/documents.h"
 #include "report/html_report.h"
 #include "report/report_file.h"
@@ -77,16 +78,26 @@ void frmCalc::enterResultsTab(int previous_tab) {
 }
 
 void frmCalc::BuildResultsHtml() {
+    shown_report_.clear();
     if (values_->ResultsFilePath.empty()) {
         return;
     }
     // The description keeps the tags from now on.
     values_->txtDetails = withBreakTags(values_->txtDetails);
     const std::string html = report::htmlReport(reportData(*this, clock_->now()));
-    if (report::writeReport(values_->ResultsFilePath, html) == report::WriteResult::PermissionDenied) {
+    const report::WriteResult result = report::writeReport(values_->ResultsFilePath, html);
+    if (result == report::WriteResult::PermissionDenied) {
         values_->ResultsFileName = report::bareFileName(values_->ResultsFilePath);
         error("Soubor " + values_->ResultsFileName + " je otevřený jinou aplikací.");
+    } else if (result == report::WriteResult::Written) {
+        shown_report_ = html;
     }
+}
+
+bool frmCalc::keepReport() {
+    const std::string& path = values_->ResultsFilePath;
+    return shown_report_.empty() || report::holdsReport(path, shown_report_) ||
+           report::writeReport(path, shown_report_) == report::WriteResult::Written;
 }
 
 void frmCalc::cmdSaveResults_Click() {
@@ -99,14 +110,19 @@ void frmCalc::cmdSaveResults_Click() {
 
 void frmCalc::saveResults(const std::string& path) {
     auto pdf = platform::PdfResult::Made;
-    const bool saved =
-        report::isPdfPath(path)
-            ? report::replaceWhole(path,
-                                   [&](const std::string& fresh_path) {
-                                       pdf = desk_->makePdf(values_->ResultsFilePath, fresh_path);
-                                       return pdf == platform::PdfResult::Made;
-                                   })
-            : report::saveCopy(values_->ResultsFilePath, folder_, path);
+    bool saved = false;
+    if (report::isPdfPath(path)) {
+        saved = keepReport() && report::replaceWhole(path, [&](const std::string& fresh_path) {
+                    pdf = desk_->makePdf(values_->ResultsFilePath, fresh_path);
+                    return pdf == platform::PdfResult::Made;
+                });
+    } else if (!shown_report_.empty()) {
+        // As the code page has it, also what it lacks.
+        saved =
+            report::saveCopyOf(report::fromWindows1250(report::toWindows1250(shown_report_)), folder_, path);
+    } else {
+        saved = report::saveCopy(values_->ResultsFilePath, folder_, path);
+    }
     if (saved) {
         desk_->saved(path);
         return;
@@ -117,6 +133,7 @@ void frmCalc::saveResults(const std::string& path) {
 }
 
 void frmCalc::cmdPrint_Click() {
+    static_cast<void>(keepReport());
     desk_->openPrintPreview(values_->ResultsFilePath);
 }
 

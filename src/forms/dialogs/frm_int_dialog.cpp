@@ -175,6 +175,18 @@ void frmIntDialog::cmdOK_Click() {
     Unload();
 }
 
+std::array<calc::Rain, calc::kRainRows> frmIntDialog::rains() const {
+    std::array<calc::Rain, calc::kRainRows> rows;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        rows[row] = {values_->DobaTrvani[row], values_->IntenzitaDeste[row]};
+    }
+    return rows;
+}
+
+calc::Rain frmIntDialog::pickedRain() const {
+    return {values_->VybranaDoba, values_->VybranaIntenzita};
+}
+
 void frmIntDialog::cmdEdit_Click() {
     txtHelp.show();
     cmdCloseHelp.show();

@@ -3,10 +3,12 @@
 /// Everything the user does is stored at once; only OK carries the picked rain to the main window.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
 
+#include "calc/rain.h"
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
 #include "forms/dialogs/cell_editor.h"
@@ -48,6 +50,10 @@ class frmIntDialog : public Dialog {
     void cmdOK_Click();
     void cmdEdit_Click();
     void cmdCloseHelp_Click();
+
+    /// The nine rows of the table and the picked row, for a picture of them.
+    [[nodiscard]] std::array<calc::Rain, calc::kRainRows> rains() const;
+    [[nodiscard]] calc::Rain pickedRain() const;
 
   protected:
     void Form_Load() override;

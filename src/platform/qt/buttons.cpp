@@ -11,6 +11,8 @@
 #include <functional>
 #include <utility>
 
+#include "platform/qt/field_keys.h"
+#include "platform/qt/spoken.h"
 #include "platform/qt/texts.h"
 
 namespace mero::qt {
@@ -39,6 +41,8 @@ class LinkLabel : public QLabel {
         setFont(underlined);
         setForegroundRole(QPalette::Link);
         setFrameShape(QFrame::NoFrame);
+        setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+        speakAs(*this, QAccessible::Link);
     }
 
   protected:
@@ -77,6 +81,8 @@ void bindCaption(platform::Label& label, QLabel& widget) {
 
 QPushButton& makeButton(WidgetKit& kit, platform::Button& button, QWidget& parent) {
     auto& push = *new QPushButton(captionText(button.text()), &parent);
+    // Enter presses the button that has the focus, not only the space bar.
+    push.setAutoDefault(true);
     bindCommon(kit, button, push);
     follow(button, push, [&button, &push](Aspect aspect) {
         if (aspect == Aspect::Text) {
@@ -90,6 +96,8 @@ QPushButton& makeButton(WidgetKit& kit, platform::Button& button, QWidget& paren
 
 QRadioButton& makeOption(WidgetKit& kit, platform::OptionButton& option, QWidget& parent) {
     auto& radio = *new QRadioButton(captionText(option.text()), &parent);
+    radio.setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    chooseByArrows(radio);
     bindCommon(kit, option, radio);
     showSelected(radio, option.selected());
     follow(option, radio, [&option, &radio](Aspect aspect) {
@@ -106,6 +114,7 @@ QRadioButton& makeOption(WidgetKit& kit, platform::OptionButton& option, QWidget
 
 QCheckBox& makeCheckBox(WidgetKit& kit, platform::CheckBox& box, QWidget& parent) {
     auto& check = *new QCheckBox(captionText(box.text()), &parent);
+    check.setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     check.setChecked(box.checked());
     bindCommon(kit, box, check);
     follow(box, check, [&box, &check](Aspect aspect) {
@@ -136,19 +145,21 @@ QLabel& makeLink(WidgetKit& kit, platform::Label& label, QWidget& parent) {
     return widget;
 }
 
-QWidget& makeUpDown(WidgetKit& kit, UpDown& control, QWidget& parent) {
+QWidget& makeUpDown(WidgetKit& kit, UpDown& control, const QString& meaning, QWidget& parent) {
     auto& arrows = *new QWidget(&parent);
+    describe(arrows, meaning);
+    speakAs(arrows, QAccessible::Grouping);
     auto* column = new QVBoxLayout(&arrows);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    const auto add_arrow = [&](const char* name, const QString& meaning, Qt::ArrowType type,
+    const auto add_arrow = [&](const char* name, const QString& way, Qt::ArrowType type,
                                UpDown::Direction direction) {
         auto* arrow = new QToolButton(&arrows);
         arrow->setObjectName(QLatin1String(name));
         arrow->setArrowType(type);
         arrow->setAutoRepeat(true);
         arrow->setFocusPolicy(Qt::NoFocus);
-        arrow->setAccessibleName(meaning);
+        describe(*arrow, arrows.accessibleName() + QLatin1String(": ") + way);
         const int height = arrows.fontMetrics().height() * 3 / 4;
         arrow->setFixedSize(height * 5 / 3, height);
         column->addWidget(arrow);
@@ -156,8 +167,8 @@ QWidget& makeUpDown(WidgetKit& kit, UpDown& control, QWidget& parent) {
             kit.enter([&control, direction] { control.userSpin(direction); });
         });
     };
-    add_arrow("up", QStringLiteral("Více"), Qt::UpArrow, UpDown::Direction::Up);
-    add_arrow("down", QStringLiteral("Méně"), Qt::DownArrow, UpDown::Direction::Down);
+    add_arrow("up", QStringLiteral("více"), Qt::UpArrow, UpDown::Direction::Up);
+    add_arrow("down", QStringLiteral("méně"), Qt::DownArrow, UpDown::Direction::Down);
     bindCommon(kit, control, arrows);
     return arrows;
 }

@@ -27,6 +27,7 @@ QLabel& makeLabel(WidgetKit& kit, platform::Label& label, QWidget& parent);
 QLabel& makeLink(WidgetKit& kit, platform::Label& label, QWidget& parent);
 
 /// Two arrows; their object names are "up" and "down".
-QWidget& makeUpDown(WidgetKit& kit, platform::UpDown& control, QWidget& parent);
+/// @param meaning what is counted, for assistive technology
+QWidget& makeUpDown(WidgetKit& kit, platform::UpDown& control, const QString& meaning, QWidget& parent);
 
 }  // namespace mero::qt

@@ -23,6 +23,7 @@ QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view
     QLineEdit& line = makeLineEdit(kit, box, *view.viewport());
     // The cell is low: a frame and wide margins would leave no room for the text.
     line.setFrame(false);
+    view.setEditor(line);
     line.setAutoFillBackground(true);
     const auto place = [&line, &view, &grid] {
         const QRect cell = view.cellRect(grid.current());

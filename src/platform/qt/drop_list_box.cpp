@@ -3,10 +3,10 @@
 /// Only `activated` speaks of a person's choice; filling and selecting by code are silent.
 #include "platform/qt/drop_list_box.h"
 
-#include <QEvent>
 #include <QProxyStyle>
 #include <QSignalBlocker>
 
+#include "platform/qt/field_keys.h"
 #include "platform/qt/texts.h"
 
 namespace mero::qt {
@@ -23,18 +23,6 @@ class ListStyle : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
         return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
-
-class WheelFilter : public QObject {
-  public:
-    using QObject::QObject;
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Wheel) {
-            event->ignore();
-            return true;
-        }
-        return QObject::eventFilter(watched, event);
     }
 };
 
@@ -69,7 +57,7 @@ QComboBox& makeDropList(WidgetKit& kit, DropList& list, QWidget& parent) {
     combo.setStyle(style);
     combo.setMaxVisibleItems(kVisibleEntries);
     combo.setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    combo.installEventFilter(new WheelFilter(&combo));
+    keepWheelForFocus(combo);
     showItems(combo, list);
     bindCommon(kit, list, combo);
     bindFocus(kit, combo, [&list] { list.userGotFocus(); }, {});

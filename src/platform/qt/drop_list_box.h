@@ -10,7 +10,7 @@
 namespace mero::qt {
 
 /// Picking an entry runs the handler, also the entry that is selected already. The mouse wheel scrolls the
-/// page and never changes the choice by accident.
+/// page; it turns over the entries only while the list has the focus.
 QComboBox& makeDropList(WidgetKit& kit, platform::DropList& list, QWidget& parent);
 
 }  // namespace mero::qt

@@ -5,11 +5,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/focus_ring.h"
 #include "platform/qt/texts.h"
 
 namespace mero::qt {
@@ -21,6 +24,39 @@ using platform::Aspect;
 constexpr int kLeftTwips = 5880;
 constexpr int kTopTwips = 1080;
 constexpr int kTwipsPerInch = 1440;
+
+/// Scrolls the content of a dialog that is too large for the screen; otherwise it cannot be noticed.
+class ContentArea : public QScrollArea {
+  public:
+    explicit ContentArea(QWidget& window) : QScrollArea(&window) {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override {
+        return widget() == nullptr ? QScrollArea::sizeHint() : widget()->sizeHint();
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        if (widget() == nullptr) {
+            return QScrollArea::minimumSizeHint();
+        }
+        const QSize screen_size = screen()->availableGeometry().size();
+        return widget()->minimumSizeHint().boundedTo(screen_size * kShareOfScreen);
+    }
+
+  protected:
+    bool event(QEvent* event) override {
+        const bool handled = QScrollArea::event(event);
+        if (event->type() == QEvent::LayoutRequest) {
+            updateGeometry();
+        }
+        return handled;
+    }
+
+  private:
+    static constexpr double kShareOfScreen = 0.8;
+};
 
 }  // namespace
 
@@ -45,14 +81,22 @@ void FormWindow::showForm() {
     if (content_ == nullptr) {
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
-        content_ = new QWidget(this);
-        layout->addWidget(content_);
+        if (owner_ == nullptr) {
+            content_ = new QWidget(this);
+            layout->addWidget(content_);
+        } else {
+            auto* area = new ContentArea(*this);
+            content_ = new QWidget(area);
+            area->setWidget(content_);
+            layout->addWidget(area);
+        }
+        addFocusRing(*this);
         build(*content_);
         content_->setEnabled(form_->enabled());
     }
     const bool opens = owner_ != nullptr && !isVisible();
     if (opens) {
-        adjustSize();
+        fitContent();
         placeOverOwner();
     }
     show();
@@ -87,8 +131,36 @@ void FormWindow::setFormEnabled(bool enabled) {
     }
 }
 
+void FormWindow::fitContent() {
+    // From the inside out, so that each size is known before the next one asks for it.
+    for (QWidget* holder = content_; holder != this; holder = holder->parentWidget()) {
+        if (holder->layout() != nullptr) {
+            holder->layout()->activate();
+        }
+        QEvent request(QEvent::LayoutRequest);
+        QApplication::sendEvent(holder->parentWidget(), &request);
+    }
+    layout()->activate();
+    resize(sizeHint().boundedTo(screen()->availableGeometry().size()));
+}
+
+void FormWindow::confirmWith(QPushButton& button) {
+    confirm_ = &button;
+    button.setDefault(true);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (owner_ != nullptr && event->key() == Qt::Key_Escape) {
+        close();
+    } else if (enter && !confirm_.isNull()) {
+        confirm_->click();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
 void FormWindow::placeOverOwner() {
-    resize(size().boundedTo(owner_->screen()->availableGeometry().size()));
     const QPoint offset = QPoint(kLeftTwips, kTopTwips) * owner_->logicalDpiX() / kTwipsPerInch;
     moveOntoScreen(owner_->frameGeometry().topLeft() + offset);
 }

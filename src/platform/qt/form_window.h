@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QPushButton>
 #include <QWidget>
 
 #include "platform/controls/form.h"
@@ -19,9 +20,15 @@ class FormWindow : public QWidget {
     /// Puts the widgets into `content`, which is disabled while the form is.
     virtual void build(QWidget& content) = 0;
 
+    /// The button that Enter presses where the field with the focus has no use for it.
+    void confirmWith(QPushButton& button);
+    /// Makes a dialog as large as its content wants to be, as far as the screen allows.
+    void fitContent();
+
     [[nodiscard]] WidgetKit& kit() const { return *kit_; }
 
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
@@ -37,6 +44,7 @@ class FormWindow : public QWidget {
     platform::Form* form_;
     FormWindow* owner_;
     QWidget* content_ = nullptr;
+    QPointer<QPushButton> confirm_;
     QPointer<QWidget> focus_before_disabling_;
 };
 

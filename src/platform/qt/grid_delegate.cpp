@@ -3,10 +3,10 @@
 /// The pictures are drawn, not stored, so they are sharp at any scale and follow the palette.
 #include "platform/qt/grid_delegate.h"
 
-#include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
 
+#include "platform/qt/focus_ring.h"
 #include "platform/qt/look.h"
 
 namespace mero::qt {
@@ -58,10 +58,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->drawText(option.rect.adjusted(padded, 0, -padded, 0), alignment | Qt::TextWordWrap,
                       index.data(Qt::DisplayRole).toString());
     if (option.state & QStyle::State_HasFocus) {
-        QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(option);
-        focus.backgroundColor = palette.color(group, QPalette::Base);
-        QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter);
+        paintRing(*painter, option.rect, palette);
     }
 }
 

@@ -72,9 +72,23 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
                 return rowIsMarked(index.row()) ? QStringLiteral("vybráno") : QStringLiteral("nevybráno");
             }
             return data(index, Qt::DisplayRole);
+        case Qt::AccessibleDescriptionRole:
+            return spokenPlace(index);
         default:
             return {};
     }
+}
+
+QString GridModel::spokenPlace(const QModelIndex& index) const {
+    const QString heading = headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString();
+    QString row;
+    // What tells rows apart stands in their first column that does not repeat itself.
+    for (int column = 0; column < columns_ && row.isEmpty(); ++column) {
+        if (!grid_->columns()[static_cast<std::size_t>(column)].merges_equal_neighbours) {
+            row = data(this->index(index.row(), column), Qt::DisplayRole).toString();
+        }
+    }
+    return row.isEmpty() ? heading : heading + QLatin1String(", ") + row;
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {

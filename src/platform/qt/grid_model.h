@@ -33,6 +33,9 @@ class GridModel : public QAbstractTableModel {
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    /// Heading of the cell's column and caption of its row.
+    [[nodiscard]] QString spokenPlace(const QModelIndex& index) const;
+
     const platform::Grid* grid_;
     int choice_column_;
     int rows_ = 0;

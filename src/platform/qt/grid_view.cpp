@@ -3,6 +3,7 @@
 /// Handlers fill a grid cell by cell; the view follows once, after the event, or when somebody asks for it.
 #include "platform/qt/grid_view.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -10,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/qt/focus_ring.h"
 #include "platform/qt/grid_delegate.h"
 #include "platform/qt/look.h"
 
@@ -30,6 +32,8 @@ GridView::GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, Grid
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setTabKeyNavigation(false);
+    setFocusPolicy(Qt::StrongFocus);
+    showsFocusItself(*this);
     setMouseTracking(true);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(1);
@@ -213,7 +217,32 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
-    QTableView::keyPressEvent(event);
+    if (!typeIntoCell(*event)) {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+bool GridView::typeIntoCell(QKeyEvent& event) {
+    const bool types = !event.text().isEmpty() && event.text().front().isPrint() &&
+                       (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    if (editor_.isNull() || !types || !currentIndex().isValid() ||
+        currentIndex().column() == model_.choiceColumn()) {
+        return false;
+    }
+    click(GridModel::cellOf(currentIndex()));
+    // The editor opens with its whole text selected: the first key replaces it, as any typing there would.
+    if (!editor_.isNull() && editor_->isVisible()) {
+        QApplication::sendEvent(editor_, &event);
+    }
+    return true;
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+    refresh();
+    if (!currentIndex().isValid() && model_.rowCount() > 0) {
+        setCurrentIndex(model_.index(0, 0));
+    }
+    QTableView::focusInEvent(event);
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {

@@ -2,6 +2,8 @@
 /// A grid as a table widget: header row, column widths as fractions, merged neighbours, pictures.
 #pragma once
 
+#include <QLineEdit>
+#include <QPointer>
 #include <QTableView>
 #include <optional>
 
@@ -32,6 +34,9 @@ class GridView : public QTableView {
 
     [[nodiscard]] QSize sizeHint() const override;
 
+    /// Typing over a cell of a column that can be edited clicks it and types into this editor.
+    void setEditor(QLineEdit& editor) { editor_ = &editor; }
+
     /// Called when cells have moved: scrolled, resized, refreshed.
     std::function<void()> cells_moved;
 
@@ -40,6 +45,7 @@ class GridView : public QTableView {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -48,6 +54,8 @@ class GridView : public QTableView {
   private:
     [[nodiscard]] std::optional<platform::GridCell> cellAt(QPoint position) const;
     void click(platform::GridCell cell);
+    /// Opens the editor of the current cell with the key that was typed.
+    bool typeIntoCell(QKeyEvent& event);
     void refreshLater();
     void layOut();
     void layOutColumns();
@@ -61,6 +69,7 @@ class GridView : public QTableView {
     bool stale_ = true;  ///< behind the grid until it is first shown
     bool laying_out_ = false;
     std::optional<platform::GridCell> pressed_;
+    QPointer<QLineEdit> editor_;
 };
 
 /// Builds the view of a grid and binds it.

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 /// How fields look: inputs, results, and fields that the program has greyed.
+/// They follow when the desktop changes its colours.
 /// All colours come from the user's palette and all sizes from the user's font.
 #pragma once
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QWidget>
 
@@ -10,6 +12,12 @@ namespace mero::qt {
 
 /// A field that only the program fills: people can read and copy it, not change it.
 void showAsResult(QLineEdit& field);
+
+/// A warning that stands on the window all the time.
+void showAsWarning(QLabel& label);
+
+/// Whether the window shows light texts on a dark ground.
+[[nodiscard]] bool isDark(const QPalette& palette);
 
 /// Button-face background, or the field's normal one.
 void setGreyed(QWidget& field, bool greyed);

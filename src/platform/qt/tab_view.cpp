@@ -3,16 +3,40 @@
 /// A handler may switch back at once; the control's position is what counts.
 #include "platform/qt/tab_view.h"
 
+#include <QPainter>
+#include <QShortcut>
 #include <QTabBar>
 #include <utility>
 
+#include "platform/qt/focus_ring.h"
 #include "platform/qt/texts.h"
 
 namespace mero::qt {
 
+namespace {
+
+/// Shows which tab the arrow keys start from.
+class TabBar : public QTabBar {
+  public:
+    explicit TabBar(QWidget* parent) : QTabBar(parent) { showsFocusItself(*this); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QTabBar::paintEvent(event);
+        if (hasFocus()) {
+            QPainter painter(this);
+            paintRing(painter, QRectF(tabRect(currentIndex())).adjusted(1, 1, -1, -1), palette());
+        }
+    }
+};
+
+}  // namespace
+
 TabView::TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent)
     : QTabWidget(&parent), tabs_(&tabs) {
+    setTabBar(new TabBar(this));
     setDocumentMode(true);
+    addShortcuts();
     for (const std::string& caption : tabs.captions()) {
         addTab(new QWidget(this), captionText(caption));
     }
@@ -32,6 +56,20 @@ TabView::TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent)
             showPosition();
         }
     });
+}
+
+void TabView::addShortcuts() {
+    const auto add = [this](const QKeySequence& keys, int step) {
+        auto* shortcut = new QShortcut(keys, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, step] { setCurrentIndex((currentIndex() + step + count()) % count()); });
+    };
+    add(Qt::CTRL | Qt::Key_Tab, 1);
+    add(Qt::CTRL | Qt::Key_PageDown, 1);
+    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, -1);
+    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, -1);
+    add(Qt::CTRL | Qt::Key_PageUp, -1);
 }
 
 void TabView::setPage(int position, Builder builder) {

@@ -24,6 +24,7 @@ class TabView : public QTabWidget {
     [[nodiscard]] QRect tabRect(int position) const;
 
   private:
+    void addShortcuts();
     void showPosition();
     void buildPage(int position);
 

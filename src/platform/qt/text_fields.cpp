@@ -19,21 +19,24 @@ using platform::TextBox;
 /// Far above what anybody enters; the widget's own limit would cut a pasted text without a word.
 constexpr int kLongestText = 16'000'000;
 
-/// Gives Enter and Escape to the box's handler.
+/// Gives Enter and Escape to the box's handler. What no handler wants, and Escape where it has closed no
+/// editor, goes on to the window.
 class KeyFilter : public QObject {
   public:
     KeyFilter(WidgetKit& kit, TextBox& box, QWidget& widget) : QObject(&widget), kit_(&kit), box_(&box) {}
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::KeyPress) {
-            const int key = dynamic_cast<QKeyEvent&>(*event).key();
-            if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            const auto& key_event = dynamic_cast<QKeyEvent&>(*event);
+            const int key = key_event.key();
+            const bool plain = (key_event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+            if (plain && box_->key_pressed && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
                 kit_->enter([this] { box_->userKey(Key::Enter); });
                 return true;
             }
-            if (key == Qt::Key_Escape) {
+            if (plain && box_->key_pressed && key == Qt::Key_Escape) {
                 kit_->enter([this] { box_->userKey(Key::Escape); });
-                return true;
+                return !box_->visible();
             }
         }
         return QObject::eventFilter(watched, event);
@@ -98,6 +101,7 @@ QLineEdit& makeLineEdit(WidgetKit& kit, TextBox& box, QWidget& parent) {
 QPlainTextEdit& makeTextArea(WidgetKit& kit, TextBox& box, QWidget& parent) {
     auto& area = *new QPlainTextEdit(withPlainBreaks(box.text()), &parent);
     area.setTabChangesFocus(true);
+    area.setFocusPolicy(Qt::StrongFocus);
     bindBox(kit, box, area);
     follow(box, area, [&box, &area](Aspect aspect) {
         if (aspect == Aspect::Text) {

@@ -5,6 +5,8 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QLineEdit>
+#include <QScrollArea>
 #include <QTimer>
 #include <utility>
 
@@ -91,6 +93,18 @@ void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::
     }
 }
 
+void leadTo(QWidget& widget) {
+    for (QWidget* holder = widget.parentWidget(); holder != nullptr; holder = holder->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(holder)) {
+            area->ensureWidgetVisible(&widget);
+        }
+    }
+    widget.setFocus(Qt::ActiveWindowFocusReason);
+    if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
+        line->selectAll();
+    }
+}
+
 void later(QObject& object, std::function<void()> action) {
     auto* timer = new QTimer(&object);
     timer->setSingleShot(true);
@@ -99,11 +113,6 @@ void later(QObject& object, std::function<void()> action) {
         action();
     });
     timer->start(0);
-}
-
-void describe(QWidget& widget, const QString& caption, const QString& unit) {
-    widget.setAccessibleName(unit.isEmpty() ? caption
-                                            : caption + QLatin1String(" [") + unit + QLatin1Char(']'));
 }
 
 }  // namespace mero::qt

@@ -10,6 +10,7 @@
 #include <unordered_map>
 
 #include "platform/controls/control.h"
+#include "platform/qt/spoken.h"
 
 namespace mero::qt {
 
@@ -47,10 +48,11 @@ void bindCommon(WidgetKit& kit, platform::Control& control, QWidget& widget);
 /// and lists that drop down count as neither.
 void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost);
 
+/// Shows the widget and puts the focus there, its text selected. No handler runs: it is as if the window had
+/// been left and entered again.
+void leadTo(QWidget& widget);
+
 /// Calls `action` once, after the running event, if the object still lives then.
 void later(QObject& object, std::function<void()> action);
-
-/// Names the widget for assistive technology: caption and unit.
-void describe(QWidget& widget, const QString& caption, const QString& unit = {});
 
 }  // namespace mero::qt

@@ -2,12 +2,16 @@
 // The program's folder: beside the executable where that holds the pages, else the user's own.
 #include "app/common/program_folder.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "support/temporary_folder.h"
 
@@ -62,25 +66,108 @@ TEST(ProgramFolder, WithoutADataHomeItIsBelowTheHome) {
     }
 }
 
+/// Data as an installation puts them; gone after the test, also where they were made read-only.
+class InstalledData {
+  public:
+    explicit InstalledData(std::filesystem::path folder) : folder_(std::move(folder)) {
+        EXPECT_FALSE(std::filesystem::exists(folder_ / "Webs"));
+        std::filesystem::create_directories(folder_ / "Webs/Desc_soubory");
+        write("mero.mdb");
+        write("Webs/Desc01.htm");
+        write("Webs/Desc_soubory/logo.gif");
+    }
+    InstalledData(const InstalledData&) = delete;
+    InstalledData& operator=(const InstalledData&) = delete;
+    ~InstalledData() {
+        permit(std::filesystem::perms::owner_all);
+        for (const char* name : {"Webs", "mero.mdb", "examples"}) {
+            std::filesystem::remove_all(folder_ / name);
+        }
+    }
+
+    void write(const char* name) const {
+        std::filesystem::create_directories((folder_ / name).parent_path());
+        std::ofstream(folder_ / name) << "installed";
+    }
+    /// Sets the permissions of every folder of the data.
+    void permit(std::filesystem::perms permissions) const {
+        for (const char* name : {"Webs/Desc_soubory", "Webs"}) {
+            std::filesystem::permissions(folder_ / name, permissions);
+        }
+    }
+
+  private:
+    std::filesystem::path folder_;
+};
+
+std::filesystem::path installedFolder() {
+    return std::filesystem::path(executableFolder()) / "../share/mero";
+}
+
 TEST(ProgramFolder, WhatIsMissingComesFromTheInstalledDataAndWhatIsThereStays) {
-    const std::filesystem::path installed = std::filesystem::path(executableFolder()) / "../share/mero";
-    ASSERT_FALSE(std::filesystem::exists(installed));
-    std::filesystem::create_directories(installed / "Webs");
-    const auto write = [](const std::filesystem::path& file, const char* content) {
-        std::ofstream(file) << content;
-    };
-    write(installed / "mero.mdb", "installed");
-    write(installed / "Webs/Desc01.htm", "installed");
+    const InstalledData installed(installedFolder());
     const test::TemporaryFolder home;
     std::filesystem::create_directories(home.file("mero"));
     home.write("mero/mero.mdb", "the user's");
-    {
-        const Environment data_home("XDG_DATA_HOME", home.path());
-        EXPECT_EQ(defaultProgramFolder(), home.file("mero"));
-    }
-    std::filesystem::remove_all(installed);
+    const Environment data_home("XDG_DATA_HOME", home.path());
+    EXPECT_EQ(defaultProgramFolder(), home.file("mero"));
     EXPECT_EQ(home.read("mero/mero.mdb"), "the user's");
     EXPECT_EQ(home.read("mero/Webs/Desc01.htm"), "installed");
+    EXPECT_EQ(home.read("mero/Webs/Desc_soubory/logo.gif"), "installed");
+}
+
+TEST(ProgramFolder, APageThatWentMissingComesBackAtTheNextStart) {
+    const InstalledData installed(installedFolder());
+    const test::TemporaryFolder home;
+    const Environment data_home("XDG_DATA_HOME", home.path());
+    EXPECT_EQ(defaultProgramFolder(), home.file("mero"));
+    std::filesystem::remove(home.file("mero/Webs/Desc01.htm"));
+    home.write("mero/Webs/Desc_soubory/logo.gif", "the user's");
+    EXPECT_EQ(defaultProgramFolder(), home.file("mero"));
+    EXPECT_EQ(home.read("mero/Webs/Desc01.htm"), "installed");
+    EXPECT_EQ(home.read("mero/Webs/Desc_soubory/logo.gif"), "the user's");
+}
+
+TEST(ProgramFolder, OnlyWhatTheProgramReadsIsCopiedAndNothingElseIsLeft) {
+    const InstalledData installed(installedFolder());
+    installed.write("examples/jama.mero");
+    const test::TemporaryFolder home;
+    const Environment data_home("XDG_DATA_HOME", home.path());
+    std::vector<std::string> found;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(defaultProgramFolder())) {
+        if (entry.is_regular_file()) {
+            found.push_back(entry.path().lexically_relative(home.path()).string());
+        }
+    }
+    EXPECT_THAT(found, testing::UnorderedElementsAre("mero/mero.mdb", "mero/Webs/Desc01.htm",
+                                                     "mero/Webs/Desc_soubory/logo.gif"));
+}
+
+// As on a medium that is read-only by nature: the copies' folders and files are the user's all the same.
+TEST(ProgramFolder, CopiesOfReadOnlyDataCanBeReplaced) {
+    const InstalledData installed(installedFolder());
+    using std::filesystem::perms;
+    installed.permit(perms::owner_read | perms::owner_exec);
+    std::filesystem::permissions(installedFolder() / "mero.mdb", perms::owner_read);
+    const test::TemporaryFolder home;
+    const Environment data_home("XDG_DATA_HOME", home.path());
+    EXPECT_EQ(defaultProgramFolder(), home.file("mero"));
+    for (const char* name : {"mero/mero.mdb", "mero/Webs", "mero/Webs/Desc_soubory"}) {
+        const perms permissions = std::filesystem::status(home.file(name)).permissions();
+        EXPECT_NE(permissions & perms::owner_write, perms::none) << name;
+    }
+}
+
+// A file stands where a folder must be: the start goes on with what could be copied.
+TEST(ProgramFolder, WhatCannotBeCopiedIsLeftOut) {
+    const InstalledData installed(installedFolder());
+    const test::TemporaryFolder home;
+    std::filesystem::create_directories(home.file("mero"));
+    home.write("mero/Webs", "in the way");
+    const Environment data_home("XDG_DATA_HOME", home.path());
+    EXPECT_EQ(defaultProgramFolder(), home.file("mero"));
+    EXPECT_EQ(home.read("mero/mero.mdb"), "installed");
+    EXPECT_EQ(home.read("mero/Webs"), "in the way");
 }
 
 TEST(ProgramFolder, TheReaderIsBesideTheExecutableOrInTheInstalledPlace) {

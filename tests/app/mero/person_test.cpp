@@ -58,8 +58,10 @@ TEST_F(Person, StartsInTheProjectsName) {
     EXPECT_EQ(QApplication::focusWidget(), kit.find(program.window().txtProjName));
 }
 
-TEST_F(Person, TheTabKeyPassesResultsBy) {
+TEST_F(Person, TheTabKeyReachesWhatIsToBeReadToo) {
     widget<QPlainTextEdit>("txtDetails").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), kit.find(program.window().txtOdvodNepPlocha));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), kit.find(program.window().cmdEdit[1]));
 }

@@ -128,7 +128,7 @@ TEST(UpDownWidget, ArrowsSpin) {
     BenchForm bench;
     platform::UpDown control(bench.form, "updSacht");
     BenchWindow window;
-    QWidget& arrows = window.put(makeUpDown(bench.kit, control, window));
+    QWidget& arrows = window.put(makeUpDown(bench.kit, control, "Počet šachet:", window));
     std::string log;
     control.spun = [&](platform::UpDown::Direction direction) {
         log += direction == platform::UpDown::Direction::Up ? '+' : '-';
@@ -178,12 +178,20 @@ TEST_F(List, PickingTheSelectedEntryRunsTheHandlerAgain) {
     EXPECT_EQ(clicks, 2);
 }
 
-TEST_F(List, TheWheelDoesNotChooseByAccident) {
+TEST_F(List, TheWheelDoesNotChooseByAccidentButWhereTheFocusIs) {
     list.select(0);
-    QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&combo, &wheel);
+    const auto turn = [&] {
+        QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&combo, &wheel);
+    };
+    combo.clearFocus();
+    turn();
     EXPECT_EQ(list.position(), 0);
+    EXPECT_EQ(combo.focusPolicy(), Qt::StrongFocus) << "turning the wheel brings no focus";
+    combo.setFocus();
+    turn();
+    EXPECT_EQ(list.position(), 1);
 }
 
 TEST_F(List, ShowsWhatTheHandlerDecides) {

@@ -8,6 +8,7 @@
 #include "platform/qt/field_grid.h"
 #include "platform/qt/look.h"
 #include "platform/qt/page_layout.h"
+#include "platform/qt/palettes.h"
 #include "platform/qt/panels.h"
 
 namespace mero::qt {
@@ -42,7 +43,7 @@ TEST_F(Fields, CaptionFieldAndUnitStandInOneRow) {
     EXPECT_LT(label("Výška rýhy").geometry().right(), line.geometry().left());
     EXPECT_LT(line.geometry().right(), label("m").geometry().left());
     EXPECT_LE(std::abs(label("m").geometry().center().y() - line.geometry().center().y()), 2);
-    EXPECT_EQ(line.accessibleName(), "Výška rýhy [m]");
+    EXPECT_EQ(line.accessibleName(), "Výška rýhy, m");
     EXPECT_EQ(label("Výška rýhy").buddy(), &line);
 }
 
@@ -63,12 +64,40 @@ TEST_F(Fields, AResultIsReadOnlyBoldAndOnTheRight) {
     EXPECT_TRUE(result.font().bold());
     EXPECT_TRUE(result.alignment() & Qt::AlignRight);
     EXPECT_NE(result.palette().color(QPalette::Base), window.palette().color(QPalette::Base));
-    EXPECT_EQ(result.focusPolicy() & Qt::TabFocus, 0);
+    EXPECT_TRUE(result.focusPolicy() & Qt::TabFocus) << "read and copied by the keyboard too";
 }
 
 TEST_F(Fields, TheirWidthComesFromTheFont) {
     const QLineEdit& line = grid.input(box, "a");
     EXPECT_EQ(line.width(), textWidth(line, 14));
+}
+
+TEST_F(Fields, TheirColoursFollowThePalette) {
+    platform::TextBox plain_box(bench.form, "txtSirkaRyhy");
+    platform::TextBox greyed_box(bench.form, "txtVyskaPiskVrstvy");
+    const QLineEdit& plain = grid.input(plain_box, "a");
+    const QLineEdit& result = grid.result(box, "b");
+    const QLineEdit& greyed = grid.input(greyed_box, "c");
+    greyed_box.setGreyed(true);
+    QLabel warning("d", &place);
+    showAsWarning(warning);
+    show();
+    const QPalette before = QApplication::palette();
+    for (const QPalette& palette : {darkPalette(), lightPalette(), darkPalette()}) {
+        QApplication::setPalette(palette);
+        QApplication::processEvents();
+        const bool dark = isDark(palette);
+        for (const QLineEdit* line : {&plain, &result, &greyed}) {
+            EXPECT_EQ(line->palette().color(QPalette::Base).lightness() < 128, dark);
+            EXPECT_EQ(line->palette().color(QPalette::Text).lightness() < 128, !dark);
+        }
+        EXPECT_EQ(greyed.palette().color(QPalette::Base), palette.color(QPalette::Button));
+        EXPECT_NE(result.palette().color(QPalette::Base), plain.palette().color(QPalette::Base));
+        EXPECT_EQ(warning.palette().color(QPalette::WindowText).lightness() > 140, dark);
+    }
+    greyed_box.setGreyed(false);
+    EXPECT_EQ(greyed.palette().color(QPalette::Base), darkPalette().color(QPalette::Base));
+    QApplication::setPalette(before);
 }
 
 class Pair : public testing::Test {

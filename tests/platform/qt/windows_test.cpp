@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 
@@ -56,6 +58,23 @@ TEST_F(Tabs, AHandlerCanSwitchBack) {
     click(2);
     EXPECT_EQ(view.currentIndex(), 0);
     EXPECT_EQ(tabs.position(), 0);
+}
+
+TEST_F(Tabs, KeysTurnThePagesAndRunTheHandler) {
+    std::vector<int> left;
+    tabs.changed = [&](int previous) { left.push_back(previous); };
+    view.tabBar()->setFocus();
+    QTest::keyClick(view.tabBar(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(tabs.position(), 1);
+    QTest::keyClick(view.tabBar(), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(tabs.position(), 2);
+    QTest::keyClick(view.tabBar(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(tabs.position(), 0) << "from the last to the first";
+    QTest::keyClick(view.tabBar(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(tabs.position(), 2);
+    QTest::keyClick(view.tabBar(), Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(tabs.position(), 1);
+    EXPECT_EQ(left, (std::vector{0, 1, 2, 0, 2}));
 }
 
 TEST_F(Tabs, PagesAreBuiltWhenTheyAreFirstShown) {
@@ -152,13 +171,39 @@ TEST_F(Windows, ADisabledWindowCannotBeClosed) {
     EXPECT_TRUE(main_window.isVisible());
 }
 
-TEST_F(Windows, EscapeDoesNotCloseADialog) {
-    bool asked = false;
-    dialog_form.close_requested = [&] { asked = true; };
+TEST_F(Windows, EscapeIsADialogsCloseBoxAndNotTheMainWindows) {
+    int requests = 0;
+    dialog_form.close_requested = [&] { ++requests; };
+    main_form.close_requested = [&] { ADD_FAILURE() << "Escape must not end the program"; };
+    QTest::keyClick(kit.find(edit), Qt::Key_Escape);
     dialog_form.show();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    EXPECT_FALSE(asked);
-    EXPECT_TRUE(dialog.isVisible());
+    QTest::keyClick(kit.find(ok), Qt::Key_Escape);
+    EXPECT_EQ(requests, 1);
+    EXPECT_TRUE(dialog.isVisible()) << "closing is the form's decision";
+}
+
+TEST_F(Windows, EnterPressesTheButtonThatHasTheFocus) {
+    int edits = 0;
+    edit.clicked = [&] { ++edits; };
+    QTest::keyClick(kit.find(edit), Qt::Key_Return);
+    QTest::keyClick(kit.find(edit), Qt::Key_Space);
+    EXPECT_EQ(edits, 2);
+}
+
+TEST_F(Windows, ADialogTooLargeForTheScreenScrolls) {
+    dialog_form.show();
+    auto& button = *kit.find(ok);
+    const QSize screen = dialog.screen()->availableGeometry().size();
+    EXPECT_EQ(button.window(), &dialog);
+    button.setMinimumSize(screen * 2);
+    dialog_form.hide();
+    dialog_form.show();
+    EXPECT_LE(dialog.width(), screen.width());
+    EXPECT_LE(dialog.height(), screen.height());
+    QApplication::processEvents();
+    const auto* area = dialog.findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
 }
 
 TEST_F(Windows, ADialogOpensWhollyOnTheScreen) {

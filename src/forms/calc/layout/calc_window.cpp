@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "forms/calc/layout/concerned_field.h"
 #include "forms/calc/layout/design_page.h"
 #include "forms/calc/layout/documents_pages.h"
 #include "forms/calc/layout/inputs_page.h"
@@ -32,6 +33,16 @@ CalcWindow::CalcWindow(qt::WidgetKit& kit, frmCalc& form, qt::DocumentServices s
       soil_window_(std::make_unique<SoilWindow>(kit, form.coefDialog, *this)) {}
 
 CalcWindow::~CalcWindow() = default;
+
+void CalcWindow::returnToField(const std::string& message) {
+    qt::later(*this, [this, message] {
+        const platform::Control* control = concernedControl(*form_, message);
+        QWidget* widget = control == nullptr ? nullptr : kit().find(*control);
+        if (widget != nullptr) {
+            qt::leadTo(*widget);
+        }
+    });
+}
 
 void CalcWindow::build(QWidget& content) {
     auto* column = new QVBoxLayout(&content);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "forms/calc/frm_calc.h"
 #include "platform/qt/document_view.h"
@@ -19,6 +20,9 @@ class CalcWindow : public qt::FormWindow {
     CalcWindow& operator=(const CalcWindow&) = delete;
     CalcWindow(CalcWindow&&) = delete;
     CalcWindow& operator=(CalcWindow&&) = delete;
+
+    /// After a message was closed: puts the focus into the field that it is about, once the event is over.
+    void returnToField(const std::string& message);
 
   protected:
     void build(QWidget& content) override;

@@ -32,16 +32,16 @@ QWidget& buildChoice(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent)
 
 }  // namespace
 
-void buildDesignPage(qt::WidgetKit& kit, frmCalcControls& form, QWidget& page) {
+void buildDesignPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page) {
     QWidget& content = qt::makeScrollPage(page);
     auto* column = new QVBoxLayout(&content);
     column->addWidget(&buildChoice(kit, form, content));
     form.picResults.forEach([&](int type, platform::Panel& panel) {
         QWidget& widget = qt::makePanel(kit, panel, content);
         buildResultPanel(kit, form, type, widget);
-        column->addWidget(&widget);
+        column->addWidget(&widget, 1);
     });
-    column->addStretch(1);
+    column->addStretch(0);
 }
 
 }  // namespace mero::forms

@@ -4,11 +4,11 @@
 
 #include <QWidget>
 
-#include "forms/calc/frm_calc_controls.h"
+#include "forms/calc/frm_calc.h"
 #include "platform/qt/widget_kit.h"
 
 namespace mero::forms {
 
-void buildDesignPage(qt::WidgetKit& kit, frmCalcControls& form, QWidget& page);
+void buildDesignPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page);
 
 }  // namespace mero::forms

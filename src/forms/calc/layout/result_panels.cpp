@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
+#include "forms/calc/layout/picture_pane.h"
 #include "platform/qt/buttons.h"
 #include "platform/qt/look.h"
 #include "platform/qt/page_layout.h"
@@ -23,7 +24,7 @@ const QString kMetresPerSecond = QStringLiteral("m/s");
 const QString kMillimetres = QStringLiteral("mm");
 
 /// In a very wide window the results stay near the inputs [characters].
-constexpr int kWidestPanel = 200;
+constexpr int kWidestPanel = 260;
 
 void addArea(frmCalcControls& form, int type, FieldGrid& results) {
     results.result(form.txtVsakPlocha[type], QStringLiteral("Plocha potřebná pro vsakování"), kSquareMetres);
@@ -138,21 +139,27 @@ void addSafetyFactor(frmCalcControls& form, int type, FieldGrid& inputs) {
 QWidget& buildOptions(qt::WidgetKit& kit, const platform::ControlArray<platform::OptionButton>& options,
                       QWidget& parent) {
     QWidget& row = qt::makeRow(parent);
+    qt::speakAs(row, QAccessible::Grouping);
     options.forEach([&](int, platform::OptionButton& option) {
         row.layout()->addWidget(&qt::makeOption(kit, option, row));
     });
     return row;
 }
 
-void buildResultPanel(qt::WidgetKit& kit, frmCalcControls& form, int type, QWidget& panel) {
+void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, int type, QWidget& panel) {
     auto* whole = new QVBoxLayout(&panel);
     whole->setContentsMargins(0, 0, 0, 0);
     auto* columns = new qt::FlowPair(panel);
     columns->setMaximumWidth(qt::textWidth(panel, kWidestPanel));
     auto& inputs_box = *new QGroupBox(QStringLiteral("Vstupy"), columns);
-    auto& results_box = *new QGroupBox(QStringLiteral("Výsledky"), columns);
-    columns->add(inputs_box, 1);
-    columns->add(results_box, 1);
+    auto& results_side = *new QWidget(columns);
+    auto* results_column = new QVBoxLayout(&results_side);
+    results_column->setContentsMargins(0, 0, 0, 0);
+    auto& results_box = *new QGroupBox(QStringLiteral("Výsledky"), &results_side);
+    results_column->addWidget(&results_box);
+    results_column->addWidget(&makePicturePane(form, type, results_side), 1);
+    columns->add(inputs_box, 0);
+    columns->add(results_side, 1);
     whole->addWidget(columns);
 
     FieldGrid inputs(kit, inputs_box);

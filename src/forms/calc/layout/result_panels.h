@@ -4,14 +4,14 @@
 
 #include <QWidget>
 
-#include "forms/calc/frm_calc_controls.h"
+#include "forms/calc/frm_calc.h"
 #include "platform/qt/field_grid.h"
 #include "platform/qt/widget_kit.h"
 
 namespace mero::forms {
 
 /// Builds the panel of an infiltration type, 1 to 6.
-void buildResultPanel(qt::WidgetKit& kit, frmCalcControls& form, int type, QWidget& panel);
+void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, int type, QWidget& panel);
 
 /// A group of options in one row.
 QWidget& buildOptions(qt::WidgetKit& kit, const platform::ControlArray<platform::OptionButton>& options,

@@ -53,12 +53,8 @@ constexpr int kLeastCharacters = 58;
 constexpr int kHintLines = 24;
 constexpr int kLeastLines = 20;
 
-bool isDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() < 128;
-}
-
 QColor partColour(const QPalette& palette, Part part) {
-    const bool dark = isDark(palette);
+    const bool dark = qt::isDark(palette);
     switch (part) {
         case kInfiltration:
             return dark ? QColor(0x6f, 0xb5, 0x7c) : QColor(0x4c, 0x96, 0x5a);

@@ -5,6 +5,7 @@
 #include "forms/calc/layout/result_panels.h"
 #include "platform/qt/buttons.h"
 #include "platform/qt/drop_list_box.h"
+#include "platform/qt/field_keys.h"
 #include "platform/qt/look.h"
 #include "platform/qt/page_layout.h"
 
@@ -17,8 +18,10 @@ const QString kMetres = QStringLiteral("m");
 
 /// The number of shafts with its two arrows.
 void addCount(qt::WidgetKit& kit, frmCalcControls& form, FieldGrid& inputs) {
-    inputs.input(form.txtSachtyCount, QStringLiteral("Počet šachet:"));
-    inputs.besideField(qt::makeUpDown(kit, form.updSacht, inputs.parent()));
+    const QString caption = QStringLiteral("Počet šachet:");
+    QLineEdit& count = inputs.input(form.txtSachtyCount, caption);
+    inputs.besideField(qt::makeUpDown(kit, form.updSacht, caption, inputs.parent()));
+    qt::spinByKeys(kit, form.updSacht, count);
 }
 
 }  // namespace
@@ -69,13 +72,7 @@ void fillTankPanel(qt::WidgetKit& kit, frmCalcControls& form, const PanelGrids& 
     results.result(form.txtObjAkum[kTank], QStringLiteral("Potřebný objem akumulace"), QStringLiteral("m³"));
     results.space();
     auto& warning = *new QLabel(QStringLiteral("Nutno ověřit dlouhodobou simulací!"), &results.parent());
-    QFont font = warning.font();
-    font.setBold(true);
-    warning.setFont(font);
-    QPalette palette = warning.palette();
-    const bool dark = palette.color(QPalette::Window).lightness() < 128;
-    palette.setColor(QPalette::WindowText, dark ? QColor(0xff, 0x9a, 0x7a) : QColor(0xb3, 0x26, 0x1e));
-    warning.setPalette(palette);
+    qt::showAsWarning(warning);
     results.line(warning);
 }
 

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
+#include "forms/dialogs/layout/rain_curve_view.h"
 #include "platform/qt/buttons.h"
 #include "platform/qt/cell_editor_box.h"
 #include "platform/qt/drop_list_box.h"
@@ -65,10 +66,13 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     qt::describe(table, QStringLiteral("Intenzity trvání deště"));
     qt::makeCellEditor(kit(), form_->txtSChange, table, form_->fgIntDeste);
     column->addWidget(&table, 1);
+    column->addWidget(&makeRainCurve(*form_, side));
 
     auto* foot = new QHBoxLayout;
     foot->addStretch(1);
-    foot->addWidget(&qt::makeButton(kit(), form_->cmdOK, side));
+    QPushButton& confirm = qt::makeButton(kit(), form_->cmdOK, side);
+    confirmWith(confirm);
+    foot->addWidget(&confirm);
     column->addLayout(foot);
     return side;
 }
@@ -87,13 +91,10 @@ QWidget& RainWindow::buildHelp(QWidget& parent) {
     column->addWidget(&qt::makeButton(kit(), form_->cmdCloseHelp, side), 0, Qt::AlignRight);
     // The help widens the window; without it the window is as it was.
     qt::follow(form_->txtHelp, *this, [this, &side](platform::Aspect aspect) {
-        if (aspect == platform::Aspect::Visible && !form_->txtHelp.visible()) {
+        if (aspect == platform::Aspect::Visible) {
             qt::later(*this, [this, &side] {
-                // From the inside out, so that each size is known before the next one asks for it.
-                for (QWidget* each = &side; each != parentWidget(); each = each->parentWidget()) {
-                    each->layout()->activate();
-                }
-                adjustSize();
+                side.layout()->activate();
+                fitContent();
             });
         }
     });

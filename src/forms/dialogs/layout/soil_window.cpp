@@ -22,7 +22,9 @@ void SoilWindow::build(QWidget& content) {
     column->addWidget(&soils, 1);
     auto* foot = new QHBoxLayout;
     foot->addStretch(1);
-    foot->addWidget(&qt::makeButton(kit(), form_->cmdOK, content));
+    QPushButton& confirm = qt::makeButton(kit(), form_->cmdOK, content);
+    confirmWith(confirm);
+    foot->addWidget(&confirm);
     column->addLayout(foot);
 }
 

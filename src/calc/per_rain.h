@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+/// What one rain asks of a facility: the formula of one row, with the rows that take part in it.
+/// The search for the critical rain and whatever shows all nine rows go by the same object.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <utility>
+
+#include "calc/critical_rain.h"
+
+namespace mero::calc {
+
+/// The value of each row in the table's order, empty for a row that takes no part.
+using RainValues = std::array<std::optional<double>, kRainRows>;
+
+template <Rows rows, std::invocable<const Rain&> Quantity>
+class PerRain {
+  public:
+    explicit PerRain(Quantity quantity) : quantity_(std::move(quantity)) {}
+
+    /// The rain that asks the most. @throws whatever the formula throws
+    [[nodiscard]] CriticalRain critical(RainTable rains) const {
+        return findCriticalRain<rows>(rains, quantity_);
+    }
+
+    /// What each rain asks; may be negative. @throws whatever the formula throws
+    [[nodiscard]] RainValues values(RainTable rains) const {
+        RainValues values;
+        for (std::size_t row = 0; row < values.size(); ++row) {
+            if (takesPart<rows>(rains[row])) {
+                values[row] = quantity_(rains[row]);
+            }
+        }
+        return values;
+    }
+
+  private:
+    Quantity quantity_;
+};
+
+/// @param quantity called with a row that takes part, gives the row's value
+template <Rows rows, std::invocable<const Rain&> Quantity>
+[[nodiscard]] PerRain<rows, Quantity> perRain(Quantity quantity) {
+    return PerRain<rows, Quantity>(std::move(quantity));
+}
+
+}  // namespace mero::calc

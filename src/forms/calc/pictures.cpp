@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+/// Values of the pictures.
+/// A result field that is empty or shows no number is a result that there is not.
+#include "forms/calc/pictures.h"
+
+#include <optional>
+
+#include "calc/tank.h"
+#include "forms/calc/balances.h"
+#include "forms/calc/rain_table.h"
+#include "picture/balance_chart.h"
+#include "picture/facility_sections.h"
+#include "platform/numbers/number_text.h"
+
+namespace mero::forms {
+namespace {
+
+using data::modPublicVariables;
+using platform::TextBox;
+
+std::optional<float> shownResult(const TextBox& box) {
+    if (box.text().empty()) {
+        return std::nullopt;
+    }
+    try {
+        return numbers::strictSingle(box.text());
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
+/// Pipes are in the trench while their box is ticked.
+picture::PipeValues pipes(const frmCalc& form, int type) {
+    if (!form.chkSelPretok[type].checked()) {
+        return {};
+    }
+    const modPublicVariables& values = form.values();
+    return {.count = values.txtPocetPotrubi,
+            .outer_diameter_mm = values.txtPrumTroubVnej,
+            .inner_diameter_mm = values.txtPrumTroubVnit};
+}
+
+picture::TrenchValues trench(const frmCalc& form, int type) {
+    const modPublicVariables& values = form.values();
+    return {.length_m = shownResult(form.txtDelkaRyhy[type]),
+            .width_m = values.txtSirkaRyhy,
+            .height_m = values.txtVyskaRyhy,
+            .pipes = pipes(form, type),
+            .groundwater_depth_m = values.txtHPV};
+}
+
+picture::ShaftValues shaft(const frmCalc& form) {
+    const modPublicVariables& values = form.values();
+    const bool has_sand_layer = !form.optSelTypPudy5[0].selected();
+    const bool rectangular = form.ShaftShape == 1;
+    return {.count = values.txtSachtyCount,
+            .rectangular = rectangular,
+            .inner_width_m = rectangular ? values.shaft_side1_m : values.D_i,
+            .inner_length_m = values.txtPrumerSachtyVnej,
+            .wall_m = values.txtTloustkaSteny,
+            .inlet_depth_m = values.txtNezamrzHlPritok,
+            .filter_layer_m = values.txtVyskaFiltrVrstvy,
+            .sand_layer_m = has_sand_layer ? values.txtVyskaPiskVrstvy : 0.0F,
+            .water_level_m = shownResult(form.txtVyskaVzduti[kShaft]),
+            .depth_m = shownResult(form.txtHloubkaSachty),
+            .required_embedding_m = shownResult(form.txtPotrHloubkaZahl),
+            .groundwater_depth_m = values.txtHPV};
+}
+
+picture::TankValues tank(const frmCalc& form) {
+    const modPublicVariables& values = form.values();
+    return {.bottom_length_m = values.txtDelkaDnaNadrz,
+            .bottom_width_m = values.txtSirkaDnaNadrz,
+            .depth_m = values.txtHloubkaNadrz,
+            .slope = values.txtSklonSvahuNadrz,
+            .required_storage_m3 = shownResult(form.txtObjAkum[kTank]),
+            .volume_m3 = shownResult(form.txtVypObjNadrz),
+            .groundwater_depth_m = values.txtHPV};
+}
+
+/// The flow that the design assumes; its field shows too few decimals to go on with.
+float tankFlow(const modPublicVariables& values) {
+    try {
+        return calc::tank::infiltrationFlow(values.txtSpecMeroIntenz, values.RedukovanaPlocha);
+    } catch (const RuntimeError&) {
+        return values.txtVsakTok;
+    }
+}
+
+}  // namespace
+
+picture::Section facilitySection(const frmCalc& form, int type) {
+    const float groundwater = form.values().txtHPV;
+    switch (type) {
+        case kSurface:
+            return picture::surfaceSection(
+                {.area_m2 = shownResult(form.txtVsakPlocha[kSurface]), .groundwater_depth_m = groundwater});
+        case kSwale:
+            return picture::swaleSection({.area_m2 = shownResult(form.txtVsakPlocha[kSwale]),
+                                          .ponding_m = shownResult(form.txtVyskaVzduti[kSwale]),
+                                          .groundwater_depth_m = groundwater});
+        case kSwaleTrench:
+            return picture::swaleTrenchSection(
+                {.trench = trench(form, kSwaleTrench),
+                 .swale_depth_m = shownResult(form.txtHloubkaPrulehu[kSwaleTrench])});
+        case kTrench:
+            return picture::trenchSection(trench(form, kTrench));
+        case kShaft:
+            return picture::shaftSection(shaft(form));
+        case kTank:
+            return picture::tankSection(tank(form));
+        default:
+            return {};
+    }
+}
+
+picture::Chart balanceChart(const frmCalc& form, int type) {
+    const modPublicVariables& values = form.values();
+    const auto rains = rainTable(values);
+    switch (type) {
+        case kSurface:
+            return picture::surfaceChart({.reduced_area_m2 = values.RedukovanaPlocha,
+                                          .filtration_m_s = values.txtSoucFiltrace,
+                                          .picked_rain = pickedRain(values)},
+                                         rains, form.txtVsakPlocha[kSurface].text());
+        case kSwale:
+            return picture::swaleChart(swaleBalance(values, values.txtSoucFiltrace), rains,
+                                       form.txtObjAkum[kSwale].text());
+        case kSwaleTrench:
+            return picture::swaleTrenchChart({.swale = swaleBalance(values, values.txtSoucFiltrPruleh),
+                                              .trench = swaleTrenchBalance(values)},
+                                             rains, form.txtObjAkum[kSwaleTrench].text(),
+                                             form.txtDelkaRyhy[kSwaleTrench].text());
+        case kTrench:
+            return picture::trenchChart(trenchBalance(values), rains, form.txtDelkaRyhy[kTrench].text());
+        case kShaft:
+            return picture::shaftChart(shaftBalance(values), rains, form.txtVyskaVzduti[kShaft].text());
+        case kTank:
+            return picture::tankChart(tankBalance(values, tankFlow(values)), rains,
+                                      form.txtObjAkum[kTank].text());
+        default:
+            return {};
+    }
+}
+
+}  // namespace mero::forms
