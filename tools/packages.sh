@@ -13,6 +13,7 @@ declare -A packages=(
              mdbtools xvfb xauth chromium poppler-utils locales
              python3 python3-jsonschema mandoc default-jdk-headless maven"
     [bench]="libbenchmark-dev"
+    [screenshots]="xvfb openbox xdotool imagemagick at-spi2-core dbus python3-pyatspi"
 )
 
 fail() {
