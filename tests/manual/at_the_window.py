@@ -202,8 +202,7 @@ class Reader:
         table = grid.queryTable()
         last = table.nColumns - 1
         for row in range(table.nRows):
-            if wanted in re.split(r"[:,] |^", table.getAccessibleAt(row, column).name) or \
-                    table.getAccessibleAt(row, column).name.endswith(wanted):
+            if table.getAccessibleAt(row, column).name == wanted:
                 return self.reach(grid, table, row, last)
         raise NotFound(caption)
 
