@@ -16,6 +16,7 @@ declare -A packages=(
              python3 python3-jsonschema mandoc default-jdk-headless maven"
     [package]="dpkg-dev lintian appstream desktop-file-utils"
     [bench]="libbenchmark-dev"
+    [screenshots]="xvfb openbox xdotool imagemagick at-spi2-core dbus python3-pyatspi"
 )
 
 fail() {

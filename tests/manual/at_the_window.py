@@ -2,14 +2,13 @@
 # SPDX-License-Identifier: MIT
 """Somebody who has only the manual sits at the real window: mouse, keyboard, and eyes that read captions.
 
-Use: dbus-run-session -- tests/manual/at_the_window.py --program build/release/bin/mero [--only NAME] [--shots FOLDER]
-Each example of docs/prirucka.md is done on a screen of its own. What is clicked and read is found by what the
+Use: tests/manual/at_the_window.py --program build/release/bin/mero [--only NAME] [--shots FOLDER]
+Each example of docs/prirucka.md is done on a screen and a bus of its own. What is clicked and read is found by what the
 accessibility bus tells of the window: captions, roles, places. Takes some four minutes, so it is run by hand.
 Needs what `tools/packages.sh check screenshots` installs, and the system's python3, which has pyatspi.
 """
 
 import argparse
-import os
 import re
 import subprocess
 import sys
@@ -20,7 +19,7 @@ HERE = Path(__file__).resolve().parent
 sys.path += [str(HERE), str(HERE.parents[1] / "tools" / "screenshots")]
 from captions import RAINS, SOILS, SURFACES, TAB  # noqa: E402
 from manual_text import MANUAL, Action, Example, Message, Result, examples  # noqa: E402
-from screen import Program, Screen, Look  # noqa: E402
+from screen import START_LIMIT_S, Look, Program, Screen  # noqa: E402
 
 ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
 PATIENCE_S = 6.0
@@ -142,8 +141,15 @@ class Reader:
     def __init__(self, eyes: Eyes, hands: Hands) -> None:
         self.eyes, self.hands = eyes, hands
         self.wrong: list[str] = []
+        self.line = 0
+
+    def wait_for_window(self) -> None:
+        end = time.monotonic() + START_LIMIT_S
+        while not self.eyes.windows() and time.monotonic() < end:
+            time.sleep(0.2)
 
     def do(self, step: Action | Result | Message) -> None:
+        self.line = step.line
         if isinstance(step, Result):
             shown = self.eyes.text(self.eyes.control(step.caption, "text"))
             if shown != step.text:
@@ -196,8 +202,7 @@ class Reader:
         table = grid.queryTable()
         last = table.nColumns - 1
         for row in range(table.nRows):
-            if wanted in re.split(r"[:,] |^", table.getAccessibleAt(row, column).name) or \
-                    table.getAccessibleAt(row, column).name.endswith(wanted):
+            if table.getAccessibleAt(row, column).name == wanted:
                 return self.reach(grid, table, row, last)
         raise NotFound(caption)
 
@@ -232,45 +237,52 @@ def perform(example: Example, program: Path, pyatspi, shots: Path | None) -> lis
         with Program.for_person(screen, program, Look()):
             reader = Reader(Eyes(pyatspi), Hands(screen))
             try:
+                reader.wait_for_window()
                 for step in example.steps:
                     reader.do(step)
                 if reader.eyes.box() is not None:
                     reader.wrong.append(f"{example.line}: a box that the manual does not tell: {reader.eyes.box()}")
             except NotFound as missing:
-                reader.wrong.append(f"{step.line}: not on the screen: {missing}")
+                reader.wrong.append(f"{reader.line}: not on the screen: {missing}")
             if shots:
                 screen.shoot(shots / f"{example.name}.png", whole=True)
             return reader.wrong
 
 
-def main() -> int:
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--program", type=Path, required=True)
-    parser.add_argument("--only", default="")
-    parser.add_argument("--shots", type=Path)
-    options = parser.parse_args()
-    if "DBUS_SESSION_BUS_ADDRESS" not in os.environ:
-        print("at_the_window: call it with dbus-run-session --", file=sys.stderr)
-        return 2
+def perform_alone(name: str, program: Path, shots: Path | None) -> int:
+    """One example, on the bus that this process was started on."""
     launcher = subprocess.Popen([ACCESSIBILITY_BUS, "--launch-immediately"], stderr=subprocess.DEVNULL)
-    time.sleep(1)
-    import pyatspi  # finds the bus when it is imported
-    failures = 0
     try:
-        for example in examples(MANUAL.read_text(encoding="utf-8")):
-            if options.only not in example.name:
-                continue
-            begin = time.monotonic()
-            wrong = perform(example, options.program.resolve(), pyatspi, options.shots)
-            results = sum(isinstance(step, Result) for step in example.steps)
-            print(f"{example.name}: {results} results, {time.monotonic() - begin:.0f} s, "
-                  f"{'as printed' if not wrong else 'DIFFERS'}", flush=True)
-            for line in wrong:
-                print("   ", line)
-            failures += bool(wrong)
+        time.sleep(1)
+        import pyatspi  # finds the bus when it is imported
+
+        example = next(each for each in examples(MANUAL.read_text(encoding="utf-8")) if each.name == name)
+        begin = time.monotonic()
+        wrong = perform(example, program, pyatspi, shots)
+        results = sum(isinstance(step, Result) for step in example.steps)
+        print(f"{name}: {results} results, {time.monotonic() - begin:.0f} s, {'DIFFERS' if wrong else 'as printed'}")
+        for line in wrong:
+            print("   ", line)
+        return len(wrong)
     finally:
         launcher.terminate()
         launcher.wait()
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--program", type=Path, required=True)
+    parser.add_argument("--only", default="", help="only examples whose name holds this word")
+    parser.add_argument("--shots", type=Path, help="where the last screen of each example is left")
+    parser.add_argument("--alone", help=argparse.SUPPRESS)
+    options = parser.parse_args()
+    if options.alone:
+        return perform_alone(options.alone, options.program.resolve(), options.shots) > 0
+    failures = 0
+    for example in examples(MANUAL.read_text(encoding="utf-8")):
+        if options.only in example.name:
+            command = ["dbus-run-session", "--", sys.executable, "-B", __file__, *sys.argv[1:], "--alone", example.name]
+            failures += subprocess.run(command, check=False, stderr=subprocess.DEVNULL).returncode != 0
     return failures > 0
 
 

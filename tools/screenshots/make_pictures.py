@@ -11,6 +11,7 @@ The states are those of the manual's examples, so that the pictures show the num
 """
 
 import argparse
+import signal
 import subprocess
 import sys
 from pathlib import Path
@@ -23,6 +24,7 @@ LOOKS = [Look(palette, scale, width, height)
          for palette in ("light", "dark")
          for scale in (100, 200)
          for width, height in ((1024, 768), (1900, 1060))]
+LOOKS += [Look(scale_percent=150), Look(font_dpi=192), Look("dark", 200, 2560, 1600)]
 
 
 def shrink(file: Path) -> None:
@@ -51,7 +53,7 @@ def contact_sheets(files: list[Path], folder: Path, look: Look) -> None:
     """Four pictures to a sheet, large enough to be read."""
     for number in range(0, len(files), 4):
         subprocess.run(["montage", *map(str, files[number:number + 4]), "-label", "%t", "-tile", "2x2", "-geometry",
-                        "950x715+4+4", "-background", "#808080", str(folder / f"sheet-{look.name}-{number // 4:02}.png")],
+                        "950x715>+4+4", "-background", "#808080", str(folder / f"sheet-{look.name}-{number // 4:02}.png")],
                        check=True)
 
 
@@ -61,6 +63,8 @@ def main() -> int:
     parser.add_argument("--only", default="", help="only looks whose name holds this word")
     parser.add_argument("--program", type=Path, default=ROOT / "build" / "release" / "bin" / "mero")
     options = parser.parse_args()
+    # An early end takes the screen and the program along.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     if not options.program.is_file():
         print(f"make_pictures: there is no {options.program}; build it, or tell --program", file=sys.stderr)
         return 2

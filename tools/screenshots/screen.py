@@ -25,10 +25,12 @@ class Look:
     scale_percent: int = 100
     width: int = 1024
     height: int = 768
+    font_dpi: int = 96
 
     @property
     def name(self) -> str:
-        return f"{self.palette}-{self.scale_percent}-{self.width}x{self.height}"
+        fonts = "" if self.font_dpi == 96 else f"-font{self.font_dpi}"
+        return f"{self.palette}-{self.scale_percent}{fonts}-{self.width}x{self.height}"
 
 
 class Screen:
@@ -44,7 +46,8 @@ class Screen:
             self.display = ":" + number.readline().strip()
         self.environment = {**os.environ, "DISPLAY": self.display, "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb"}
         self.environment.pop("WAYLAND_DISPLAY", None)
-        self.manager = subprocess.Popen(["openbox"], env=self.environment, stderr=subprocess.DEVNULL)
+        self.manager = subprocess.Popen(["openbox"], env=self.environment, stdout=subprocess.DEVNULL,
+                                        stderr=subprocess.DEVNULL)
 
     def __enter__(self) -> "Screen":
         return self
@@ -88,13 +91,12 @@ class Program:
         folder.mkdir()
         shutil.copy(ROOT / "data" / "mero.mdb", folder)
         shutil.copytree(ROOT / "Webs", folder / "Webs")
-        environment = {**screen.environment, "QT_SCALE_FACTOR": str(look.scale_percent / 100)}
-        arguments = [str(program), "--folder", str(folder), "--clock", CLOCK]
+        environment = {**screen.environment, "QT_SCALE_FACTOR": str(look.scale_percent / 100),
+                       "QT_FONT_DPI": str(look.font_dpi)}
+        arguments = [str(program), "--folder", str(folder), "--clock", CLOCK, "--palette", look.palette]
         if scripted:
             arguments += ["--script", "-"]
-        if look.palette != "light" or knows_palettes(program):
-            arguments += ["--palette", look.palette]
-        self.process = subprocess.Popen(arguments, env=environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+        self.process = subprocess.Popen(arguments, env=environment, stderr=subprocess.DEVNULL, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                         text=True, encoding="utf-8")
         self.steps = 0
 
@@ -130,7 +132,3 @@ class Program:
             trace.append(event)
         raise RuntimeError(f"the program ended after {trace}")
 
-
-def knows_palettes(program: Path) -> bool:
-    told = subprocess.run([str(program), "--help"], capture_output=True, text=True, check=True)
-    return "--palette" in told.stdout
