@@ -75,6 +75,24 @@ class NoPermission(FaultTest):
         self.assertEqual(len(list((home / "mero/Webs").rglob("*"))), len(list((ROOT / "Webs").rglob("*"))))
 
     @on_each_front
+    def test_installed_data_that_cannot_be_read_are_missed_when_they_are_needed(self, front):
+        programs = self.installed()
+        home = self.scratch / "home"
+        home.mkdir()
+        home.chmod(0o777)
+        script = self.scratch / "s.mero"
+        script.write_text("\n".join([*REPORT, "tab 0", "click cmdEdit(0)", "select frmIntDialog.cboSelStanice 4"]))
+        data = self.scratch / "usr/share/mero"
+        for unreadable, pages in ((data, False), (data / "mero.mdb", True)):
+            unreadable.chmod(0)
+            done = self.run_command(command(front, str(script), programs=programs),
+                                    env=environment(XDG_DATA_HOME=str(home)), **ordinary_user())
+            unreadable.chmod(0o755)
+            self.assertEqual(done.returncode, 1)
+            self.assertIn(f'"Databáze dešťů „{home}/mero/mero.mdb“ nebyla nalezena', done.stdout.replace("\\\\", "/"))
+            self.assertEqual((home / "mero/Webs/Desc01.htm").exists(), pages)
+
+    @on_each_front
     def test_the_report_is_told_as_locked_and_a_copy_as_not_saved(self, front):
         folder = self.folder()
         closed = self.scratch / "closed"
