@@ -225,6 +225,8 @@ void paintDrawing(QPainter& painter, const picture::Drawing& drawing, const QPal
         painter.setFont(pictureFont(font, text.emphasis));
         painter.setPen(textColour(palette, text.emphasis));
         const QRectF box = rectOf(text.box);
+        // Leaders and grid lines stop at a text.
+        painter.fillRect(box, fillColour(palette, Material::Air));
         if (!text.upright) {
             painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, shown(text.text));
             continue;
