@@ -141,11 +141,10 @@ picture::TextSizes textSizes(const QFont& font) {
     const QFontMetricsF plain(pictureFont(font, Emphasis::Plain));
     const QFontMetricsF bold(pictureFont(font, Emphasis::Strong));
     return {.line_height = std::ceil(std::max(plain.height(), bold.height())),
-            .width = [plain, bold](std::string_view text) {
+            .measure = [plain, bold](std::string_view text, Emphasis emphasis) {
                 const QString shown_text =
                     QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-                return std::ceil(
-                    std::max(plain.horizontalAdvance(shown_text), bold.horizontalAdvance(shown_text)));
+                return std::ceil((emphasis == Emphasis::Strong ? bold : plain).horizontalAdvance(shown_text));
             }};
 }
 
