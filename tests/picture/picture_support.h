@@ -19,7 +19,7 @@ constexpr double kCharacterWidth = 7;
 
 /// Every character is 7 wide, every line 14 high.
 inline TextSizes plainSizes() {
-    return {.line_height = kLineHeight, .width = [](std::string_view text) {
+    return {.line_height = kLineHeight, .measure = [](std::string_view text, Emphasis /*emphasis*/) {
                 const auto characters = std::count_if(text.begin(), text.end(), [](char byte) {
                     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
                 });

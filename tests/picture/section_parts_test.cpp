@@ -20,6 +20,11 @@ TEST(SectionParts, WhatIsSmallerThanACentimetreOrLargerThanTenKilometresIsNotDra
     EXPECT_FALSE(canDraw(std::numeric_limits<double>::quiet_NaN()));
 }
 
+TEST(SectionParts, BanksRunOutOneToTwoButNotForEver) {
+    EXPECT_EQ(bankRun(0.25, 10), 0.5);
+    EXPECT_EQ(bankRun(2.5, 1), 0.5);
+}
+
 TEST(SectionParts, LengthsAreWrittenAsTheirFieldsShowThem) {
     EXPECT_EQ(metres(1.2F), "1.2 m");
     EXPECT_EQ(metres(1.0F), "1 m");
