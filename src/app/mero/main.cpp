@@ -172,10 +172,10 @@ int main(int argc, char** argv) {
         }
         QApplication application(window_system_arguments, argv);
         numbers::useNumericCLocale();
-        app::wearIcon();
         QTranslator translator;
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);
+        app::wearIcon();
         Mero mero(options, std::move(script));
         return mero.run();
     } catch (const app::UsageError& error) {
