@@ -203,7 +203,6 @@ int main(int argc, char** argv) {
         if (options.palette != app::Palette::System) {
             qt::usePalette(options.palette == app::Palette::Dark ? qt::darkPalette() : qt::lightPalette());
         }
-        app::wearIcon();
         if (!QFontMetrics(QApplication::font()).inFont(QLatin1Char('A'))) {
             std::cerr
                 << "mero: there is no font on this machine: the window shows boxes in place of letters\n";
@@ -211,6 +210,7 @@ int main(int argc, char** argv) {
         QTranslator translator;
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);
+        app::wearIcon();
         Mero mero(options, std::move(script));
         return mero.run();
     } catch (const app::UsageError& error) {
