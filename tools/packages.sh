@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # The Debian packages that MERO needs, in groups, and their installation.
-# Use: tools/packages.sh GROUP...   installs what is missing of run, build, check and bench; asks for nothing.
+# Use: tools/packages.sh GROUP...   installs what is missing of run, build, check, bench and coverage; asks for nothing.
 #      tools/packages.sh --missing GROUP...   only prints what is missing.
 set -euo pipefail
 
@@ -13,6 +13,7 @@ declare -A packages=(
              mdbtools xvfb xauth chromium poppler-utils locales
              python3 python3-jsonschema mandoc default-jdk-headless maven"
     [bench]="libbenchmark-dev"
+    [coverage]="gcovr"
 )
 
 fail() {
