@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # The Debian packages that MERO needs, in groups, and their installation.
-# Use: tools/packages.sh GROUP...   installs what is missing of run, build, check, package and bench; asks for nothing.
+# Use: tools/packages.sh GROUP...   installs what is missing of the groups below; asks for nothing.
 #      tools/packages.sh --missing GROUP...   only prints what is missing.
 set -euo pipefail
 
@@ -17,6 +17,7 @@ declare -A packages=(
     [package]="dpkg-dev lintian appstream desktop-file-utils"
     [bench]="libbenchmark-dev"
     [screenshots]="xvfb openbox xdotool imagemagick at-spi2-core dbus python3-pyatspi"
+    [coverage]="gcovr"
 )
 
 fail() {
