@@ -14,12 +14,14 @@ import argparse
 import signal
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 from screen import ROOT, Look, Program, Screen
-from views import MANUAL_PICTURES, VIEWS
+from views import BOXES, MANUAL_PICTURES, VIEWS
 
 COLOURS = 64
+BETWEEN_KEYS_S = 1.0
 LOOKS = [Look(palette, scale, width, height)
          for palette in ("light", "dark")
          for scale in (100, 200)
@@ -46,6 +48,15 @@ def take(program: Path, look: Look, views, folder: Path) -> list[Path]:
                         screen.shoot(file)
                         files.append(file)
             print(f"{look.name}: {name}", flush=True)
+        for name, keys in BOXES.items():
+            with Program.for_person(screen, program, look):
+                screen.active_window()
+                for key in keys:
+                    time.sleep(BETWEEN_KEYS_S)
+                    screen.run("xdotool", "key", key)
+                time.sleep(BETWEEN_KEYS_S)
+                files.append(folder / f"{name}.png")
+                screen.shoot(files[-1])
     return files
 
 

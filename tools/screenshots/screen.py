@@ -68,7 +68,8 @@ class Screen:
         self.run("import", "-silent", "-window", window, str(file))
 
     def active_window(self) -> str:
-        for _ in range(40):
+        end = time.monotonic() + START_LIMIT_S
+        while time.monotonic() < end:
             done = subprocess.run(["xdotool", "getactivewindow"], env=self.environment, capture_output=True, text=True,
                                   check=False)
             if done.returncode == 0:

@@ -109,3 +109,6 @@ VIEWS: dict[str, Steps] = {
         (actions("nadrz") + ["set txtHloubkaNadrz 1000000", "click cmdCalcul(6)"], "41-tank-absurd"),
     ],
 }
+
+# What only somebody at the keyboard sees, because a script answers it at once: the keys that lead there.
+BOXES: dict[str, list[str]] = {"hlaseni": ["ctrl+Tab", "ctrl+Tab"]}
