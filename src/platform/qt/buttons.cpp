@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/qt/field_keys.h"
+#include "platform/qt/mnemonics.h"
 #include "platform/qt/spoken.h"
 #include "platform/qt/texts.h"
 
@@ -84,6 +85,7 @@ QPushButton& makeButton(WidgetKit& kit, platform::Button& button, QWidget& paren
     auto& push = *new QPushButton(captionText(button.text()), &parent);
     // Enter presses the button that has the focus, not only the space bar.
     push.setAutoDefault(true);
+    focusByMnemonic(push);
     bindCommon(kit, button, push);
     follow(button, push, [&button, &push](Aspect aspect) {
         if (aspect == Aspect::Text) {

@@ -2,6 +2,7 @@
 /// Binding of frames and panels.
 #include "platform/qt/panels.h"
 
+#include "platform/qt/mnemonics.h"
 #include "platform/qt/texts.h"
 
 namespace mero::qt {
@@ -19,6 +20,7 @@ QGroupBox& makeFrame(WidgetKit& kit, platform::Frame& frame, QWidget& parent) {
 
 QWidget& makePanel(WidgetKit& kit, platform::Panel& panel, QWidget& parent) {
     auto& widget = *new QWidget(&parent);
+    markAlternative(widget);
     bindCommon(kit, panel, widget);
     return widget;
 }
