@@ -25,6 +25,11 @@ if(MERO_SANITIZE)
     -fno-sanitize-recover=all)
   target_link_options(mero_options INTERFACE -fsanitize=${MERO_SANITIZE})
 endif()
+if(MERO_COVERAGE)
+  # Threads and several programs at once count into the same places.
+  target_compile_options(mero_options INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(mero_options INTERFACE --coverage)
+endif()
 
 # mero_library(NAME SOURCES ... LINKS ...): one room. It links only what lies below it.
 function(mero_library name)

@@ -17,7 +17,12 @@ build_preset() {
     if [[ -f $cache ]] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
         fresh=(--fresh)
     fi
-    (cd "$root" && cmake --preset "$1" "${fresh[@]}" && cmake --build --preset "$1")
+    # What was built before ccache was installed is not built again for its sake.
+    local -a plain=()
+    if [[ -f $cache && ${#fresh[@]} -eq 0 ]] && ! grep -q '^CMAKE_CXX_COMPILER_LAUNCHER:.*=ccache' "$cache"; then
+        plain=(env -u CMAKE_C_COMPILER_LAUNCHER -u CMAKE_CXX_COMPILER_LAUNCHER)
+    fi
+    (cd "$root" && "${plain[@]}" cmake --preset "$1" "${fresh[@]}" && cmake --build --preset "$1")
 }
 
 # The same without a word, unless it fails: then its last lines.

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # The Debian packages that MERO needs, in groups, and their installation.
-# Use: tools/packages.sh GROUP...   installs what is missing of run, build, check and bench; asks for nothing.
+# Use: tools/packages.sh GROUP...   installs what is missing of the groups below; asks for nothing.
 #      tools/packages.sh --missing GROUP...   only prints what is missing.
 set -euo pipefail
 
@@ -10,10 +10,14 @@ declare -A packages=(
     [build]="g++ cmake ninja-build pkg-config qt6-base-dev mdbtools-dev nlohmann-json3-dev"
     [check]="libgtest-dev libgmock-dev librapidcheck-dev
              clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev lld-14 ccache
+             desktop-file-utils appstream
              mdbtools xvfb xauth chromium poppler-utils locales
+             at-spi2-core gir1.2-atspi-2.0 python3-gi dbus-daemon xdotool
              python3 python3-jsonschema mandoc default-jdk-headless maven"
+    [package]="dpkg-dev lintian appstream desktop-file-utils"
     [bench]="libbenchmark-dev"
     [screenshots]="xvfb openbox xdotool imagemagick at-spi2-core dbus python3-pyatspi"
+    [coverage]="gcovr"
 )
 
 fail() {

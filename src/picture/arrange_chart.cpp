@@ -12,7 +12,7 @@ namespace mero::picture {
 namespace {
 
 constexpr double kMargin = 0.4;        ///< around everything [lines]
-constexpr double kLeastPlotWidth = 8;  ///< below that there is no chart [lines]
+constexpr double kLeastPlotWidth = 7;  ///< below that there is no chart [lines]
 constexpr double kLeastPlotHeight = 2.5;
 constexpr double kRoomForMarkedText = 1.4;
 constexpr double kLinesPerTick = 1.5;
@@ -44,7 +44,8 @@ class ChartLayout {
         title_ = brokenLines(chart_->title, inner_.width(), *sizes_);
         plot_ = inner_;
         plot_.top += static_cast<double>(title_.size()) * line_ + kRoomForMarkedText * line_;
-        plot_.bottom -= (chart_->note.empty() ? 2.4 : 3.5) * line_;
+        note_ = brokenLines(chart_->note, inner_.width(), *sizes_);
+        plot_.bottom -= (2.4 + 1.1 * static_cast<double>(note_.size())) * line_;
         if (title_.empty() || plot_.height() < kLeastPlotHeight * line_) {
             return false;
         }
@@ -55,10 +56,10 @@ class ChartLayout {
         }
         plot_.left += widest + 0.5 * line_;
         plot_.right -= 0.5 * line_;
-        return plot_.width() >= kLeastPlotWidth * line_ &&
-               sizes_->width(chart_->axis_text) <= inner_.width() &&
-               sizes_->width(chart_->note) <= inner_.width() &&
-               sizes_->width(chart_->marked_text) <= plot_.width();
+        const bool whole = sizes_->width(chart_->axis_text) <= inner_.width();
+        axis_text_ = whole ? chart_->axis_text : chart_->axis_unit;
+        return plot_.width() >= kLeastPlotWidth * line_ && sizes_->width(axis_text_) <= inner_.width() &&
+               sizes_->width(chart_->marked_text, Emphasis::Strong) <= plot_.width();
     }
 
     Drawing draw() {
@@ -118,11 +119,13 @@ class ChartLayout {
                                       Emphasis::Plain});
         }
         const double centre = (plot_.left + plot_.right) / 2.0;
-        drawing_.texts.push_back(centredText(chart_->axis_text, centre, plot_.bottom + 1.3 * line_,
-                                             inner_.left, inner_.right, *sizes_, Emphasis::Quiet));
-        if (!chart_->note.empty()) {
-            drawing_.texts.push_back(centredText(chart_->note, centre, plot_.bottom + 2.4 * line_,
-                                                 inner_.left, inner_.right, *sizes_, Emphasis::Strong));
+        drawing_.texts.push_back(centredText(axis_text_, centre, plot_.bottom + 1.3 * line_, inner_.left,
+                                             inner_.right, *sizes_, Emphasis::Quiet));
+        top = plot_.bottom + 2.4 * line_;
+        for (const std::string& line : note_) {
+            drawing_.texts.push_back(
+                centredText(line, centre, top, inner_.left, inner_.right, *sizes_, Emphasis::Quiet));
+            top += line_;
         }
     }
 
@@ -168,12 +171,12 @@ class ChartLayout {
         for (const std::size_t i : order) {
             const Emphasis emphasis = chart_->marked == i ? Emphasis::Strong : Emphasis::Plain;
             PlacedText text = centredText(chart_->points[i].label, xOf(i), plot_.bottom + 0.2 * line_,
-                                          inner_.left, inner_.right, *sizes_, emphasis);
+                                          plot_.left, inner_.right, *sizes_, emphasis);
             const double gap = kLabelGap * line_;
             const bool free = std::none_of(taken.begin(), taken.end(), [&](const Box& box) {
                 return text.box.left < box.right + gap && box.left < text.box.right + gap;
             });
-            if (free && text.box.width() <= inner_.width()) {
+            if (free && text.box.width() <= inner_.right - plot_.left) {
                 taken.push_back(text.box);
                 drawing_.texts.push_back(std::move(text));
             }
@@ -186,7 +189,7 @@ class ChartLayout {
             return;
         }
         const double x = xOf(*chart_->marked);
-        const double width = sizes_->width(chart_->marked_text);
+        const double width = sizes_->width(chart_->marked_text, Emphasis::Strong);
         const double most_left = plot_.right - width;
         double left = std::clamp(x + 0.5 * line_, plot_.left, most_left);
         double y = yOf(chart_->points[*chart_->marked].value.value_or(0.0));
@@ -230,6 +233,8 @@ class ChartLayout {
     Box inner_;
     Box plot_;
     std::vector<std::string> title_;
+    std::vector<std::string> note_;
+    std::string axis_text_;
     std::vector<std::pair<double, std::string>> ticks_;
     double top_value_ = 0;
     Drawing drawing_;

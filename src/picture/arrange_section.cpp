@@ -72,6 +72,7 @@ class SectionLayout {
         drawHeights();
         drawWidths();
         drawNotes();
+        drawing_.lines.insert(drawing_.lines.begin(), leaders_.begin(), leaders_.end());
         return std::move(drawing_);
     }
 
@@ -147,11 +148,15 @@ class SectionLayout {
         const double fixed_height = 2.0 * margin + static_cast<double>(note_lines_.size()) * line_ +
                                     lines(kAir) + below_extent + (above + below) * lines(kRow);
         const double room_height = sheet_.height - fixed_height;
-        if (room_width < lines(frugality_.room) || room_height < lines(kLeastRoom)) {
+        if (room_width < lines(kLeastRoom) || room_height < lines(kLeastRoom)) {
             return false;
         }
         const double most_x = room_width / section_->extent.width();
         const double most_y = room_height / section_->extent.height();
+        // A high and narrow section needs no more width than it has height for.
+        if (room_width < lines(frugality_.room) && most_x < most_y) {
+            return false;
+        }
         const double even = std::min(most_x, most_y);
         scale_x_ = std::min(most_x, legibleScale(even, section_->legible_width_m, kLegibleWidth));
         scale_y_ = std::min(most_y, legibleScale(even, section_->legible_height_m, kLegibleHeight));
@@ -204,7 +209,11 @@ class SectionLayout {
     [[nodiscard]] double y(double metres) const { return soil_.top + metres * scale_y_; }
     [[nodiscard]] Point at(const Point& point) const { return {x(point.x), y(point.y)}; }
 
-    void addLine(Stroke stroke, Point from, Point to) { drawing_.lines.push_back({stroke, {from, to}}); }
+    /// Leaders lie below all other lines.
+    void addLine(Stroke stroke, Point from, Point to) {
+        std::vector<PlacedLine>& lines = stroke == Stroke::Leader ? leaders_ : drawing_.lines;
+        lines.push_back({stroke, {from, to}});
+    }
     void addText(const Box& box, std::string text, Emphasis emphasis = Emphasis::Plain) {
         drawing_.texts.push_back({box, std::move(text), emphasis});
     }
@@ -410,6 +419,7 @@ class SectionLayout {
     double scale_y_ = 1;
     Box soil_;
     double notes_top_ = 0;
+    std::vector<PlacedLine> leaders_;
     Drawing drawing_;
 };
 

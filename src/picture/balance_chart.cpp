@@ -52,6 +52,7 @@ Chart barChart(const Quantity& quantity, const calc::RainValues& values, calc::R
     Chart chart;
     chart.title = std::string(quantity.title) + " [" + std::string(quantity.unit) + "]";
     chart.axis_text = "doba trvání deště [min]";
+    chart.axis_unit = "[min]";
     bool any = false;
     for (std::size_t row = 0; row < values.size(); ++row) {
         if (values[row] && !(*values[row] <= kLargestShown)) {

@@ -24,6 +24,7 @@ struct Chart {
     std::optional<std::size_t> marked;
     std::string marked_text;  ///< the value of the marked point
     std::string axis_text;    ///< what the labels below the axis mean
+    std::string axis_unit;    ///< instead of it where there is little room
     std::string note;         ///< below all, when there is something to say
     std::string summary;
     std::string hint;  ///< instead of a chart

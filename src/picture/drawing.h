@@ -17,16 +17,20 @@ struct Sheet {
     double height = 0;
 };
 
-/// How large texts are on the sheet.
-struct TextSizes {
-    double line_height = 0;
-    std::function<double(std::string_view)> width;
-};
-
 enum class Emphasis {
     Plain,
     Strong,  ///< the one value that matters
     Quiet,   ///< titles, notes, hints
+};
+
+/// How large texts are on the sheet.
+struct TextSizes {
+    double line_height = 0;
+    std::function<double(std::string_view, Emphasis)> measure;
+
+    [[nodiscard]] double width(std::string_view text, Emphasis emphasis = Emphasis::Plain) const {
+        return measure(text, emphasis);
+    }
 };
 
 struct PlacedArea {

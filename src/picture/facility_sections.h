@@ -10,14 +10,14 @@ namespace mero::picture {
 
 /// Values of surface infiltration.
 struct SurfaceValues {
-    std::optional<float> area_m2;   ///< empty before the calculation
-    float groundwater_depth_m = 0;  ///< 0: not given; its sign does not matter
+    std::optional<float> area_m2 = std::nullopt;  ///< empty before the calculation
+    float groundwater_depth_m = 0;                ///< 0: not given; its sign does not matter
 };
 [[nodiscard]] Section surfaceSection(const SurfaceValues& values);
 
 struct SwaleValues {
-    std::optional<float> area_m2;
-    std::optional<float> ponding_m;
+    std::optional<float> area_m2 = std::nullopt;
+    std::optional<float> ponding_m = std::nullopt;
     float groundwater_depth_m = 0;
 };
 [[nodiscard]] Section swaleSection(const SwaleValues& values);
@@ -30,18 +30,18 @@ struct PipeValues {
 };
 
 struct TrenchValues {
-    std::optional<float> length_m;
+    std::optional<float> length_m = std::nullopt;
     float width_m = 0;
     float height_m = 0;
-    PipeValues pipes;
+    PipeValues pipes = {};
     float groundwater_depth_m = 0;
 };
 [[nodiscard]] Section trenchSection(const TrenchValues& values);
 
 /// A trench under a swale of the same width.
 struct SwaleTrenchValues {
-    TrenchValues trench;
-    std::optional<float> swale_depth_m;
+    TrenchValues trench = {};
+    std::optional<float> swale_depth_m = std::nullopt;
 };
 [[nodiscard]] Section swaleTrenchSection(const SwaleTrenchValues& values);
 
@@ -54,9 +54,9 @@ struct ShaftValues {
     float inlet_depth_m = 0;
     float filter_layer_m = 0;
     float sand_layer_m = 0;  ///< 0 without one
-    std::optional<float> water_level_m;
-    std::optional<float> depth_m;
-    std::optional<float> required_embedding_m;
+    std::optional<float> water_level_m = std::nullopt;
+    std::optional<float> depth_m = std::nullopt;
+    std::optional<float> required_embedding_m = std::nullopt;
     float groundwater_depth_m = 0;
 };
 [[nodiscard]] Section shaftSection(const ShaftValues& values);
@@ -66,8 +66,8 @@ struct TankValues {
     float bottom_width_m = 0;
     float depth_m = 0;
     float slope = 0;  ///< the n of 1 : n
-    std::optional<float> required_storage_m3;
-    std::optional<float> volume_m3;
+    std::optional<float> required_storage_m3 = std::nullopt;
+    std::optional<float> volume_m3 = std::nullopt;
     float groundwater_depth_m = 0;
 };
 [[nodiscard]] Section tankSection(const TankValues& values);

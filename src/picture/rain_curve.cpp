@@ -38,6 +38,7 @@ Chart rainCurve(calc::RainTable rains, const calc::Rain& picked) {
     chart.kind = Chart::Kind::Curve;
     chart.title = "Intenzita deště [l/(s.ha)]";
     chart.axis_text = "doba trvání deště [min]";
+    chart.axis_unit = "[min]";
     for (const calc::Rain& rain : shown) {
         chart.points.push_back(
             {numbers::general(rain.duration_min), rain.duration_min, rain.intensity_l_s_ha});

@@ -2,6 +2,7 @@
 /// What the sections of several facilities share: which sizes can be drawn, texts, groundwater, pipes.
 #pragma once
 
+#include <algorithm>
 #include <string>
 
 #include "picture/facility_sections.h"
@@ -30,6 +31,12 @@ inline constexpr double kLargestDrawn_m = 10000.0;
 [[nodiscard]] Area rectangle(Material material, const Box& box);
 /// The four sides of a rectangle.
 void addOutline(Section& section, const Box& box);
+
+/// How far the banks of a swale run out on each side [m]: 1 : 2, no further than half the bottom. They are no
+/// part of the area that is counted.
+[[nodiscard]] constexpr double bankRun(double depth_m, double bottom_m) {
+    return std::min(2.0 * depth_m, bottom_m / 2.0);
+}
 
 /// Adds the groundwater, when it is given, and to the extent what it needs. Where it lies far below what
 /// there is to be seen, the drawing is broken in between.

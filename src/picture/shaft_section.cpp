@@ -11,7 +11,7 @@ namespace mero::picture {
 namespace {
 
 /// Length of the inlet that is shown, as a share of the inner width.
-constexpr double kInletLength = 0.5;
+constexpr double kInletLength = 0.3;
 
 bool canDrawShaft(const ShaftValues& values) {
     const bool rectangle_drawable = !values.rectangular || canDraw(values.inner_length_m);

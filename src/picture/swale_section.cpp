@@ -17,8 +17,6 @@ constexpr double kArrowStart = 0.15;
 constexpr double kArrowEnd = 0.6;
 /// Groundwater deeper than so many times the ponding makes the swale too flat.
 constexpr double kUnbroken = 2.5;
-/// Run of a swale's banks per unit of height; they are no part of the area that is counted.
-constexpr double kBankRun = 2.0;
 
 std::string square(float area_m2, double side_m) {
     return "plocha " + numbers::fixed(area_m2, 1) + " m², kreslená jako čtverec o straně " +
@@ -62,7 +60,7 @@ Section swaleSection(const SwaleValues& values) {
     if (!canDraw(side) || !canDraw(ponding)) {
         return sectionOfOddValues();
     }
-    const double bank = kBankRun * ponding;
+    const double bank = bankRun(ponding, side);
     Section section;
     section.extent = {-bank, 0.0, side + bank, ponding};
     section.legible_width_m = side;

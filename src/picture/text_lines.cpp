@@ -32,7 +32,7 @@ std::vector<std::string> brokenLines(std::string_view text, double width, const 
 
 PlacedText centredText(std::string text, double centre_x, double top, double left, double right,
                        const TextSizes& sizes, Emphasis emphasis) {
-    const double width = sizes.width(text);
+    const double width = sizes.width(text, emphasis);
     const double x = std::max(left, std::min(centre_x - width / 2.0, right - width));
     return {{x, top, x + width, top + sizes.line_height}, std::move(text), emphasis};
 }

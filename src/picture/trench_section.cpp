@@ -8,9 +8,6 @@
 namespace mero::picture {
 namespace {
 
-/// Run of the swale's banks per unit of height, as of a swale alone.
-constexpr double kBankRun = 2.0;
-
 /// The filled trench from `top_m` down, with its dimensions.
 Box addTrench(Section& section, const TrenchValues& values, double top_m) {
     const double width = values.width_m;
@@ -70,7 +67,7 @@ Section swaleTrenchSection(const SwaleTrenchValues& values) {
     }
     Section section;
     const double width = values.trench.width_m;
-    const double bank = kBankRun * depth;
+    const double bank = bankRun(depth, width);
     section.areas.push_back(
         {Material::Water, {{-bank, 0.0}, {width + bank, 0.0}, {width, depth}, {0.0, depth}}});
     section.dimensions.push_back({Side::Left, 0.0, depth, "průleh", metres(*values.swale_depth_m, 2)});

@@ -69,9 +69,15 @@ std::string dateText(const DateTime& moment) {
 }
 
 DateTime SystemClock::now() const {
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    constexpr DateTime kNotSet{.year = 1970, .month = 1, .day = 1};
+    constexpr int kLastYear = 1000000;
+    // In seconds: what counts nanoseconds ends in the year 2262.
+    const std::time_t seconds = std::time(nullptr);
     std::tm local{};
-    localtime_r(&seconds, &local);
+    // A clock that is set beyond every calendar counts as one that nobody has set.
+    if (localtime_r(&seconds, &local) == nullptr || local.tm_year > kLastYear) {
+        return kNotSet;
+    }
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
 }
 

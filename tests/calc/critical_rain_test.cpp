@@ -52,6 +52,8 @@ TEST(CriticalRain, RowsWithoutAPositiveDurationCanBeLeftOut) {
     const auto table = tableOf(Rain{0.0F, 900.0F}, Rain{-10.0F, 800.0F}, Rain{10.0F, 5.0F});
     EXPECT_EQ(findCriticalRain<Rows::PositiveDuration>(table, intensityOf).rain, (Rain{10.0F, 5.0F}));
     EXPECT_EQ(findCriticalRain<Rows::All>(table, intensityOf).rain, (Rain{0.0F, 900.0F}));
+    EXPECT_EQ(findCriticalRain<Rows::PositiveDuration>(tableOf(Rain{0.5F, 7.0F}), intensityOf).rain,
+              (Rain{0.5F, 7.0F}));
 }
 
 TEST(CriticalRain, EmptyTableAsksForNothing) {

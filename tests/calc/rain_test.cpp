@@ -12,6 +12,11 @@ TEST(Units, OneLitrePerSecondAndHectareIsTenToTheMinusSevenMetresPerSecond) {
     EXPECT_EQ(kRatePerIntensity * kIntensityPerRate, 1.0);
 }
 
+TEST(Units, ARowIsEmptyAtFirst) {
+    EXPECT_EQ(Rain{}, (Rain{0.0F, 0.0F}));
+    EXPECT_NE(Rain{}, (Rain{0.0F, 1.0F}));
+}
+
 TEST(Units, CircleNumberIsTheSinglePrecisionOne) {
     EXPECT_EQ(kPi, static_cast<double>(3.14159265358979F));
     EXPECT_NE(kPi, 3.14159265358979);

@@ -5,8 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "design/messages.h"
 
 namespace mero::design {
@@ -120,28 +118,6 @@ TEST(Design, ARingsWallIsStoredWithTwoDecimals) {
     const DesignResult result = design(oneRain(), facility);
     EXPECT_EQ(result.shaft_wall_m, 0.14F);
     EXPECT_FLOAT_EQ(result.value(Quantity::ShaftOuterDiameter), 1.48F);
-}
-
-TEST(Design, OwnIntensitiesBelowOneHalfAreRefusedByTheRainDialog) {
-    Site site = oneRain();
-    for (calc::Rain& rain : site.rains) {
-        rain.intensity_l_s_ha = 0.4F;
-    }
-    EXPECT_EQ(confirmRain(site.rains), RainConfirmation::NoIntensities);
-    site.rains[0].intensity_l_s_ha = 40000.0F;
-    EXPECT_EQ(confirmRain(site.rains), RainConfirmation::Overflow);
-    site.rains[0].intensity_l_s_ha = 1.0F;
-    EXPECT_EQ(confirmRain(site.rains), RainConfirmation::Accepted);
-}
-
-TEST(Verdicts, CodesAreWordsAndDifferFromEachOther) {
-    std::vector<std::string> codes;
-    for (const VerdictInfo& verdict : verdicts()) {
-        EXPECT_THAT(verdict.code, ::testing::MatchesRegex("[a-z0-9_]+"));
-        codes.emplace_back(verdict.code);
-    }
-    std::sort(codes.begin(), codes.end());
-    EXPECT_EQ(std::adjacent_find(codes.begin(), codes.end()), codes.end());
 }
 
 }  // namespace

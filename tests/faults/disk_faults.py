@@ -75,6 +75,24 @@ class NoPermission(FaultTest):
         self.assertEqual(len(list((home / "mero/Webs").rglob("*"))), len(list((ROOT / "Webs").rglob("*"))))
 
     @on_each_front
+    def test_installed_data_that_cannot_be_read_are_missed_when_they_are_needed(self, front):
+        programs = self.installed()
+        home = self.scratch / "home"
+        home.mkdir()
+        home.chmod(0o777)
+        script = self.scratch / "s.mero"
+        script.write_text("\n".join([*REPORT, "tab 0", "click cmdEdit(0)", "select frmIntDialog.cboSelStanice 4"]))
+        data = self.scratch / "usr/share/mero"
+        for unreadable, pages in ((data, False), (data / "mero.mdb", True)):
+            unreadable.chmod(0)
+            done = self.run_command(command(front, str(script), programs=programs),
+                                    env=environment(XDG_DATA_HOME=str(home)), **ordinary_user())
+            unreadable.chmod(0o755)
+            self.assertEqual(done.returncode, 1)
+            self.assertIn(f'"Databáze dešťů „{home}/mero/mero.mdb“ nebyla nalezena', done.stdout.replace("\\\\", "/"))
+            self.assertEqual((home / "mero/Webs/Desc01.htm").exists(), pages)
+
+    @on_each_front
     def test_the_report_is_told_as_locked_and_a_copy_as_not_saved(self, front):
         folder = self.folder()
         closed = self.scratch / "closed"
@@ -83,12 +101,14 @@ class NoPermission(FaultTest):
         closed.chmod(0o555)
         folder.chmod(0o555)
         events = self.run_script(front, [*REPORT, f'answer-save "{closed}/a.html"', "click cmdSaveResults",
-                                         f'answer-save "{closed}/old.html"', "click cmdSaveResults"],
+                                         f'answer-save "{closed}/old.html"', "click cmdSaveResults",
+                                         f'answer-save "{closed}/a.pdf"', "click cmdSaveResults"],
                                  folder, **ordinary_user())
         self.assertEqual(messages(events), [
             "Soubor Mero_ je otevřený jinou aplikací.",
             f"Zprávu se nepodařilo uložit do souboru {closed}/a.html.",
-            f"Zprávu se nepodařilo uložit do souboru {closed}/old.html."])
+            f"Zprávu se nepodařilo uložit do souboru {closed}/old.html.",
+            f"Zprávu se nepodařilo uložit do souboru {closed}/a.pdf."])
         self.assertEqual((closed / "old.html").read_text(), "old")
         self.assertEqual([path.name for path in closed.iterdir()], ["old.html"])
 
@@ -154,6 +174,19 @@ class FullDisk(FaultTest):
             original = self.scratch / "usr/share" / name
             self.assertEqual(size, original.stat().st_size, name)
         self.assertGreater(len(left), 0, "what there is room for comes")
+
+    @on_each_front
+    def test_the_next_start_brings_what_there_was_no_room_for(self, front):
+        programs = self.installed()
+        script = self.scratch / "s.mero"
+        script.write_text("tab 0\n")
+        variables = environment(XDG_DATA_HOME=str(self.scratch / "home"))
+        database = self.scratch / "home/mero/mero.mdb"
+        start = command(front, str(script), programs=programs)
+        self.run_command(start, env=variables, preexec_fn=no_more_than(DATABASE_BYTES // 2))
+        self.assertFalse(database.exists())
+        self.run_command(start, env=variables)
+        self.assertEqual(database.read_bytes(), (ROOT / "data/mero.mdb").read_bytes())
 
     @on_each_front
     def test_the_report_is_whole_or_not_there_and_the_copy_is_told(self, front):

@@ -2,6 +2,7 @@
 """Files and folders that go, or turn bad, while the program is open."""
 
 import re
+import resource
 import shutil
 import threading
 import unittest
@@ -132,6 +133,18 @@ class Reader(FaultTest):
                                     env=environment())
             self.assertEqual(done.returncode, 1)
             self.assertRegex(done.stdout, re.escape("program pro čtení databáze nelze spustit") + '".*"ends": true')
+
+
+    def test_a_machine_that_can_start_no_process_is_told(self):
+        folder = self.folder()
+        script = self.scratch / "s.mero"
+        script.write_text("\n".join(RAIN))
+        # The limit holds for an ordinary user only; a search for leaks would need a process too.
+        done = self.run_command(command("batch", str(script), "--folder", str(folder)),
+                                preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_NPROC, (0, 0)),
+                                env=environment(ASAN_OPTIONS="detect_leaks=0"), **ordinary_user())
+        self.assertEqual(done.returncode, 1)
+        self.assertRegex(done.stdout, re.escape("program pro čtení databáze nelze spustit") + '".*"ends": true')
 
 
 class TwoPrograms(FaultTest):

@@ -68,8 +68,13 @@ class Fronts:
         return fault or list(difflib.unified_diff(one, other, *self.commands, lineterm="", n=2))
 
 
-def shortest(fronts: Fronts, lines: list[str], path: Path) -> list[str]:
-    """Leaves out ever smaller pieces for as long as the fronts still differ."""
+def kind_of(difference: list[str]) -> str:
+    """A script that became unusable by what was left out shows nothing."""
+    return "" if not difference else difference[0] if len(difference) == 1 else "the fronts differ"
+
+
+def shortest(fronts: Fronts, lines: list[str], path: Path, kind: str) -> list[str]:
+    """Leaves out ever smaller pieces for as long as the fault is of the same kind."""
     trials = 0
     piece = len(lines) // 2
     while piece > 0 and trials < MOST_TRIALS:
@@ -78,7 +83,7 @@ def shortest(fronts: Fronts, lines: list[str], path: Path) -> list[str]:
             shorter = lines[:at] + lines[at + piece:]
             path.write_text("".join(shorter), encoding="utf-8", newline="")
             trials += 1
-            if fronts.difference(path):
+            if kind_of(fronts.difference(path)) == kind:
                 lines = shorter
             else:
                 at += piece
@@ -101,8 +106,8 @@ def live(arguments: argparse.Namespace, fronts: Fronts, seed: int, kind: str, ac
     # No newline may be changed: texts hold carriage returns.
     with open(script, encoding="utf-8", newline="\n") as file:
         lines = list(file)
-    kept = Path(f"monkey-window-{seed}.mero")
-    lines = shortest(fronts, lines, kept)
+    kept = Path(f"monkey-window-{seed}.mero").resolve()
+    lines = shortest(fronts, lines, kept, kind_of(difference))
     print(f"a short script that shows it, left in {kept}:\n{''.join(lines[:60])}")
     print("\n".join(fronts.difference(kept)[:60]))
     return -1

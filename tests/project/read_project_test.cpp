@@ -136,6 +136,9 @@ TEST(ReadProject, SyntaxErrorsTellLineAndColumn) {
 TEST(ReadProject, ANameMayStandOnceInAnObject) {
     EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "type": "swale")")),
               "p.json: facility.type: stands twice; expected each name once");
+    EXPECT_EQ(
+        errorOf(withFacility(R"("type": "trench", "drain": {"pipe_count": 1, "pipe_count": 2}, "type": 1)")),
+        "p.json: facility.drain.pipe_count: stands twice; expected each name once");
     EXPECT_EQ(errorOf(document(kRain, R"("areas": [{"area_m2": 1, "runoff_coefficient": 1},
                                                    {"area_m2": 2, "runoff_coefficient": 1}])")),
               "");
@@ -144,6 +147,11 @@ TEST(ReadProject, ANameMayStandOnceInAnObject) {
 TEST(ReadProject, NumbersHaveLimits) {
     EXPECT_EQ(errorOf(document(kRain, kAreas, R"("subsoil": {"filtration_coefficient_m_s": 2e12})")),
               "p.json: subsoil.filtration_coefficient_m_s: expected a number from -1e12 to 1e12");
+    EXPECT_EQ(errorOf(document(kRain, R"("areas": [{"area_m2": 2e12, "runoff_coefficient": 1}])")),
+              "p.json: areas[0].area_m2: expected a number from -1e12 to 1e12");
+    EXPECT_EQ(
+        errorOf(document(R"("rain": {"intensities_l_s_ha": [1,2,3,4,5,6,7,8,-2e12], "periodicity": 1})")),
+        "p.json: rain.intensities_l_s_ha[8]: expected a number from -1e12 to 1e12");
     EXPECT_EQ(errorOf(document(kRain, R"("areas": [{"area_m2": 0, "runoff_coefficient": 1}])")),
               "p.json: areas[0].area_m2: expected a number [m²] other than 0");
     // Smaller than any Single, so 0 for the window.
@@ -168,6 +176,60 @@ TEST(ReadProject, TextsAreTakenAsTheBoxesTakeThem) {
     EXPECT_EQ(project.texts.description, "a\r\nb\r\nc");
     EXPECT_EQ(errorOf("{\"project\": {\"name\": \"a\\nb\"}," + document().substr(1)),
               "p.json: project.name: expected a text on one line");
+}
+
+TEST(ReadProject, TextsMustBeTextsThatABoxCanHold) {
+    const auto withProject = [](const std::string& members) {
+        return errorOf("{\"project\": {" + members + "}," + document().substr(1));
+    };
+    EXPECT_EQ(withProject(R"("name": 5)"), "p.json: project.name: expected a text, not 5");
+    EXPECT_EQ(withProject(R"("description": ["a"])"),
+              "p.json: project.description: expected a text, not a list");
+    EXPECT_EQ(withProject(R"("description": "a\u0007")"),
+              "p.json: project.description: expected a text without control characters");
+    EXPECT_EQ(withProject(R"("description": "a\tb")"), "");
+    EXPECT_EQ(withProject(R"("name": "a\tb")"), "p.json: project.name: expected a text on one line");
+    EXPECT_EQ(errorOf("{\"$schema\": 1," + document().substr(1)), "p.json: $schema: expected a text, not 1");
+}
+
+TEST(ReadProject, EveryKindOfLineEndIsALineEnd) {
+    const auto description = [](const std::string& text) {
+        return readProject("{\"project\": {\"description\": \"" + text + "\"}," + document().substr(1),
+                           "p.json")
+            .texts.description;
+    };
+    EXPECT_EQ(description("a\\rb\\n\\nc"), "a\r\nb\r\n\r\nc");
+    EXPECT_EQ(description("a\\r"), "a\r\n");
+    EXPECT_EQ(description("a\\r\\r\\n"), "a\r\n\r\n");
+}
+
+TEST(ReadProject, AnAreaMayNameItsSurface) {
+    const Project project =
+        readProject(document(kRain, R"("areas": [{"area_m2": 1, "runoff_coefficient": 1, "surface": "asfalt"},
+                                                 {"area_m2": 2, "runoff_coefficient": 1}])"),
+                    "p.json");
+    EXPECT_EQ(project.texts.surfaces, (std::vector<std::string>{"asfalt", ""}));
+    EXPECT_EQ(errorOf(document(kRain, R"("areas": [{"area_m2": 1, "runoff_coefficient": 1, "surface": 5}])")),
+              "p.json: areas[0].surface: expected a text, not 5");
+}
+
+TEST(ReadProject, LongAndNestedValuesAreNotRepeatedInTheMessage) {
+    const std::string longest(38, 'x');
+    EXPECT_THAT(errorOf(withFacility("\"type\": \"trench\", \"trench_width_m\": \"" + longest + "\"")),
+                HasSubstr("not \"" + longest + "\""));
+    EXPECT_EQ(errorOf(withFacility("\"type\": \"trench\", \"trench_width_m\": \"" + longest + "x\"")),
+              "p.json: facility.trench_width_m: expected a number [m], not a longer text");
+    EXPECT_EQ(errorOf(document(R"("rain": {"intensities_l_s_ha": {}, "periodicity": 1})")),
+              "p.json: rain.intensities_l_s_ha: expected a list of nine numbers, not an object");
+    EXPECT_EQ(errorOf(document(R"("rain": {"intensities_l_s_ha": 3, "periodicity": 1})")),
+              "p.json: rain.intensities_l_s_ha: expected a list of nine numbers, not 3");
+}
+
+TEST(ReadProject, AWholeSectionThatIsMissingIsTold) {
+    EXPECT_EQ(errorOf("{}"), "p.json: rain: is missing: expected an object");
+    EXPECT_EQ(errorOf("{" + kRain + "}"), "p.json: areas: is missing: expected a list");
+    EXPECT_EQ(errorOf("{" + kRain + "," + kAreas + "," + kSubsoil + "}"),
+              "p.json: facility: is missing: expected an object");
 }
 
 TEST(ReadProject, AByteOrderMarkIsSkipped) {

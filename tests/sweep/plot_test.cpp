@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-/// The chart of a sweep, its scales, and its drawing.
+/// The chart of a sweep: what is drawn over what, and which wishes cannot be met.
 #include "sweep/plot.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "sweep/samples.h"
-#include "sweep/scale.h"
 
 namespace mero::sweep {
 namespace {
@@ -14,7 +13,6 @@ namespace {
 using test::variants;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::Not;
 using ::testing::SizeIs;
 using ::testing::ThrowsMessage;
 
@@ -78,43 +76,79 @@ TEST(Plot, WishesThatDoNotFitAreTold) {
                 ThrowsMessage<VariationError>(HasSubstr("24 lines")));
 }
 
-TEST(Scale, LinearScalesAreRound) {
-    EXPECT_THAT(Scale({0.6, 2.0}, false, false).ticks(), SizeIs(::testing::Ge(4U)));
-    EXPECT_THAT(Scale({0.0, 100.0}, false, true).ticks(), ElementsAre(0.0, 20.0, 40.0, 60.0, 80.0, 100.0));
-    EXPECT_EQ(Scale({3.0, 3.0}, false, true).share(0.0), 0.0);
-    EXPECT_EQ(Scale({}, false, true).share(1.0), 1.0);
-    EXPECT_LT(*Scale({-5.0, -5.0}, false, false).share(-5.0), 1.0);
+TEST(Plot, EachTypeShowsItsMainResult) {
+    const auto title = [](const std::string& type) {
+        return chartOf({"facility.type=" + type, "facility.safety_factor=1,2"},
+                       over("facility.safety_factor"))
+            .title;
+    };
+    EXPECT_EQ(title("swale,trench"), "Potřebný akumulační objem");  // types side by side
+    const auto titleOfOne = [](const std::string& type) {
+        return chartOf({"facility.safety_factor=1,2", "facility.type=" + type, "facility.soil=all"},
+                       {"", "", "facility.soil"})
+            .title;
+    };
+    EXPECT_EQ(titleOfOne("surface"), "Plocha potřebná pro vsakování");
+    EXPECT_EQ(titleOfOne("swale"), "Potřebný akumulační objem");
+    EXPECT_EQ(titleOfOne("swale_trench"), "Délka rýhy");
+    EXPECT_EQ(titleOfOne("trench"), "Délka rýhy");
+    EXPECT_EQ(titleOfOne("shaft"), "Výška vzdutí");
+    EXPECT_EQ(titleOfOne("tank"), "Potřebný akumulační objem");
 }
 
-TEST(Scale, LogarithmicScalesAreWholeDecades) {
-    const Scale scale({static_cast<double>(1e-6F), static_cast<double>(1e-3F)}, true, false);
-    EXPECT_THAT(scale.ticks(), SizeIs(4));
-    EXPECT_NEAR(*scale.share(1e-5), 1.0 / 3.0, 1e-9);
-    EXPECT_FALSE(scale.share(0.0).has_value());
-    EXPECT_EQ(tickText(1e-6, true), "1E-06");
-    EXPECT_EQ(tickText(0.1, true), "0.1");
-    EXPECT_EQ(tickText(0.0005, false), "0.0005");
+TEST(Plot, AWishedResultTakesThePlaceOfTheMainOne) {
+    const Chart chart = chartOf({"facility.trench_width_m=1,2"}, {"infiltration_area_m2", "", ""});
+    EXPECT_EQ(chart.y.label, "Plocha potřebná pro vsakování [m²]");
 }
 
-TEST(Svg, HoldsLinesTextsAndEscapedNames) {
-    Chart chart;
-    chart.title = "A < B & \"C\"";
-    chart.x = {"x", false};
-    chart.y = {"y", false};
-    chart.x_values = {1.0, 2.0, 3.0, 4.0};
-    chart.legend = "legend";
-    chart.series.push_back({"one", {1.0, 2.0, std::nullopt, 3.0}});
-    const std::string document = svg(chart);
-    EXPECT_THAT(document, HasSubstr("A &lt; B &amp; &quot;C&quot;"));
-    EXPECT_THAT(document, HasSubstr(">one</text>"));
-    EXPECT_THAT(document, Not(HasSubstr("nan")));
-    // The gap makes two lines of one.
-    std::size_t lines = 0;
-    for (std::size_t at = document.find("<polyline"); at != std::string::npos;
-         at = document.find("<polyline", at + 1)) {
-        ++lines;
-    }
-    EXPECT_EQ(lines, 2U);
+TEST(Plot, TheWishedLinesLeaveTheOtherNumberForTheAxis) {
+    const Chart chart = chartOf({"facility.trench_width_m=1,2,3", "facility.trench_height_m=1,2"},
+                                {"", "", "facility.trench_width_m"});
+    EXPECT_EQ(chart.x.label, "Výška rýhy [m]");
+    EXPECT_EQ(chart.legend, "Šířka rýhy (střední) [m]");
+    ASSERT_THAT(chart.series, SizeIs(3));
+    EXPECT_EQ(chart.series[2].name, "3");
+}
+
+TEST(Plot, HeldValuesCarryTheirUnitAndAreJoined) {
+    EXPECT_EQ(chartOf({"facility.fill_porosity=0.3,0.4", "facility.soil=all", "facility.trench_height_m=1,2",
+                       "facility.trench_width_m=0.5,1"},
+                      {"", "facility.fill_porosity", "facility.soil"})
+                  .subtitle,
+              "Výška rýhy = 1 m, Šířka rýhy (střední) = 0.5 m");
+}
+
+TEST(Plot, PeriodicitiesAreDrawnAtTheirValues) {
+    EXPECT_THAT(chartOf({"rain.periodicity=0.5,0.2,0.05"}, over("rain.periodicity")).x_values,
+                ElementsAre(0.5, static_cast<double>(0.2F), static_cast<double>(0.05F)));
+}
+
+TEST(Plot, ResultsOverSeveralDecadesGetALogarithmicAxisToo) {
+    const auto surfaceOver = [](const std::string& filtration) {
+        return chartOf({"subsoil.filtration_coefficient_m_s=log:" + filtration, "facility.type=surface"},
+                       {"infiltration_area_m2", "", ""});
+    };
+    // 870 / (kf 1e7 / 356 - 1): from 480.9 m2 at 1e-4 to 3.1 m2 at 1e-2.
+    EXPECT_TRUE(surfaceOver("1e-4:1e-2:3").y.logarithmic);
+    // To 188.4 m2 at 2e-4.
+    EXPECT_FALSE(surfaceOver("1e-4:2e-4:3").y.logarithmic);
+    // Below 3.56e-5 the soil cannot take the rain: the formula gives negative areas.
+    EXPECT_FALSE(surfaceOver("1e-5:1e-2:4").y.logarithmic);
+}
+
+TEST(Plot, AxisAndLinesDifferAndHaveTheirLimits) {
+    const auto check = [](const std::vector<std::string>& texts, const PlotWish& wish) {
+        return [=] { checkPlot(variants(texts), wish); };
+    };
+    EXPECT_THAT(
+        check({"facility.safety_factor=1,2"}, {"", "facility.safety_factor", "facility.safety_factor"}),
+        ThrowsMessage<VariationError>("facility.safety_factor: cannot be the axis and the lines at once"));
+    EXPECT_THAT(check({"facility.safety_factor=1:2001:1"}, {}),
+                ThrowsMessage<VariationError>(HasSubstr("2000 points")));
+    EXPECT_NO_THROW(check({"facility.safety_factor=1:2000:1"}, {})());
+    EXPECT_NO_THROW(check({"facility.safety_factor=1:30:1", "facility.fill_porosity=1:24:1"}, {})());
+    EXPECT_THAT(check({"facility.safety_factor=1,2"}, PlotWish{"xyz", "", ""}),
+                ThrowsMessage<VariationError>("xyz: is no result"));
 }
 
 }  // namespace

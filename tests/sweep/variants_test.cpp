@@ -65,6 +65,23 @@ TEST(Variants, EveryTypeNeedsItsValues) {
         2U);
 }
 
+TEST(Variants, EveryCombinationOfTheDecidingChoicesNeedsItsValues) {
+    const project::Project shaft = project::readProject(
+        R"({"rain": {"station": 1, "periodicity": 1}, "areas": [], "subsoil": {"filtration_coefficient_m_s": 1},
+            "facility": {"type": "shaft", "shape": "round", "inner_diameter_m": 1, "wall_thickness_m": 0.1,
+                         "inlet_frost_depth_m": 1, "filter_layer_m": 1}})",
+        "p.json");
+    EXPECT_EQ(variants({"facility.wall_thickness_m=0.1,0.2"}, shaft).count(), 2U);
+    EXPECT_THAT([&] { static_cast<void>(variants({"facility.variant=all"}, shaft)); },
+                ThrowsMessage<VariationError>(HasSubstr("facility.sand_layer_m: is missing in the project")));
+    EXPECT_EQ(variants({"facility.variant=all", "facility.sand_layer_m=0.1,0.2"}, shaft).count(), 4U);
+    // Only a rectangular shaft has a width; a ring needs neither.
+    EXPECT_THAT(
+        [&] { static_cast<void>(variants({"facility.shape=round,rectangular"}, shaft)); },
+        ThrowsMessage<VariationError>(HasSubstr("facility.inner_width_m: is missing in the project")));
+    EXPECT_EQ(variants({"facility.shape=all", "facility.catalogue_shaft=all"}, shaft).count(), 36U);
+}
+
 TEST(Variants, TooManyToCountIsTold) {
     std::vector<std::string> texts;
     for (const char* name : {"trench_width_m", "trench_height_m", "fill_porosity", "safety_factor"}) {

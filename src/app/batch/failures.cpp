@@ -5,6 +5,7 @@
 
 #include <exception>
 #include <iostream>
+#include <stdexcept>
 
 #include "app/common/options.h"
 #include "platform/numbers/runtime_error.h"
@@ -23,7 +24,11 @@ int tell(const std::exception& error, int status) {
 
 int reportingFailures(const std::function<int()>& command) {
     try {
-        return command();
+        const int status = command();
+        std::cout.flush();
+        return status == kDone && !std::cout
+                   ? tell(std::runtime_error("the output cannot be written"), kFailed)
+                   : status;
     } catch (const UsageError& error) {
         return tell(error, kUnusable);
     } catch (const project::ProjectError& error) {

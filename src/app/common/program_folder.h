@@ -13,7 +13,8 @@ namespace mero::app {
 
 /// The program's folder by the rule: the executable's folder when it holds `Webs` and can be written, else
 /// `$XDG_DATA_HOME/mero` (or `~/.local/share/mero`), made and filled with what is missing there of `mero.mdb`
-/// and `Webs`: from the installed data, or from beside the executable where that folder cannot be written. What cannot be made or copied is left out; the program then tells of the missing file.
+/// and `Webs`: from the installed data, or from beside the executable where that folder cannot be written.
+/// What cannot be made or copied is left out; the program then tells of the missing file.
 [[nodiscard]] std::string defaultProgramFolder();
 
 /// Whether the folder is there. The user's own folder is not when it could not be made.

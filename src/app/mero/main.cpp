@@ -2,6 +2,7 @@
 // mero: the program with its window.
 // With --script a script's hands work the same widgets, and the trace goes to standard output.
 #include <QApplication>
+#include <QFontMetrics>
 #include <QLibraryInfo>
 #include <QTimer>
 #include <QTranslator>
@@ -56,16 +57,19 @@ constexpr const char* kHelp =
     "  --help            this text\n"
     "  --version         the version\n"
     "\n"
-    "Exit status: 0 ordinary end, 1 a run-time error ended the program or the PDF file was not made, 2 "
-    "unusable script or arguments.\n";
+    "Exit status: 0 ordinary end, 1 a run-time error ended the program, the trace could not be written or "
+    "the PDF\n"
+    "file was not made, 2 unusable script or arguments.\n";
 
 std::string readScript(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::string script{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (!file.is_open() || file.bad() || (file.fail() && !file.eof())) {
+    try {
+        std::ifstream file;
+        file.exceptions(std::ios::badbit | std::ios::failbit);
+        file.open(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    } catch (const std::ios_base::failure&) {  // no such file, no permission, a folder
         throw app::UsageError("cannot read the script " + path);
     }
-    return script;
 }
 
 /// The window system's own texts (context menus, file dialogs) in the program's language, where installed.
@@ -199,10 +203,14 @@ int main(int argc, char** argv) {
         if (options.palette != app::Palette::System) {
             qt::usePalette(options.palette == app::Palette::Dark ? qt::darkPalette() : qt::lightPalette());
         }
-        app::wearIcon();
+        if (!QFontMetrics(QApplication::font()).inFont(QLatin1Char('A'))) {
+            std::cerr
+                << "mero: there is no font on this machine: the window shows boxes in place of letters\n";
+        }
         QTranslator translator;
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);
+        app::wearIcon();
         Mero mero(options, std::move(script));
         return mero.run();
     } catch (const app::UsageError& error) {

@@ -54,7 +54,12 @@ void QtDesk::showMessage(const platform::Message& message) {
     box.setObjectName(QStringLiteral("message"));
     box.setTextFormat(Qt::PlainText);
     if (sitter_ == Sitter::Person) {
+        const QPointer<QWidget> below = window();
         box.exec();
+        // A window system without a window manager gives the focus to nobody.
+        if (!below.isNull()) {
+            below->activateWindow();
+        }
         if (message_closed) {
             message_closed(message.text);
         }

@@ -83,64 +83,44 @@ ScannedNumber scan(std::string_view text, Grouping grouping) {
         ++at;
     }
     at = scanIntegerPart(text, at, grouping, number.digits);
-    bool any_digit = !number.digits.empty();
     if (at < text.size() && text[at] == '.') {
-        std::string fraction;
-        const std::size_t end = scanIntegerPart(text, at + 1, Grouping::None, fraction);
-        any_digit = any_digit || !fraction.empty();
-        if (any_digit) {
-            if (number.digits.empty()) {
-                number.digits = "0";
-            }
-            if (!fraction.empty()) {
-                number.digits += '.' + fraction;
-            }
-            at = end;
-        }
+        number.digits += '.';
+        at = scanIntegerPart(text, at + 1, Grouping::None, number.digits);
     }
-    if (!any_digit) {
-        return number;
+    number.found = std::any_of(number.digits.begin(), number.digits.end(), isDigit);
+    if (number.found) {
+        number.length = scanExponent(text, at, number.digits);
     }
-    number.found = true;
-    number.length = scanExponent(text, at, number.digits);
     return number;
 }
 
 /// std::from_chars reports a value too small for the type as it reports one too large; only the latter is
-/// an overflow here. The power of ten of the first significant digit tells them apart.
+/// an overflow here. The power of ten tells them apart. It may be wrong by one: whatever is out of range is
+/// dozens of powers away from 1. One digit at least is not 0, for zeros are in range with any exponent.
 bool isBelowOne(std::string_view digits) {
     const std::size_t exponent_at = std::min(digits.find('e'), digits.size());
     const std::string_view mantissa = digits.substr(0, exponent_at);
-    const std::size_t first = mantissa.find_first_of("123456789");
-    if (first == std::string_view::npos) {
-        return true;
-    }
+    const auto first = static_cast<long>(mantissa.find_first_of("123456789"));
+    const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
     // An exponent of more than 9 digits decides alone.
     const std::string_view exponent_text =
         exponent_at < digits.size() ? digits.substr(exponent_at + 1) : std::string_view("0");
-    const bool negative_exponent = exponent_text.starts_with('-');
-    long exponent = 0;
+    long exponent{};
     const auto result =
         std::from_chars(exponent_text.data(), exponent_text.data() + exponent_text.size(), exponent);
     if (result.ec == std::errc::result_out_of_range) {
-        return negative_exponent;
+        return exponent_text.starts_with('-');
     }
-    const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
-    const long power = first < static_cast<std::size_t>(point) ? point - static_cast<long>(first) - 1
-                                                               : point - static_cast<long>(first);
-    return exponent < -power;  // their sum may be too large for the type
+    return exponent < first - point;  // their sum may be too large for the type
 }
 
 template <typename Real>
 Real convert(const ScannedNumber& number) {
-    Real value = 0;
+    Real value{};  // stays 0 when the number is too small for the type
     const char* begin = number.digits.data();
     const auto result = std::from_chars(begin, begin + number.digits.size(), value);
-    if (result.ec == std::errc::result_out_of_range) {
-        if (!isBelowOne(number.digits)) {
-            throw RuntimeError(ErrorNumber::Overflow);
-        }
-        value = 0;
+    if (result.ec == std::errc::result_out_of_range && !isBelowOne(number.digits)) {
+        throw RuntimeError(ErrorNumber::Overflow);
     }
     return number.negative && value != 0 ? -value : value;
 }
@@ -176,9 +156,6 @@ struct Decimal {
         if (up) {
             increment();
         }
-        if (digits.empty()) {
-            *this = Decimal{};
-        }
     }
 
   private:
@@ -204,12 +181,9 @@ Decimal shortestDecimal(Real value) {
     std::array<char, 40> buffer{};
     const auto result =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific);
-    std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
+    const std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
     Decimal decimal;
-    if (text.starts_with('-')) {
-        decimal.negative = true;
-        text.remove_prefix(1);
-    }
+    decimal.negative = text.starts_with('-');
     const std::size_t exponent_at = text.find('e');
     decimal.digits.clear();
     std::copy_if(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(exponent_at),

@@ -19,8 +19,6 @@ const char* describe(ErrorNumber number) {
             return "Text není číslo";
         case ErrorNumber::FileNotFound:
             return "Soubor nebyl nalezen";
-        case ErrorNumber::PermissionDenied:
-            return "Přístup byl odepřen";
     }
     return "Neznámá chyba";
 }

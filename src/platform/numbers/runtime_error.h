@@ -16,7 +16,6 @@ enum class ErrorNumber {
     DivisionByZero = 11,
     TypeMismatch = 13,  ///< a text is not a number
     FileNotFound = 53,
-    PermissionDenied = 70,
 };
 
 /// Czech description of an error number, as the report of an error shows it.

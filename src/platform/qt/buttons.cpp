@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/qt/field_keys.h"
+#include "platform/qt/mnemonics.h"
 #include "platform/qt/spoken.h"
 #include "platform/qt/texts.h"
 
@@ -32,7 +33,9 @@ void showSelected(QRadioButton& radio, bool selected) {
 class LinkLabel : public QLabel {
   public:
     LinkLabel(const QString& text, std::function<void()> clicked, QWidget& parent)
-        : QLabel(text, &parent), clicked_(std::move(clicked)) {
+        : QLabel(&parent), clicked_(std::move(clicked)) {
+        speakAs(*this, QAccessible::Link);
+        setText(text);
         setTextFormat(Qt::PlainText);
         setCursor(Qt::PointingHandCursor);
         setFocusPolicy(Qt::TabFocus);
@@ -42,7 +45,6 @@ class LinkLabel : public QLabel {
         setForegroundRole(QPalette::Link);
         setFrameShape(QFrame::NoFrame);
         setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-        speakAs(*this, QAccessible::Link);
     }
 
   protected:
@@ -83,6 +85,7 @@ QPushButton& makeButton(WidgetKit& kit, platform::Button& button, QWidget& paren
     auto& push = *new QPushButton(captionText(button.text()), &parent);
     // Enter presses the button that has the focus, not only the space bar.
     push.setAutoDefault(true);
+    focusByMnemonic(push);
     bindCommon(kit, button, push);
     follow(button, push, [&button, &push](Aspect aspect) {
         if (aspect == Aspect::Text) {

@@ -39,6 +39,7 @@ QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view
     follow(box, line, [&box, &line, &view, &grid, place](Aspect aspect) {
         if (aspect == Aspect::Visible && box.visible()) {
             view.reveal(grid.current());
+            line.setAccessibleName(view.spokenPlace(grid.current()));
             place();
             line.selectAll();
             line.raise();

@@ -3,6 +3,8 @@
 /// Long captions are broken into lines instead of being cut or pushing the fields away.
 #include "platform/qt/field_grid.h"
 
+#include <QRadioButton>
+
 #include "platform/qt/look.h"
 
 namespace mero::qt {
@@ -111,7 +113,23 @@ void FieldGrid::widget(const QString& text, QWidget& widget) {
     if (widget.accessibleName().isEmpty()) {
         describe(widget, text);
     }
+    // An option alone does not say what it is an option of.
+    for (auto* option : widget.findChildren<QRadioButton*>()) {
+        option->setAccessibleDescription(widget.accessibleName());
+    }
     grid_->addWidget(&widget, row_, kField, 1, kRest - kField + 1, Qt::AlignLeft | Qt::AlignVCenter);
+    ++row_;
+}
+
+void FieldGrid::pair(const QString& text, QWidget& first, QWidget& second) {
+    // Both stay children of the grid's parent: assistive technology looks for the caption among siblings.
+    caption(text).setBuddy(&first);
+    describe(first, text);
+    auto* row = new QHBoxLayout;
+    row->addWidget(&first);
+    row->addWidget(&second);
+    row->addStretch(1);
+    grid_->addLayout(row, row_, kField, 1, kRest - kField + 1);
     ++row_;
 }
 

@@ -26,6 +26,8 @@ class FieldGrid {
     QPlainTextEdit& area(platform::TextBox& box, const QString& caption);
     /// Any other widget with a caption.
     void widget(const QString& caption, QWidget& widget);
+    /// Two widgets in one row; the caption is the first one's.
+    void pair(const QString& caption, QWidget& first, QWidget& second);
     /// A widget on the right of the last row.
     void beside(QWidget& widget);
     /// A widget in place of the last row's unit.

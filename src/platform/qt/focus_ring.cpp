@@ -57,6 +57,7 @@ class FocusRing : public QFocusFrame {
   private:
     void follow(QWidget* focused) {
         const bool rings = focused != nullptr && focused->window() == window_ && focused != window_ &&
+                           focused->focusPolicy() != Qt::NoFocus &&
                            !focused->property(kItselfProperty).toBool();
         setWidget(rings ? focused : nullptr);
         setVisible(rings);

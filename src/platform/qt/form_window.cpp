@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/qt/focus_ring.h"
+#include "platform/qt/mnemonics.h"
 #include "platform/qt/texts.h"
 
 namespace mero::qt {
@@ -65,6 +66,7 @@ FormWindow::FormWindow(WidgetKit& kit, platform::Form& form, FormWindow* owner)
       kit_(&kit),
       form_(&form),
       owner_(owner) {
+    speakAs(*this, owner == nullptr ? QAccessible::Window : QAccessible::Dialog);
     kit.add(form, *this);
     setObjectName(shown(form.name()));
     setWindowTitle(shown(form.title()));
@@ -92,6 +94,9 @@ void FormWindow::showForm() {
         }
         addFocusRing(*this);
         build(*content_);
+        if (owner_ != nullptr) {
+            addMnemonics(*content_, {});
+        }
         content_->setEnabled(form_->enabled());
     }
     const bool opens = owner_ != nullptr && !isVisible();

@@ -154,6 +154,10 @@ QRect GridView::cellRect(GridCell cell) const {
             rowHeight(row)};
 }
 
+QString GridView::spokenPlace(GridCell cell) const {
+    return model_.index(cell.row - 1, cell.column).data(Qt::AccessibleDescriptionRole).toString();
+}
+
 void GridView::reveal(GridCell cell) {
     refresh();
     scrollTo(model_.index(cell.row - 1, cell.column));

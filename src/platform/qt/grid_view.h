@@ -29,6 +29,8 @@ class GridView : public QTableView {
     void refresh();
     /// Where a cell of the data rows is drawn, in coordinates of the viewport.
     [[nodiscard]] QRect cellRect(platform::GridCell cell) const;
+    /// Heading and row of a cell in words.
+    [[nodiscard]] QString spokenPlace(platform::GridCell cell) const;
     /// Scrolls until the cell is to be seen.
     void reveal(platform::GridCell cell);
 

@@ -2,6 +2,7 @@
 /// Binding of frames and panels.
 #include "platform/qt/panels.h"
 
+#include "platform/qt/mnemonics.h"
 #include "platform/qt/texts.h"
 
 namespace mero::qt {
@@ -19,12 +20,15 @@ QGroupBox& makeFrame(WidgetKit& kit, platform::Frame& frame, QWidget& parent) {
 
 QWidget& makePanel(WidgetKit& kit, platform::Panel& panel, QWidget& parent) {
     auto& widget = *new QWidget(&parent);
+    markAlternative(widget);
     bindCommon(kit, panel, widget);
     return widget;
 }
 
 QGroupBox& makeFramedPanel(WidgetKit& kit, platform::Panel& panel, const QString& heading, QWidget& parent) {
     auto& box = *new QGroupBox(heading, &parent);
+    // Without a name of its own it would be called like the group that it lies in.
+    describe(box, heading);
     bindCommon(kit, panel, box);
     return box;
 }

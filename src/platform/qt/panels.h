@@ -12,7 +12,8 @@ namespace mero::qt {
 /// A frame with its caption.
 QGroupBox& makeFrame(WidgetKit& kit, platform::Frame& frame, QWidget& parent);
 
-/// A panel that code shows and hides. Its place is the layout's; code's only says what stands above what.
+/// A panel that code shows in place of others. Its place is the layout's; code's only says what stands above
+/// what.
 QWidget& makePanel(WidgetKit& kit, platform::Panel& panel, QWidget& parent);
 
 /// The same with a frame and a heading.

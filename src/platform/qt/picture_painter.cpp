@@ -141,11 +141,10 @@ picture::TextSizes textSizes(const QFont& font) {
     const QFontMetricsF plain(pictureFont(font, Emphasis::Plain));
     const QFontMetricsF bold(pictureFont(font, Emphasis::Strong));
     return {.line_height = std::ceil(std::max(plain.height(), bold.height())),
-            .width = [plain, bold](std::string_view text) {
+            .measure = [plain, bold](std::string_view text, Emphasis emphasis) {
                 const QString shown_text =
                     QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-                return std::ceil(
-                    std::max(plain.horizontalAdvance(shown_text), bold.horizontalAdvance(shown_text)));
+                return std::ceil((emphasis == Emphasis::Strong ? bold : plain).horizontalAdvance(shown_text));
             }};
 }
 
@@ -225,6 +224,8 @@ void paintDrawing(QPainter& painter, const picture::Drawing& drawing, const QPal
         painter.setFont(pictureFont(font, text.emphasis));
         painter.setPen(textColour(palette, text.emphasis));
         const QRectF box = rectOf(text.box);
+        // Leaders and grid lines stop at a text.
+        painter.fillRect(box, fillColour(palette, Material::Air));
         if (!text.upright) {
             painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, shown(text.text));
             continue;

@@ -13,7 +13,7 @@ namespace mero::qt {
 /// The fonts of a drawing: what is strong is bold.
 [[nodiscard]] QFont pictureFont(const QFont& font, picture::Emphasis emphasis);
 
-/// Text sizes in that font; every text has room for the bold one.
+/// Text sizes in that font.
 [[nodiscard]] picture::TextSizes textSizes(const QFont& font);
 
 /// Fill and ink of what a drawing shows, in the colours of the palette.

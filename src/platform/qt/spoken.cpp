@@ -6,6 +6,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 
 namespace mero::qt {
 namespace {
@@ -16,6 +17,11 @@ class SpokenWidget : public QAccessibleWidget {
   public:
     SpokenWidget(QWidget* widget, QAccessible::Role role) : QAccessibleWidget(widget, role) {}
 
+    [[nodiscard]] QString text(QAccessible::Text of) const override {
+        const auto* label = qobject_cast<const QLabel*>(widget());
+        const bool plain = label != nullptr && widget()->accessibleName().isEmpty();
+        return of == QAccessible::Name && plain ? label->text() : QAccessibleWidget::text(of);
+    }
     [[nodiscard]] QStringList actionNames() const override {
         return pressable() ? QStringList{pressAction()} : QAccessibleWidget::actionNames();
     }

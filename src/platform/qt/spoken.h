@@ -12,7 +12,7 @@ namespace mero::qt {
 void describe(QWidget& widget, const QString& caption, const QString& unit = {});
 
 /// Tells what kind of thing a widget is whose class does not say it: a group, a picture, a link. A link can
-/// be pressed. To be called before anybody asks the widget, best where it is made.
+/// be pressed. To be called before anything else is told about the widget, best where it is made.
 void speakAs(QWidget& widget, QAccessible::Role role);
 
 }  // namespace mero::qt

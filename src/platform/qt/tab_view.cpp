@@ -40,6 +40,7 @@ TabView::TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent)
     for (const std::string& caption : tabs.captions()) {
         addTab(new QWidget(this), captionText(caption));
     }
+    letters_ = addMnemonics(*this);
     setCurrentIndex(tabs.position());
     bindCommon(kit, tabs, *this);
     for (int position = 0; position < count(); ++position) {
@@ -54,6 +55,7 @@ TabView::TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent)
         if (position != tabs_->position()) {
             kit.enter([this, position] { tabs_->userSelect(position); });
             showPosition();
+            enterPage();
         }
     });
 }
@@ -91,6 +93,21 @@ void TabView::buildPage(int position) {
     const Builder build = std::move(found->second);
     builders_.erase(found);
     build(*widget(position));
+    addMnemonics(*widget(position), letters_);
+}
+
+void TabView::enterPage() {
+    QWidget* page = currentWidget();
+    if (page->window()->focusWidget() != page) {
+        return;
+    }
+    for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+        if (page->isAncestorOf(next) && next->isVisibleTo(page) && next->isEnabled() &&
+            (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus) {
+            next->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
 }
 
 void TabView::showPosition() {

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "platform/controls/containers.h"
+#include "platform/qt/mnemonics.h"
 #include "platform/qt/widget_kit.h"
 
 namespace mero::qt {
@@ -25,11 +26,14 @@ class TabView : public QTabWidget {
 
   private:
     void addShortcuts();
+    /// Brings the focus from an empty page that got it to the first field of the page.
+    void enterPage();
     void showPosition();
     void buildPage(int position);
 
     platform::TabControl* tabs_;
     std::map<int, Builder> builders_;
+    Letters letters_;  ///< that the tabs have taken
 };
 
 }  // namespace mero::qt

@@ -125,7 +125,28 @@ python3 -c 'import xml.dom.minidom as d; s = d.parse("p.svg"); assert len(s.getE
 expect 2 "plot of no number" "$batch" sweep "$all" --folder folder --plot none.svg --vary facility.soil=all
 [ ! -e none.svg ] || fail "a plot of nothing"
 
+# What is drawn can be chosen; a plot goes beside the rows when both are wanted.
+expect 0 "chosen plot" "$batch" sweep "$projects/ryha-s-drenem.json" --folder folder --plot chosen.svg --out chosen.csv \
+    --vary facility.trench_width_m=0.6,1,1.4 --vary facility.trench_height_m=1,2 --vary rain.periodicity=0.5,0.2 \
+    --plot-result infiltration_area_m2 --plot-over facility.trench_height_m --plot-lines facility.trench_width_m
+holds chosen.svg ">Plocha potřebná pro vsakování [m²]</text>" "the chosen result"
+holds chosen.svg ">Výška rýhy [m]</text>" "the chosen axis"
+holds chosen.svg ">Periodicita = 0.5 1/rok</text>" "the value that is held"
+python3 -c 'import xml.dom.minidom as d; s = d.parse("chosen.svg"); assert len(s.getElementsByTagName("polyline")) == 3' ||
+    fail "the chosen lines"
+[ "$(wc -l <chosen.csv)" -eq 13 ] || fail "the rows beside a plot"
+expect 2 "no such result" "$batch" sweep "$all" --plot none.svg --vary facility.safety_factor=1,2 --plot-result volume
+holds err "volume: is no result" "no such result"
+expect 1 "plot in no folder" "$batch" sweep "$projects/nadrz.json" --folder folder --plot nowhere/p.svg \
+    --vary facility.safety_factor=1,2
+
+# Without a folder the database beside the program is taken.
+expect 0 "the program's own folder" "$batch" design "$projects/plosne-vsakovani.json"
+holds out "1 015.7 m²" "the program's own folder"
+
 # Ends of a sweep.
+expect 2 "no project to sweep" "$batch" sweep --vary facility.soil=all
+holds err "which project?" "no project to sweep"
 expect 2 "nothing to vary" "$batch" sweep "$all"
 expect 2 "unknown path" "$batch" sweep "$all" --vary facility.trench_widht_m=1
 expect 2 "threads" "$batch" sweep "$all" --vary facility.soil=all --threads 0

@@ -74,6 +74,25 @@ TEST(ResultJson, IsJsonWithTheStoredNumbers) {
     EXPECT_EQ(parsed["verdicts"][0]["severity"], "error");
 }
 
+TEST(ResultTable, TheSignTellsHowAMessageIsMeant) {
+    design::DesignResult result;
+    result.verdicts.add(Verdict::DesignRainMissing);
+    result.verdicts.add(Verdict::TankVolumeSufficient);
+    const std::string table = resultTable(shaftProject(), result);
+    EXPECT_THAT(table, HasSubstr("  ! Intenzita návrhového deště není zadána\n"));
+    EXPECT_THAT(table,
+                HasSubstr(std::string("  + ") + design::info(Verdict::TankVolumeSufficient).text + "\n"));
+    const nlohmann::json parsed = nlohmann::json::parse(resultJson(shaftProject(), result));
+    EXPECT_EQ(parsed["verdicts"][0]["severity"], "warning");
+    EXPECT_EQ(parsed["verdicts"][1]["severity"], "information");
+}
+
+TEST(ResultTable, AProjectWithoutANameBeginsWithItsType) {
+    project::Project project = shaftProject();
+    project.texts.name.clear();
+    EXPECT_THAT(resultTable(project, design::DesignResult()), ::testing::StartsWith("Šachtové vsakování\n"));
+}
+
 TEST(RowFile, EmptiesAnOldFileAndWritesInOrder) {
     const std::string path = ::testing::TempDir() + "mero_row_file_test.csv";
     std::ofstream(path) << "old and longer than what comes";

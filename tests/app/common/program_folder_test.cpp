@@ -170,6 +170,18 @@ TEST(ProgramFolder, WhatCannotBeCopiedIsLeftOut) {
     EXPECT_EQ(home.read("mero/Webs"), "in the way");
 }
 
+TEST(ProgramFolder, OneThatCannotBeMadeIsNotThere) {
+    const Environment data_home("XDG_DATA_HOME", "/proc/nowhere");
+    const std::string folder = defaultProgramFolder();
+    EXPECT_EQ(folder, "/proc/nowhere/mero");
+    EXPECT_FALSE(folderExists(folder));
+    EXPECT_EQ(
+        folderMissing(folder),
+        "the program's folder /proc/nowhere/mero cannot be made: there is no rain database and no report");
+    EXPECT_TRUE(folderExists("/proc"));
+    EXPECT_FALSE(folderExists("/proc/version"));
+}
+
 TEST(ProgramFolder, TheReaderIsBesideTheExecutableOrInTheInstalledPlace) {
     const std::string reader = rainReaderProgram();
     EXPECT_TRUE(reader.ends_with("/mero-rain"));

@@ -74,15 +74,19 @@ class MainWindow : public testing::Test {
     [[nodiscard]] std::vector<std::string> captions() const {
         std::vector<std::string> texts;
         for (const auto* label : window.findChildren<QLabel*>()) {
-            texts.push_back(qt::stored(QString(label->text()).replace('\n', ' ')));
+            texts.push_back(unmarked(QString(label->text()).replace('\n', ' ')));
         }
         for (const auto* button : window.findChildren<QAbstractButton*>()) {
-            texts.push_back(qt::stored(button->text()));
+            texts.push_back(unmarked(button->text()));
         }
         for (const auto* box : window.findChildren<QGroupBox*>()) {
             texts.push_back(qt::stored(box->title()));
         }
         return texts;
+    }
+    /// A caption without the mark of its letter.
+    [[nodiscard]] static std::string unmarked(QString caption) {
+        return qt::stored(caption.replace("&&", "\1").remove('&').replace('\1', "&"));
     }
     template <typename Widget>
     [[nodiscard]] Widget& widget(std::string_view name) {

@@ -3,10 +3,16 @@
 #include "app/mero/qt_desk.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
+#include <csignal>
+#include <filesystem>
+
+#include "support/temporary_folder.h"
 
 namespace mero::app {
 namespace {
@@ -67,6 +73,86 @@ TEST(RealDesk, ReportsErrorsWithNumberAndDescription) {
     desk.reportError(RuntimeError(53, "Soubor nebyl nalezen", RuntimeError::Effect::EndsProgram));
     EXPECT_TRUE(seen.text.endsWith("Program bude ukončen."));
     EXPECT_EQ(seen.boxes, 2);
+}
+
+/// A search path with nothing on it but an opener of addresses, or not even that.
+class OnlyOpener {
+  public:
+    /// @param shell_script what the opener does; empty: there is none
+    explicit OnlyOpener(const std::string& shell_script) : path_before_(qgetenv("PATH")) {
+        if (!shell_script.empty()) {
+            folder_.write("xdg-open", "#!/bin/sh\n" + shell_script + "\n");
+            std::filesystem::permissions(folder_.file("xdg-open"), std::filesystem::perms(0755));
+        }
+        qputenv("PATH", QByteArray::fromStdString(folder_.path()));
+    }
+    ~OnlyOpener() { qputenv("PATH", path_before_); }
+    OnlyOpener(const OnlyOpener&) = delete;
+    OnlyOpener& operator=(const OnlyOpener&) = delete;
+    OnlyOpener(OnlyOpener&&) = delete;
+    OnlyOpener& operator=(OnlyOpener&&) = delete;
+
+    [[nodiscard]] const test::TemporaryFolder& folder() const { return folder_; }
+
+  private:
+    QByteArray path_before_;
+    test::TemporaryFolder folder_;
+};
+
+/// Opens an address and waits for a box; its text, empty when none came in that time.
+QString boxAfterOpening(int most_ms) {
+    QtDesk desk(Sitter::Person, plain);
+    QString text;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&text] {
+        if (auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            text = box->text();
+            box->accept();
+        }
+    });
+    watch.start(5);
+    desk.openAddress("https://www.chmi.cz/");
+    static_cast<void>(QTest::qWaitFor([&text] { return !text.isEmpty(); }, most_ms));
+    return text;
+}
+
+constexpr int kLongMs = 20000;
+constexpr const char* kNotOpened = "Adresu https://www.chmi.cz/ se nepodařilo otevřít.";
+
+TEST(RealDesk, TellsThatThereIsNoBrowser) {
+    const OnlyOpener none("");
+    EXPECT_EQ(boxAfterOpening(kLongMs), kNotOpened);
+}
+
+TEST(RealDesk, TellsThatTheOpenerFoundNoBrowser) {
+    const OnlyOpener failing("exit 3");
+    EXPECT_EQ(boxAfterOpening(kLongMs), kNotOpened);
+}
+
+TEST(RealDesk, TellsThatTheOpenerCrashedOrIsNoProgram) {
+    const OnlyOpener crashing("kill -SEGV $$");
+    EXPECT_EQ(boxAfterOpening(kLongMs), kNotOpened);
+    const OnlyOpener unusable("");
+    unusable.folder().write("xdg-open", "#!/nonexistent\n");
+    std::filesystem::permissions(unusable.folder().file("xdg-open"), std::filesystem::perms(0755));
+    EXPECT_EQ(boxAfterOpening(kLongMs), kNotOpened);
+}
+
+TEST(RealDesk, GivesTheAddressToTheOpenerAndSaysNothing) {
+    const OnlyOpener opener(R"(printf '%s' "$*" >"${0%/*}/given.part" && : >"${0%/*}/given")");
+    EXPECT_EQ(boxAfterOpening(1000), "");
+    EXPECT_TRUE(opener.folder().has("given"));
+    EXPECT_EQ(opener.folder().read("given.part"), "https://www.chmi.cz/");
+}
+
+TEST(RealDesk, DoesNotWaitForABrowserThatRunsOn) {
+    const OnlyOpener opener(R"(echo $$ >"${0%/*}/pid"; read line <>"${0%/*}/fifo")");
+    ASSERT_EQ(mkfifo(opener.folder().file("fifo").c_str(), 0600), 0);
+    EXPECT_EQ(boxAfterOpening(500), "");
+    // The desk is gone, the browser is not.
+    const int browser = std::stoi(opener.folder().read("pid"));
+    EXPECT_EQ(kill(browser, 0), 0);
+    kill(browser, SIGKILL);
 }
 
 TEST(RealDesk, AnswersAScriptAtOnce) {

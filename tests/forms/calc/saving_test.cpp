@@ -109,6 +109,45 @@ TEST_F(SavingTest, WithoutMeansForPdfTheReasonIsTold) {
     EXPECT_THAT(desk.messages[0].text, HasSubstr("Soubor PDF vytváří okenní program mero, který zde není."));
 }
 
+TEST_F(SavingTest, WhatIsShownIsSavedAndPrintedWhateverBecameOfTheReportsFile) {
+    showResults(kSwale);
+    save(folder.file("první.html"));
+    const std::string expected = folder.read("první.html");
+    const std::string report = folder.read("Mero_Test");
+    for (const bool is_gone : {true, false}) {
+        for (const char* name : {"druhá.html", "druhá.pdf", ""}) {
+            std::filesystem::remove(folder.file("Mero_Test"));
+            if (!is_gone) {
+                folder.write("Mero_Test", "<html>another program's</html>");
+            }
+            if (*name == '\0') {
+                user.click(w.cmdPrint);
+            } else {
+                save(folder.file(name));
+            }
+            if (name == std::string("druhá.html")) {
+                EXPECT_EQ(folder.read(name), expected);
+            } else {
+                EXPECT_EQ(folder.read("Mero_Test"), report) << name;
+            }
+        }
+    }
+    EXPECT_TRUE(desk.messages.empty());
+}
+
+TEST_F(SavingTest, APdfIsNotMadeOfAnotherProgramsReport) {
+    showResults(kSwale);
+    std::filesystem::remove(folder.file("Mero_Test"));
+    std::filesystem::create_directory(folder.file("Mero_Test"));
+    desk.take();
+    save(folder.file("a.pdf"));
+    EXPECT_FALSE(folder.has("a.pdf"));
+    EXPECT_EQ(desk.count("pdf of " + folder.file("Mero_Test")), 0);
+    ASSERT_EQ(desk.messages.size(), 1U);
+    save(folder.file("a.html"));
+    EXPECT_THAT(folder.read("a.html"), HasSubstr("<html>"));
+}
+
 TEST_F(SavingTest, AFolderInTheCopysPlaceStays) {
     showResults(kSwale);
     for (const char* name : {"a.pdf", "a.html"}) {

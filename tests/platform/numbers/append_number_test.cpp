@@ -28,6 +28,12 @@ TEST(AppendGeneral, WritesBehindWhatIsThere) {
     EXPECT_EQ(appended(1e-5F), "before 0.00001");
     EXPECT_EQ(appended(1e7F), "before 10000000");
     EXPECT_EQ(appended(1.25e-7F), "before 1.25E-07");
+    EXPECT_EQ(appended(1.2e-7F), "before 1.2E-07");
+    EXPECT_EQ(appended(1e-7F), "before 1E-07");
+    EXPECT_EQ(appended(3e38F), "before 3E+38");
+    EXPECT_EQ(appended(1.0F), "before 1");
+    EXPECT_EQ(appended(100.0F), "before 100");
+    EXPECT_EQ(appended(123.0F), "before 123");
 }
 
 TEST(AppendGeneral, EqualsTheGeneralTextOfEveryKindOfSingle) {

@@ -45,6 +45,7 @@ TEST(DivideOfSingles, RefusesAZeroDivisorAndNeedsNoMore) {
 
 TEST(SquareRoot, RefusesNegativeValues) {
     EXPECT_EQ(squareRoot(6.25), 2.5);
+    EXPECT_EQ(squareRoot(0.25), 0.5);
     EXPECT_EQ(squareRoot(0.0), 0.0);
     EXPECT_EQ(errorNumberOf([] { return squareRoot(-1e-9); }), 5);
     EXPECT_EQ(errorNumberOf([] { return squareRoot(std::numeric_limits<double>::quiet_NaN()); }), 5);
@@ -54,8 +55,39 @@ TEST(ToInteger, RoundsHalvesToEvenWithinSixteenBits) {
     EXPECT_EQ(toInteger(0.4), 0);
     EXPECT_EQ(toInteger(2.5), 2);
     EXPECT_EQ(toInteger(3.5), 4);
+    EXPECT_EQ(toInteger(32767.4), 32767);
+    EXPECT_EQ(toInteger(-32768.0), -32768);
+    EXPECT_EQ(errorNumberOf([] { return toInteger(-32769.0); }), 6);
     EXPECT_EQ(errorNumberOf([] { return toInteger(32768.0); }), 6);
     EXPECT_EQ(errorNumberOf([] { return toInteger(std::numeric_limits<double>::quiet_NaN()); }), 6);
+}
+
+TEST(RuntimeErrors, EachNumberHasItsDescription) {
+    EXPECT_STREQ(describe(ErrorNumber::InvalidCall), "Neplatná hodnota argumentu");
+    EXPECT_STREQ(describe(ErrorNumber::Overflow), "Přetečení: hodnota je mimo rozsah");
+    EXPECT_STREQ(describe(ErrorNumber::SubscriptOutOfRange), "Index je mimo rozsah");
+    EXPECT_STREQ(describe(ErrorNumber::DivisionByZero), "Dělení nulou");
+    EXPECT_STREQ(describe(ErrorNumber::TypeMismatch), "Text není číslo");
+    EXPECT_STREQ(describe(ErrorNumber::FileNotFound), "Soubor nebyl nalezen");
+}
+
+TEST(RuntimeErrors, TheNumbersAreThoseThatUsersAndTracesSee) {
+    EXPECT_EQ(RuntimeError(ErrorNumber::InvalidCall).number(), 5);
+    EXPECT_EQ(RuntimeError(ErrorNumber::Overflow).number(), 6);
+    EXPECT_EQ(RuntimeError(ErrorNumber::SubscriptOutOfRange).number(), 9);
+    EXPECT_EQ(RuntimeError(ErrorNumber::DivisionByZero).number(), 11);
+    EXPECT_EQ(RuntimeError(ErrorNumber::TypeMismatch).number(), 13);
+    EXPECT_EQ(RuntimeError(ErrorNumber::FileNotFound).number(), 53);
+    EXPECT_TRUE(RuntimeError(ErrorNumber::Overflow).is(ErrorNumber::Overflow));
+    EXPECT_FALSE(RuntimeError(ErrorNumber::Overflow).is(ErrorNumber::TypeMismatch));
+}
+
+TEST(RuntimeErrors, AnErrorOfItsOwnMayEndTheProgram) {
+    const RuntimeError ends(3024, "no such table", RuntimeError::Effect::EndsProgram);
+    EXPECT_EQ(ends.number(), 3024);
+    EXPECT_EQ(ends.description(), "no such table");
+    EXPECT_TRUE(ends.endsProgram());
+    EXPECT_FALSE(RuntimeError(70, "denied").endsProgram());
 }
 
 TEST(RuntimeErrors, CarryNumberAndDescription) {

@@ -21,6 +21,7 @@ TEST(StrictSingle, ReadsPlainNumbers) {
     EXPECT_EQ(strictSingle("0"), 0.0F);
     EXPECT_EQ(strictSingle("12.5"), 12.5F);
     EXPECT_EQ(strictSingle("-3"), -3.0F);
+    EXPECT_EQ(strictSingle("-1"), -1.0F);
     EXPECT_EQ(strictSingle("+3"), 3.0F);
     EXPECT_EQ(strictSingle("1."), 1.0F);
     EXPECT_EQ(strictSingle(".5"), 0.5F);
@@ -37,6 +38,7 @@ TEST(StrictSingle, ReadsExponentsInBothCases) {
 
 TEST(StrictSingle, ReadsGroupsThatResultFieldsShow) {
     EXPECT_EQ(strictSingle("1 234.5"), 1234.5F);
+    EXPECT_EQ(strictSingle("1 2"), 12.0F);
     EXPECT_EQ(strictSingle("-12 345 678"), -12345678.0F);
     EXPECT_EQ(strictSingle(" 1 000 "), 1000.0F);
 }
@@ -87,12 +89,17 @@ TEST(StrictSingle, OverflowsBeyondTheLargestSingle) {
     EXPECT_EQ(errorNumberOf([] { return strictSingle("1e99999999999999999999"); }), 6);
     EXPECT_EQ(errorNumberOf([] { return strictSingle("100000000000000000000000000000000000000000"); }), 6);
     EXPECT_EQ(errorNumberOf([] { return strictSingle("0.001e45"); }), 6);
+    EXPECT_EQ(errorNumberOf([] { return strictSingle("." + std::string(60, '0') + "1e120"); }), 6);
+    EXPECT_EQ(errorNumberOf([] { return strictSingle("1" + std::string(60, '0') + ".5e-2"); }), 6);
 }
 
 TEST(StrictSingle, TakesWhatIsTooSmallForASingleAsZero) {
     EXPECT_EQ(strictSingle("1e-60"), 0.0F);
+    EXPECT_EQ(strictSingle("." + std::string(60, '0') + "1"), 0.0F);
+    EXPECT_EQ(strictSingle("1" + std::string(60, '0') + "e-120"), 0.0F);
     EXPECT_EQ(strictSingle("1e-99999999999999999999"), 0.0F);
     EXPECT_EQ(strictSingle("0e999"), 0.0F);
+    EXPECT_EQ(strictSingle("0.000e99999999999999999999"), 0.0F);
     EXPECT_FALSE(std::signbit(strictSingle("-0")));
     EXPECT_FALSE(std::signbit(strictSingle("-1e-60")));
 }
@@ -175,6 +182,9 @@ TEST(Fixed, NeverShowsANegativeZero) {
     EXPECT_EQ(fixed(-0.0F, 1), "0.0");
     EXPECT_EQ(fixed(-0.005F, 2), "-0.01");
     EXPECT_EQ(fixed(1e-30F, 2), "0.00");
+    EXPECT_EQ(fixed(-1e-30F, 2), "0.00");
+    EXPECT_EQ(fixed(0.004F, 1), "0.0");
+    EXPECT_EQ(fixed(-0.04F, 1), "0.0");
 }
 
 TEST(Fixed, WritesLargeValuesInFull) {
@@ -194,6 +204,9 @@ TEST(Scientific, FollowsThePatterns) {
     EXPECT_EQ(scientific(-0.5F, 1), "-5.0E-01");
     EXPECT_EQ(scientific(123456.0F, 1), "1.2E+05");
     EXPECT_EQ(scientific(1e100, 1), "1.0E+100");
+    EXPECT_EQ(scientific(1.5e10, 1), "1.5E+10");
+    EXPECT_EQ(scientific(0.00104F, 0), "1E-03");
+    EXPECT_EQ(scientific(-0.0F, 1), "0.0E+00");
 }
 
 TEST(General, IsTheShortestTextThatReadsBack) {
@@ -213,6 +226,17 @@ TEST(General, HasNoExponentForWhatPeopleEnter) {
     EXPECT_EQ(general(0.0000012F), "1.2E-06");
     EXPECT_EQ(general(1e-7F), "1E-07");
     EXPECT_EQ(general(12000000.0F), "1.2E+07");
+    EXPECT_EQ(general(20000000.0F), "2E+07");
+    EXPECT_EQ(general(3e38F), "3E+38");
+    EXPECT_EQ(general(1.25e-10), "1.25E-10");
+}
+
+TEST(NumberTexts, RefuseWhatIsNotFinite) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+    EXPECT_EQ(errorNumberOf([] { return fixed(kInfinity, 2); }), 6);
+    EXPECT_EQ(errorNumberOf([] { return scientific(-kInfinity, 2); }), 6);
+    EXPECT_EQ(errorNumberOf([] { return general(kNaN); }), 6);
 }
 
 TEST(General, ReadsBackToTheSameSingle) {

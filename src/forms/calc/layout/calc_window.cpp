@@ -20,7 +20,7 @@ namespace {
 
 /// The size that the window asks for, where the screen has room for it.
 constexpr int kWidthCharacters = 166;
-constexpr int kHeightLines = 44;
+constexpr int kHeightLines = 48;
 
 }  // namespace
 

@@ -21,7 +21,9 @@ QWidget& buildChoice(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent)
     QGroupBox& frame = qt::makeFrame(kit, form.fraVyber, parent);
     auto* row = new QHBoxLayout(&frame);
     row->setSpacing(2 * qt::gap(frame));
-    row->addWidget(&buildOptions(kit, form.optSelType, frame));
+    QWidget& options = buildOptions(kit, form.optSelType, frame);
+    qt::describe(options, frame.title());
+    row->addWidget(&options);
     QComboBox& types = qt::makeDropList(kit, form.cboSelType, frame);
     types.setMinimumContentsLength(32);
     qt::describe(types, QStringLiteral("Typ vsakování"));

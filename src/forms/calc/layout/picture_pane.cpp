@@ -5,6 +5,7 @@
 #include <QBoxLayout>
 #include <QGroupBox>
 #include <QResizeEvent>
+#include <algorithm>
 
 #include "forms/calc/pictures.h"
 #include "picture/arrange.h"
@@ -19,6 +20,8 @@ namespace {
 /// lines].
 constexpr int kNarrowPair = 90;
 constexpr int kHighPair = 28;
+/// Beside each other they do not fit into less [characters].
+constexpr int kLeastPair = 62;
 constexpr QSize kSectionRoom{44, 13};
 constexpr QSize kLeastSection{30, 8};
 constexpr QSize kChartRoom{36, 10};
@@ -44,8 +47,9 @@ class PicturePane : public QGroupBox {
         chart.setObjectName(QStringLiteral("picBalance"));
         chart.setRoom(kChartRoom, kLeastChart);
         layout_->setSpacing(qt::gap(*this) / 2);
-        layout_->addWidget(&section, 3);
-        layout_->addWidget(&chart, 2);
+        layout_->addWidget(&section);
+        layout_->addWidget(&chart);
+        setDirection(QBoxLayout::LeftToRight);
         for (platform::Form* each :
              {static_cast<platform::Form*>(&form), static_cast<platform::Form*>(&form.intDialog)}) {
             for (platform::Control* control : each->controls()) {
@@ -60,15 +64,44 @@ class PicturePane : public QGroupBox {
         }
     }
 
+    /// Below each other they need no more width than one of them.
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        QSize least = QGroupBox::minimumSizeHint();
+        least.setWidth(least.width() - layout_->minimumSize().width() + widestMinimum());
+        return least;
+    }
+
   protected:
     void resizeEvent(QResizeEvent* event) override {
         QGroupBox::resizeEvent(event);
         const bool narrow = width() < qt::textWidth(*this, kNarrowPair);
         const bool high = height() >= fontMetrics().height() * kHighPair;
-        layout_->setDirection(narrow && high ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+        const bool too_narrow = width() < qt::textWidth(*this, kLeastPair);
+        const auto direction =
+            too_narrow || (narrow && high) ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+        if (layout_->direction() != direction) {
+            setDirection(direction);
+        }
     }
 
   private:
+    void setDirection(QBoxLayout::Direction direction) {
+        const bool beside = direction == QBoxLayout::LeftToRight;
+        layout_->setDirection(direction);
+        layout_->setStretch(0, beside ? 2 : 5);
+        layout_->setStretch(1, beside ? 1 : 4);
+        updateGeometry();
+    }
+
+    [[nodiscard]] int widestMinimum() const {
+        int widest = 0;
+        for (int i = 0; i < layout_->count(); ++i) {
+            widest = std::max(widest, layout_->itemAt(i)->minimumSize().width());
+        }
+        const QMargins margins = layout_->contentsMargins();
+        return widest + margins.left() + margins.right();
+    }
+
     QBoxLayout* layout_;
 };
 

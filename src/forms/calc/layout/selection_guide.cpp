@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/qt/look.h"
+#include "platform/qt/spoken.h"
 
 namespace mero::forms {
 namespace {
@@ -106,12 +107,30 @@ void drawShares(QPainter& painter, const QPalette& palette, const QRectF& bar, c
     }
 }
 
+/// The region in words: the system and where it suits.
+QString spokenPlace(const Region& region) {
+    const auto amount = [](double at, const char* little, const char* medium, const char* much) {
+        constexpr double kLittle = 0.35;
+        constexpr double kMuch = 0.65;
+        return QString::fromUtf8(at < kLittle ? little : at > kMuch ? much : medium);
+    };
+    return QStringLiteral("%1: schopnost podloží %2, ploch %3")
+        .arg(QString::fromUtf8(region.label), amount(region.place.center().x(), "nízká", "střední", "vysoká"),
+             amount(region.place.center().y(), "málo", "středně", "hodně"));
+}
+
 }  // namespace
 
 SelectionGuide::SelectionGuide(QWidget& parent) : QWidget(&parent) {
+    qt::speakAs(*this, QAccessible::Graphic);
     setObjectName(QStringLiteral("guide"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setAccessibleName(QStringLiteral("Vodítko k výběru systému vsakování"));
+    setAccessibleName(QStringLiteral("Vodítko k výběru systému vsakování, graf"));
+    QStringList places;
+    for (const Region& region : regions()) {
+        places += spokenPlace(region);
+    }
+    setAccessibleDescription(places.join(QLatin1String("; ")));
 }
 
 QSize SelectionGuide::sizeHint() const {

@@ -40,13 +40,7 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     QPushButton& help = qt::makeButton(kit(), form_->cmdEdit, choice);
     help.setAccessibleName(QStringLiteral("Nápověda"));
     help.setFixedWidth(help.sizeHint().height() * 5 / 4);
-    auto& pair = *new QWidget(&choice);
-    auto* row = new QHBoxLayout(&pair);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(&periodicity);
-    row->addWidget(&help);
-    qt::describe(periodicity, QStringLiteral("Periodicita"));
-    fields.widget(QStringLiteral("Periodicita"), pair);
+    fields.pair(QStringLiteral("Periodicita"), periodicity, help);
     column->addWidget(&choice);
 
     QLabel& note = qt::makeLabel(kit(), form_->lblDemo, side);

@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# The desktop entry and the AppStream metadata are valid, and everything that names a version names the project's.
+# Use: package_files.sh ROOT
+set -euo pipefail
+
+root=$1
+failures=0
+wrong() {
+    echo "package_files: $*" >&2
+    failures=$((failures + 1))
+}
+
+# Also its warnings count; it ends with success for these.
+said=$(desktop-file-validate "$root/packaging/mero.desktop" 2>&1) || true
+[[ -z $said ]] || wrong "$said"
+said=$(appstreamcli validate --no-net --explain "$root/packaging/local.mero.mero.metainfo.xml" 2>&1) || wrong "$said"
+
+version=$(sed -n 's/^project(mero VERSION \([0-9.]*\) .*/\1/p' "$root/CMakeLists.txt")
+[[ -n $version ]] || wrong "CMakeLists.txt names no version"
+released=$(sed -n 's/.*<release version="\([^"]*\)" date=.*/\1/p' "$root/packaging/local.mero.mero.metainfo.xml" | head -n 1)
+[[ $released == "$version" ]] || wrong "the metadata's latest release is $released, the project's version $version"
+packed=$(sed -n '1s/^mero (\([^-]*\)-.*/\1/p' "$root/packaging/debian/changelog")
+[[ $packed == "$version" ]] || wrong "the Debian changelog begins with $packed, the project's version is $version"
+
+# Each program that users call has its manual page, and the menu entry starts one of them.
+for program in mero mero-batch; do
+    [[ -f $root/docs/man/$program.1 ]] || wrong "docs/man/$program.1 is missing"
+done
+grep -qx 'Exec=mero' "$root/packaging/mero.desktop" || wrong "the menu entry does not start mero"
+for size in 16 22 24 32 48 64 128 256; do
+    picture=$root/packaging/icons/${size}x$size/apps/mero.png
+    # The size stands in the header of a PNG file: two numbers of four bytes, the high byte first.
+    [[ -f $picture && $(od -An -tu1 -j16 -N8 "$picture" | tr -s ' ') == \
+        " 0 0 $((size / 256)) $((size % 256)) 0 0 $((size / 256)) $((size % 256))" ]] || wrong "$picture is not $size pixels"
+done
+exit $((failures > 0))
