@@ -45,5 +45,6 @@ install(FILES ${CMAKE_SOURCE_DIR}/README.md ${CMAKE_SOURCE_DIR}/docs/licences.md
 install(FILES ${CMAKE_SOURCE_DIR}/data/README.md DESTINATION ${doc} RENAME rain-data.md)
 if(EXISTS ${CMAKE_SOURCE_DIR}/docs/prirucka.md)
   install(FILES ${CMAKE_SOURCE_DIR}/docs/prirucka.md DESTINATION ${doc})
+  install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures DESTINATION ${doc})
 endif()
 install(FILES debian/lintian-overrides DESTINATION ${share}/lintian/overrides RENAME mero)

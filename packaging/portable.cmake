@@ -23,6 +23,7 @@ foreach(document CHANGELOG.md docs/prirucka.md)
     install(FILES ${CMAKE_SOURCE_DIR}/${document} DESTINATION share/doc)
   endif()
 endforeach()
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures DESTINATION share/doc)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core)
 set(qt_plugins ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_PLUGINS})

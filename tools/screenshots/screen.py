@@ -50,6 +50,8 @@ class Screen:
                                         stderr=subprocess.DEVNULL)
 
     def __enter__(self) -> "Screen":
+        # A window that comes before its manager would not get the focus.
+        self.answer("get_desktop")
         return self
 
     def __exit__(self, *_) -> None:
@@ -68,14 +70,18 @@ class Screen:
         self.run("import", "-silent", "-window", window, str(file))
 
     def active_window(self) -> str:
+        return self.answer("getactivewindow")
+
+    def answer(self, question: str) -> str:
+        """What the window manager answers, as soon as it does."""
         end = time.monotonic() + START_LIMIT_S
         while time.monotonic() < end:
-            done = subprocess.run(["xdotool", "getactivewindow"], env=self.environment, capture_output=True, text=True,
+            done = subprocess.run(["xdotool", question], env=self.environment, capture_output=True, text=True,
                                   check=False)
             if done.returncode == 0:
                 return done.stdout.strip()
             time.sleep(0.1)
-        raise RuntimeError("no window is active")
+        raise RuntimeError(f"the window manager does not answer: {question}")
 
 
 class Program:

@@ -2,6 +2,7 @@
 /// Setting out of the rain dialog.
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
@@ -52,7 +53,11 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     // The note takes its room from the screen, not from the table.
     qt::follow(form_->lblDemo, *this, [this](platform::Aspect aspect) {
         if (aspect == platform::Aspect::Visible) {
-            qt::later(*this, [this] { resize(size().expandedTo(sizeHint())); });
+            qt::later(*this, [this] {
+                // Beyond the screen nobody could reach the button.
+                const QSize room = screen()->availableGeometry().size() - (frameSize() - size());
+                resize(size().expandedTo(sizeHint()).boundedTo(room));
+            });
         }
     });
 
