@@ -156,10 +156,7 @@ void FormWindow::confirmWith(QPushButton& button) {
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    // A script presses a key in one control and means no more than that; these keys are a person's.
-    if (!event->spontaneous()) {
-        QWidget::keyPressEvent(event);
-    } else if (owner_ != nullptr && event->key() == Qt::Key_Escape) {
+    if (owner_ != nullptr && event->key() == Qt::Key_Escape) {
         close();
     } else if (enter && !confirm_.isNull()) {
         confirm_->click();
