@@ -84,6 +84,16 @@ TEST_F(Mnemonics, WhatTheTabsHaveIsGone) {
     EXPECT_EQ(taken, (Letters{'v', 's'}));
 }
 
+TEST_F(Mnemonics, ButtonsChooseFirst) {
+    platform::TextBox box(bench.form, "a");
+    platform::Button button(bench.form, "b", "OK");
+    const QLineEdit& line = grid.input(box, "ok");
+    QPushButton& push = makeButton(bench.kit, button, place);
+    addMnemonics(place, {});
+    EXPECT_EQ(push.text(), "&OK");
+    EXPECT_EQ(caption(line), "o&k");
+}
+
 TEST_F(Mnemonics, ACaptionWithAnAmpersandKeepsIt) {
     platform::Button button(bench.form, "a", "Tom & Jerry");
     const QPushButton& push = makeButton(bench.kit, button, place);
