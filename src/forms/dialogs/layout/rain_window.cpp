@@ -2,6 +2,7 @@
 /// Setting out of the rain dialog.
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
@@ -58,7 +59,10 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     // The note takes its room from the screen, not from the table.
     qt::follow(form_->lblDemo, *this, [this](platform::Aspect aspect) {
         if (aspect == platform::Aspect::Visible) {
-            qt::later(*this, [this] { resize(size().expandedTo(sizeHint())); });
+            // Where the screen has no room for all, the curve gives way.
+            qt::later(*this, [this] {
+                resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableGeometry().size()));
+            });
         }
     });
 
