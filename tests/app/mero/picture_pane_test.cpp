@@ -113,6 +113,20 @@ TEST_F(PicturePaneTest, TheRainDialogsCurveFollowsTheTable) {
     run("close frmIntDialog");
 }
 
+TEST_F(PicturePaneTest, TheRainDialogsCurveGivesWayToTheTable) {
+    run({"tab 0", "click cmdEdit(0)"});
+    QWidget& curve = shownView("picRain");
+    QWidget& dialog = *curve.window();
+    const QSize whole = dialog.size();
+    dialog.resize(whole.width(), whole.height() - curve.height());
+    QApplication::processEvents();
+    EXPECT_TRUE(curve.isHidden());
+    dialog.resize(whole);
+    QApplication::processEvents();
+    EXPECT_FALSE(curve.isHidden());
+    run("close frmIntDialog");
+}
+
 TEST_F(PicturePaneTest, PicturesAreNoControlsOfAScript) {
     for (const platform::Control* control : program.window().controls()) {
         EXPECT_THAT(control->name(), testing::Not(testing::StartsWith("picSection")));

@@ -54,7 +54,8 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     qt::follow(form_->lblDemo, *this, [this](platform::Aspect aspect) {
         if (aspect == platform::Aspect::Visible) {
             qt::later(*this, [this] {
-                // Beyond the screen nobody could reach the button.
+                // Beyond the screen nobody could reach the button: where it has no room for all, the curve
+                // gives way.
                 const QSize room = screen()->availableGeometry().size() - (frameSize() - size());
                 resize(size().expandedTo(sizeHint()).boundedTo(room));
             });
