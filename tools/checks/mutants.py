@@ -33,7 +33,7 @@ NAMES = {"true": "false", "false": "true", "min": "max", "max": "min"}
 NO_PLAIN_STATEMENT = {
     "return", "if", "else", "for", "while", "do", "switch", "case", "default", "using", "namespace", "struct", "class",
     "enum", "template", "const", "constexpr", "inline", "static", "auto", "static_assert", "public", "private", "try",
-    "explicit", "virtual", "operator", "typename", "friend", "break",
+    "explicit", "virtual", "operator", "typename", "friend", "break", "assert",
 }
 
 

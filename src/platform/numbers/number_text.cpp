@@ -25,7 +25,7 @@ enum class Grouping { None, SingleBlanks };
 
 /// The leading part of a text that is a number, without sign and grouping, ready for std::from_chars.
 struct ScannedNumber {
-    bool found = false;
+    bool found{};
     bool negative = false;
     std::string digits;    ///< "12.5e-3"
     std::size_t length{};  ///< characters of the text that it takes, leading blanks included

@@ -159,7 +159,7 @@ fi
     --vary facility.bottom_length_m=1:50:0.001 --out stopped.csv 2>err &
 sweep=$!
 tries=0
-while [ ! -s stopped.csv ] && [ $tries -lt 100 ]; do
+while [ ! -s stopped.csv ] && [ $tries -lt 1000 ]; do
     sleep 0.05
     tries=$((tries + 1))
 done

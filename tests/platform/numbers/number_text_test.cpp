@@ -55,6 +55,8 @@ TEST(StrictSingle, RefusesWhatIsNoNumber) {
                                               "1e-",
                                               "1,5",
                                               "1,",
+                                              "1:",
+                                              "/1",
                                               "x",
                                               "1x",
                                               "1  2",
@@ -128,6 +130,7 @@ TEST(LeadingNumber, TakesTheLongestNumericPart) {
     EXPECT_EQ(leadingNumber("2e-"), 2.0);
     EXPECT_EQ(leadingNumber("2e-3"), 0.002);
     EXPECT_EQ(leadingNumber("12abc"), 12.0);
+    EXPECT_EQ(leadingNumber("12:30"), 12.0);
     EXPECT_EQ(leadingNumber("x"), 0.0);
     EXPECT_EQ(leadingNumber(""), 0.0);
     EXPECT_EQ(leadingNumber("e"), 0.0);
