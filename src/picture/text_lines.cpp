@@ -14,7 +14,9 @@ std::vector<std::string> brokenLines(std::string_view text, double width, const 
         const std::size_t end = std::min(text.find(' '), text.size());
         const std::string word(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
-        const std::string longer = line.empty() ? word : line + " " + word;
+        std::string longer = line;
+        longer += line.empty() ? "" : " ";
+        longer += word;
         if (sizes.width(longer) <= width) {
             line = longer;
             continue;

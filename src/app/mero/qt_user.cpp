@@ -41,7 +41,18 @@ class Writable {
     bool read_only_;
 };
 
+/// Keeps keys that no control took from the window: a script presses a key in one control and means no more
+/// than that, while for a person Enter and Escape also confirm and close a dialog.
+class KeysKeptFromWindow : public QObject {
+  public:
+    explicit KeysKeptFromWindow(QWidget& window) { window.installEventFilter(this); }
+    bool eventFilter(QObject* /*window*/, QEvent* event) override {
+        return event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    }
+};
+
 void pressKey(QWidget& widget, int key, const QString& text = {}) {
+    const KeysKeptFromWindow kept(*widget.window());
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
     QApplication::sendEvent(&widget, &press);
     QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);

@@ -68,8 +68,9 @@ void appendWithExponent(std::string& text, const Digits& digits) {
         text += '.';
         text += digits.all().substr(1);
     }
-    const int magnitude = digits.exponent < 0 ? -digits.exponent : digits.exponent;
-    text += digits.exponent < 0 ? "E-" : "E+";
+    const bool below_one = digits.exponent < 0;
+    const int magnitude = below_one ? -digits.exponent : digits.exponent;
+    text += below_one ? "E-" : "E+";
     text += static_cast<char>('0' + magnitude / 10);
     text += static_cast<char>('0' + magnitude % 10);
 }

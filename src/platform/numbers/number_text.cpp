@@ -27,8 +27,8 @@ enum class Grouping { None, SingleBlanks };
 struct ScannedNumber {
     bool found = false;
     bool negative = false;
-    std::string digits;      ///< "12.5e-3"
-    std::size_t length = 0;  ///< characters of the text that it takes, leading blanks included
+    std::string digits;    ///< "12.5e-3"
+    std::size_t length{};  ///< characters of the text that it takes, leading blanks included
 };
 
 std::size_t scanIntegerPart(std::string_view text, std::size_t at, Grouping grouping, std::string& digits) {
@@ -88,9 +88,7 @@ ScannedNumber scan(std::string_view text, Grouping grouping) {
         at = scanIntegerPart(text, at + 1, Grouping::None, number.digits);
     }
     number.found = std::any_of(number.digits.begin(), number.digits.end(), isDigit);
-    if (number.found) {
-        number.length = scanExponent(text, at, number.digits);
-    }
+    number.length = scanExponent(text, at, number.digits);
     return number;
 }
 

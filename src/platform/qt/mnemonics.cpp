@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <optional>
 
 namespace mero::qt {
@@ -47,7 +48,13 @@ QString marked(const QString& text, Letters& taken) {
     return QString(text).insert(*place, kMark);
 }
 
-void mark(QWidget& widget, Letters& taken) {
+/// Buttons choose first: there is no other quick way to them.
+enum class Turn { Buttons, Fields };
+
+void mark(QWidget& widget, Turn turn, Letters& taken) {
+    if ((turn == Turn::Buttons) != (qobject_cast<QPushButton*>(&widget) != nullptr)) {
+        return;
+    }
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
         button->setText(marked(button->text(), taken));
     } else if (auto* label = qobject_cast<QLabel*>(&widget); label != nullptr && label->buddy() != nullptr) {
@@ -60,13 +67,12 @@ void mark(QWidget& widget, Letters& taken) {
     }
 }
 
-void markBelow(QWidget& root, Letters& taken, QList<QWidget*>& alternatives) {
+/// Marks what is below `root`, and leaves out the panels that take turns.
+void markBelow(QWidget& root, Turn turn, Letters& taken) {
     for (auto* child : root.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (child->property(kAlternativeProperty).toBool()) {
-            alternatives.append(child);
-        } else {
-            mark(*child, taken);
-            markBelow(*child, taken, alternatives);
+        if (!child->property(kAlternativeProperty).toBool()) {
+            mark(*child, turn, taken);
+            markBelow(*child, turn, taken);
         }
     }
 }
@@ -97,10 +103,12 @@ Letters addMnemonics(QTabWidget& tabs) {
 }
 
 void addMnemonics(QWidget& root, Letters taken) {
-    QList<QWidget*> alternatives;
-    markBelow(root, taken, alternatives);
-    for (QWidget* panel : alternatives) {
-        addMnemonics(*panel, taken);
+    markBelow(root, Turn::Buttons, taken);
+    markBelow(root, Turn::Fields, taken);
+    for (auto* panel : root.findChildren<QWidget*>()) {
+        if (panel->property(kAlternativeProperty).toBool()) {
+            addMnemonics(*panel, taken);
+        }
     }
 }
 

@@ -47,19 +47,25 @@ QColor accent(const QPalette& palette, double share) {
 
 /// Oblique lines over the whole box.
 void hatch(QPainter& painter, const QRectF& box, double distance) {
-    for (double x = box.left() - box.height(); x < box.right(); x += distance) {
+    const int count = static_cast<int>((box.width() + box.height()) / distance);
+    for (int i = 0; i <= count; ++i) {
+        const double x = box.left() - box.height() + i * distance;
         painter.drawLine(QPointF(x, box.bottom()), QPointF(x + box.height(), box.top()));
     }
 }
 
 /// Rings or dots in rows, every other row shifted by half a step.
 void scatter(QPainter& painter, const QRectF& box, double distance, double radius) {
-    bool shifted = false;
-    for (double y = box.top() + distance / 2; y < box.bottom(); y += distance * 0.8) {
-        for (double x = box.left() + (shifted ? distance : distance / 2); x < box.right(); x += distance) {
-            painter.drawEllipse(QPointF(x, y), radius, radius);
+    const double row_height = distance * 0.8;
+    const int rows = static_cast<int>(box.height() / row_height);
+    const int columns = static_cast<int>(box.width() / distance);
+    for (int row = 0; row <= rows; ++row) {
+        const double first = box.left() + (row % 2 == 0 ? distance / 2 : distance);
+        for (int column = 0; column <= columns; ++column) {
+            painter.drawEllipse(
+                QPointF(first + column * distance, box.top() + distance / 2 + row * row_height), radius,
+                radius);
         }
-        shifted = !shifted;
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTableView>
+#include <QTest>
 
 #include "app/mero/main_window.h"
 
@@ -40,9 +41,7 @@ class Captions : public MainWindow, public testing::WithParamInterface<Look> {
         SCOPED_TRACE(state);
         shown_window.resize(
             GetParam().window.boundedTo(&shown_window == &window ? GetParam().window : shown_window.size()));
-        for (int i = 0; i < 3; ++i) {
-            QApplication::processEvents();
-        }
+        settle(shown_window);
         for (const auto* each : shown_window.findChildren<QWidget*>()) {
             if (each->isVisible() && each->window() == &shown_window) {
                 expectNotCut(*each);
@@ -52,6 +51,28 @@ class Captions : public MainWindow, public testing::WithParamInterface<Look> {
     }
 
   private:
+    static QList<QRect> places(const QWidget& of) {
+        QList<QRect> rects;
+        for (const auto* each : of.findChildren<QWidget*>()) {
+            rects.append(each->geometry());
+        }
+        return rects;
+    }
+
+    /// Waits until the layouts have come to rest: one of them can start another.
+    static void settle(const QWidget& shown_window) {
+        constexpr int kRoundMs = 10;
+        constexpr int kMostRounds = 100;
+        constexpr int kQuietRounds = 2;
+        QList<QRect> before;
+        for (int round = 0, quiet = 0; round < kMostRounds && quiet < kQuietRounds; ++round) {
+            QTest::qWait(kRoundMs);
+            const QList<QRect> now = places(shown_window);
+            quiet = now == before ? quiet + 1 : 0;
+            before = now;
+        }
+    }
+
     static std::string textOf(const QWidget& widget) {
         QString text = widget.objectName();
         if (const auto* label = qobject_cast<const QLabel*>(&widget)) {

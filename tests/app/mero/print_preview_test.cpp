@@ -2,7 +2,11 @@
 /// The print preview opens without a printer and shows the report's pages.
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QTimer>
@@ -44,6 +48,44 @@ TEST(PrintPreview, ShowsTheReportsPagesOnA4) {
     desk.openPrintPreview(folder.file("Mero_Test"));
     EXPECT_EQ(pages, 2);
     EXPECT_EQ(title, "Náhled před tiskem");
+}
+
+TEST(PrintPreview, WithoutAPrinterThePagesArePrintedIntoAFile) {
+    const QByteArray server_before = qgetenv("CUPS_SERVER");
+    qputenv("CUPS_SERVER", "/nonexistent/printers");
+    const test::TemporaryFolder folder;
+    ASSERT_EQ(
+        report::writeReport(folder.file("Mero_Test"), report::htmlReport(report::test::sampleProject(3))),
+        report::WriteResult::Written);
+    QtDesk desk(Sitter::Person, report::viewHtml);
+    bool asked = false;
+    bool chosen = false;
+    QTimer person;
+    person.setInterval(50);
+    QObject::connect(&person, &QTimer::timeout, &person, [&] {
+        QWidget* front = QApplication::activeModalWidget();
+        if (auto* dialog = dynamic_cast<QPrintDialog*>(front)) {
+            EXPECT_EQ(dialog->findChild<QComboBox*>(QStringLiteral("printers"))->currentText(),
+                      "Print to File (PDF)");
+            dialog->findChild<QLineEdit*>(QStringLiteral("filename"))
+                ->setText(QString::fromStdString(folder.file("tisk.pdf")));
+            chosen = true;
+            dialog->accept();
+        } else if (auto* preview = dynamic_cast<QPrintPreviewDialog*>(front); preview != nullptr && !asked) {
+            for (QAction* action : preview->findChildren<QAction*>()) {
+                if (action->text() == QLatin1String("Print")) {
+                    asked = true;
+                    // Not from here: this timer would wait for the dialog's end.
+                    QTimer::singleShot(0, action, &QAction::trigger);
+                }
+            }
+        }
+    });
+    person.start();
+    desk.openPrintPreview(folder.file("Mero_Test"));
+    server_before.isNull() ? qunsetenv("CUPS_SERVER") : qputenv("CUPS_SERVER", server_before);
+    EXPECT_TRUE(chosen);
+    EXPECT_TRUE(folder.read("tisk.pdf").starts_with("%PDF"));
 }
 
 }  // namespace

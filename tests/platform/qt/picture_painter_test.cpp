@@ -70,12 +70,12 @@ picture::Chart rain() {
 
 const std::vector<Sheet> kSheets{{300, 220}, {480, 320}, {900, 600}};
 
-struct Palettes : testing::TestWithParam<bool> {
+struct PicturesInPalettes : testing::TestWithParam<bool> {
     QPalette palette = GetParam() ? darkColours() : lightColours();
     QColor paper = palette.color(QPalette::Base);
 };
 
-TEST_P(Palettes, TextsAndLinesStandOutFromThePaper) {
+TEST_P(PicturesInPalettes, TextsAndLinesStandOutFromThePaper) {
     for (const Emphasis emphasis : {Emphasis::Plain, Emphasis::Strong, Emphasis::Quiet}) {
         EXPECT_GE(contrast(textColour(palette, emphasis), paper), 4.5);
     }
@@ -86,14 +86,14 @@ TEST_P(Palettes, TextsAndLinesStandOutFromThePaper) {
     EXPECT_GE(contrast(fillColour(palette, Material::CriticalBar), paper), 3.0);
 }
 
-TEST_P(Palettes, TheCriticalBarAndTheMaterialsAreToldApart) {
+TEST_P(PicturesInPalettes, TheCriticalBarAndTheMaterialsAreToldApart) {
     EXPECT_GE(contrast(fillColour(palette, Material::CriticalBar), fillColour(palette, Material::Bar)), 1.6);
     EXPECT_NE(fillColour(palette, Material::Water), fillColour(palette, Material::Soil));
     EXPECT_NE(fillColour(palette, Material::Air), fillColour(palette, Material::Soil));
     EXPECT_NE(fillColour(palette, Material::Concrete), fillColour(palette, Material::Soil));
 }
 
-TEST_P(Palettes, NothingIsPaintedOutsideTheSheet) {
+TEST_P(PicturesInPalettes, NothingIsPaintedOutsideTheSheet) {
     constexpr int kAround = 20;
     for (const Sheet& sheet : kSheets) {
         for (const Drawing& drawing : {arrange(shaft(), sheet, textSizes(QApplication::font())),
@@ -121,7 +121,7 @@ TEST_P(Palettes, NothingIsPaintedOutsideTheSheet) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(LightAndDark, Palettes, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(LightAndDark, PicturesInPalettes, testing::Bool());
 
 TEST(PicturePainter, LabelsInRealFontsFitTheirBoxesAndKeepApart) {
     for (const int points : {8, 10, 14, 20}) {
