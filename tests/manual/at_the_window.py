@@ -9,7 +9,10 @@ Needs what `tools/packages.sh check screenshots` installs, and the system's pyth
 """
 
 import argparse
+import contextlib
+import os
 import re
+import signal
 import subprocess
 import sys
 import time
@@ -23,6 +26,7 @@ from screen import START_LIMIT_S, Look, Program, Screen  # noqa: E402
 
 ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
 PATIENCE_S = 6.0
+EXAMPLE_LIMIT_S = 180
 UNITS = r"m|m²|m³|mm|m/s|m³/s|h|min|l/s|l/\(s\.ha\)|l/s\.ha|cm²/m|1 : n"
 AFTER_CLICK_S = 0.15
 
@@ -198,12 +202,14 @@ class Reader:
         wanted = caption.removeprefix(prefix).removesuffix(" min")
         column = {RAINS: 0, SURFACES: 1, SOILS: 0}[prefix]
         rows = {RAINS: 9, SURFACES: 19, SOILS: 8}[prefix]
-        grid = self.eyes.find(lambda n: n.getRoleName() == "table" and n.queryTable().nRows == rows, caption)
-        table = grid.queryTable()
-        last = table.nColumns - 1
-        for row in range(table.nRows):
-            if table.getAccessibleAt(row, column).name == wanted:
-                return self.reach(grid, table, row, last)
+        end = time.monotonic() + PATIENCE_S
+        while time.monotonic() < end:
+            grid = self.eyes.find(lambda n: n.getRoleName() == "table" and n.queryTable().nRows == rows, caption)
+            table = grid.queryTable()
+            for row in range(rows):
+                if (cell := table.getAccessibleAt(row, column)) is not None and cell.name == wanted:
+                    return self.reach(grid, table, row, table.nColumns - 1)
+            time.sleep(0.1)
         raise NotFound(caption)
 
     def reach(self, grid, table, row: int, column: int):
@@ -282,8 +288,22 @@ def main() -> int:
     for example in examples(MANUAL.read_text(encoding="utf-8")):
         if options.only in example.name:
             command = ["dbus-run-session", "--", sys.executable, "-B", __file__, *sys.argv[1:], "--alone", example.name]
-            failures += subprocess.run(command, check=False, stderr=subprocess.DEVNULL).returncode != 0
+            failures += not succeeds(command)
     return failures > 0
+
+
+def succeeds(command: list[str]) -> bool:
+    """Runs one example with all that it starts; what hangs is ended with it."""
+    run = subprocess.Popen(command, stderr=subprocess.DEVNULL, start_new_session=True)
+    try:
+        return run.wait(EXAMPLE_LIMIT_S) == 0
+    except subprocess.TimeoutExpired:
+        print(f"{command[-1]}: not done after {EXAMPLE_LIMIT_S} s", flush=True)
+        return False
+    finally:
+        with contextlib.suppress(ProcessLookupError):
+            os.killpg(run.pid, signal.SIGKILL)
+        run.wait()
 
 
 if __name__ == "__main__":
