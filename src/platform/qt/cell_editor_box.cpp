@@ -41,6 +41,7 @@ QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view
             view.reveal(grid.current());
             line.setAccessibleName(view.spokenPlace(grid.current()));
             place();
+            showInScrollAreas(line);
             line.selectAll();
             line.raise();
         }

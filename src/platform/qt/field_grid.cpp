@@ -41,6 +41,17 @@ QString broken(const QString& text) {
     return result;
 }
 
+/// Widens a field for a text that its usual width would cut: a number without its first digits is another
+/// number.
+void growWithText(QLineEdit& line) {
+    const auto fit = [&line, usual = line.width()] {
+        const int needed = line.fontMetrics().horizontalAdvance(line.text()) + 2 * gap(line);
+        line.setFixedWidth(qMax(usual, needed));
+    };
+    fit();
+    QObject::connect(&line, &QLineEdit::textChanged, &line, fit);
+}
+
 }  // namespace
 
 FieldGrid::FieldGrid(WidgetKit& kit, QWidget& parent)
@@ -80,6 +91,7 @@ QLineEdit& FieldGrid::input(platform::TextBox& box, const QString& text, const Q
 QLineEdit& FieldGrid::result(platform::TextBox& box, const QString& text, const QString& unit) {
     QLineEdit& line = field(box, text, unit);
     showAsResult(line);
+    growWithText(line);
     return line;
 }
 

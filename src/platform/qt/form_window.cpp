@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -146,7 +147,14 @@ void FormWindow::fitContent() {
         QApplication::sendEvent(holder->parentWidget(), &request);
     }
     layout()->activate();
-    resize(sizeHint().boundedTo(screen()->availableGeometry().size()));
+    resize(sizeHint().boundedTo(roomOnScreen()));
+}
+
+QSize FormWindow::roomOnScreen() const {
+    // The window manager's frame is known only once the window is there.
+    const QSize frame =
+        isVisible() ? frameSize() - size() : QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    return screen()->availableGeometry().size() - frame;
 }
 
 void FormWindow::confirmWith(QPushButton& button) {

@@ -24,6 +24,8 @@ class FormWindow : public QWidget {
     void confirmWith(QPushButton& button);
     /// Makes a dialog as large as its content wants to be, as far as the screen allows.
     void fitContent();
+    /// What of the screen is there for the window's content: all but the window manager's frame.
+    [[nodiscard]] QSize roomOnScreen() const;
 
     [[nodiscard]] WidgetKit& kit() const { return *kit_; }
 

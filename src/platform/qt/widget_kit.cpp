@@ -93,12 +93,16 @@ void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::
     }
 }
 
-void leadTo(QWidget& widget) {
+void showInScrollAreas(QWidget& widget) {
     for (QWidget* holder = widget.parentWidget(); holder != nullptr; holder = holder->parentWidget()) {
         if (auto* area = qobject_cast<QScrollArea*>(holder)) {
             area->ensureWidgetVisible(&widget);
         }
     }
+}
+
+void leadTo(QWidget& widget) {
+    showInScrollAreas(widget);
     widget.setFocus(Qt::ActiveWindowFocusReason);
     if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
         line->selectAll();

@@ -48,6 +48,9 @@ void bindCommon(WidgetKit& kit, platform::Control& control, QWidget& widget);
 /// and lists that drop down count as neither.
 void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost);
 
+/// Scrolls the areas around the widget to where it is seen.
+void showInScrollAreas(QWidget& widget);
+
 /// Shows the widget and puts the focus there, its text selected. No handler runs: it is as if the window had
 /// been left and entered again.
 void leadTo(QWidget& widget);

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <QHeaderView>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
 
@@ -176,6 +177,18 @@ TEST_F(Editor, TheFirstKeyReplacesTheText) {
     open({3, 1}, "131.2");
     QTest::keyClicks(line, "7");
     EXPECT_EQ(box.text(), "7");
+}
+
+TEST_F(Editor, IsScrolledToWhereTheDialogIsLargerThanTheScreen) {
+    QScrollArea area;
+    view->resize(900, 600);
+    area.setWidget(view);
+    area.resize(200, 200);
+    area.show();
+    area.ensureVisible(900, 600);
+    open({1, 1}, "131.2");
+    const QRect shown(line->mapTo(area.viewport(), QPoint(0, 0)), line->size());
+    EXPECT_TRUE(area.viewport()->rect().contains(shown.topLeft()));
 }
 
 TEST_F(Editor, MovesWithItsCell) {

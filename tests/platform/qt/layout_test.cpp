@@ -72,6 +72,20 @@ TEST_F(Fields, TheirWidthComesFromTheFont) {
     EXPECT_EQ(line.width(), textWidth(line, 14));
 }
 
+TEST_F(Fields, AResultGrowsRatherThanLoseItsFirstDigits) {
+    const QLineEdit& result = grid.result(box, "Objem dle rozměrů nádrže", "m³");
+    show();
+    const int usual = result.width();
+    box.setText("1 015.7");
+    EXPECT_EQ(result.width(), usual);
+    box.setText("340 282 346 638 528 859 811 704 183 484 516 925 440.00");
+    show();
+    EXPECT_GT(result.width(), result.fontMetrics().horizontalAdvance(result.text()));
+    EXPECT_LT(result.geometry().right(), label("m³").geometry().left());
+    box.setText("");
+    EXPECT_EQ(result.width(), usual);
+}
+
 TEST_F(Fields, TheirColoursFollowThePalette) {
     platform::TextBox plain_box(bench.form, "txtSirkaRyhy");
     platform::TextBox greyed_box(bench.form, "txtVyskaPiskVrstvy");

@@ -3,7 +3,6 @@
 /// Only the first tab is built at the start; everything else when it is first shown.
 #include "forms/calc/layout/calc_window.h"
 
-#include <QScreen>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -58,7 +57,7 @@ void CalcWindow::build(QWidget& content) {
     // One starts by naming the project.
     kit().find(form_->txtProjName)->setFocus();
     const QSize wanted(qt::textWidth(*this, kWidthCharacters), fontMetrics().height() * kHeightLines);
-    resize(wanted.boundedTo(screen()->availableGeometry().size()));
+    resize(wanted.boundedTo(roomOnScreen()));
 }
 
 }  // namespace mero::forms

@@ -2,7 +2,6 @@
 /// Setting out of the rain dialog.
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
@@ -56,8 +55,7 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
             qt::later(*this, [this] {
                 // Beyond the screen nobody could reach the button: where it has no room for all, the curve
                 // gives way.
-                const QSize room = screen()->availableGeometry().size() - (frameSize() - size());
-                resize(size().expandedTo(sizeHint()).boundedTo(room));
+                resize(size().expandedTo(sizeHint()).boundedTo(roomOnScreen()));
             });
         }
     });
