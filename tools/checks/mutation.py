@@ -371,6 +371,9 @@ def report(root: Path, work: list, verdicts: list[str], begin: float) -> int:
     files = sorted({name for _, name, _ in work})
     count = {name: {"killed": 0, "explained": 0, "survived": 0, "not compiled": 0} for name in files}
     complaints, met = [], set()
+    # A line of code that stands twice in a file has one entry; it holds when one of its mutants survives.
+    surviving = {(name, mutant.code, mutant.change) for (_, name, mutant), verdict in zip(work, verdicts)
+                 if verdict == "survived"}
     for (_, name, mutant), verdict in zip(work, verdicts):
         key = (name, mutant.code, mutant.change)
         place = f"{name}:{mutant.line}: {mutant.change}    in: {mutant.code}"
@@ -378,7 +381,7 @@ def report(root: Path, work: list, verdicts: list[str], begin: float) -> int:
             met.add(key)
             if verdict == "survived":
                 verdict = "explained"
-            else:
+            elif key not in surviving:
                 complaints.append(f"{verdict}, though explained: {place}")
         elif verdict == "survived":
             complaints.append(f"survived: {place}")
