@@ -29,7 +29,7 @@ follow() {
 example=$source/tests/scripts/examples/sachta-kruhova-a.trace
 follow "$prefix/share/mero/examples/sachta-kruhova-a.mero" "$example"
 follow "$source/tests/scripts/description_pages.mero" "$source/tests/scripts/description_pages.trace"
-[[ $(ls --ignore='Mero_*' "$XDG_DATA_HOME/mero") == $'Webs\nmero.mdb' ]] || fail "the data folder holds something else"
+[[ $(LC_ALL=C ls --ignore='Mero_*' "$XDG_DATA_HOME/mero") == $'Webs\nmero.mdb' ]] || fail "the data folder holds something else"
 diff -r "$prefix/share/mero/Webs" "$XDG_DATA_HOME/mero/Webs"
 
 "$prefix/bin/mero" --export-pdf "$(ls "$XDG_DATA_HOME"/mero/Mero_*)" "$work/report.pdf" 2>"$work/log"
