@@ -3,8 +3,9 @@
 /// All panels share one place; the form shows one of them at a time.
 #include "forms/calc/layout/design_page.h"
 
+#include <QBoxLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "forms/calc/layout/result_panels.h"
@@ -17,18 +18,25 @@
 namespace mero::forms {
 namespace {
 
+/// On a narrower screen the list stands below the options, so that one need not scroll sideways [characters].
+constexpr int kRoomForOneRow = 90;
+
 QWidget& buildChoice(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent) {
     QGroupBox& frame = qt::makeFrame(kit, form.fraVyber, parent);
-    auto* row = new QHBoxLayout(&frame);
-    row->setSpacing(2 * qt::gap(frame));
+    const bool narrow = frame.screen()->availableGeometry().width() < qt::textWidth(frame, kRoomForOneRow);
+    auto* row = new QBoxLayout(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, &frame);
+    row->setSpacing(narrow ? qt::gap(frame) : 2 * qt::gap(frame));
     QWidget& options = buildOptions(kit, form.optSelType, frame);
     qt::describe(options, frame.title());
-    row->addWidget(&options);
+    const Qt::Alignment side = narrow ? Qt::AlignLeft : Qt::Alignment();
+    row->addWidget(&options, 0, side);
     QComboBox& types = qt::makeDropList(kit, form.cboSelType, frame);
     types.setMinimumContentsLength(32);
     qt::describe(types, QStringLiteral("Typ vsakování"));
-    row->addWidget(&types);
-    row->addStretch(1);
+    row->addWidget(&types, 0, side);
+    if (!narrow) {
+        row->addStretch(1);
+    }
     return frame;
 }
 
