@@ -22,6 +22,8 @@ from views import BOXES, MANUAL_PICTURES, VIEWS
 
 COLOURS = 64
 BETWEEN_KEYS_S = 1.0
+# On a larger screen the window fills it.
+SMALL_WIDTH = 1024
 LOOKS = [Look(palette, scale, width, height)
          for palette in ("light", "dark")
          for scale in (100, 200)
@@ -41,6 +43,8 @@ def take(program: Path, look: Look, views, folder: Path) -> list[Path]:
     with Screen(look.width, look.height) as screen:
         for name, steps in views.items():
             with Program(screen, program, look) as running:
+                if look.width > SMALL_WIDTH:
+                    screen.fill()
                 for lines, picture in steps:
                     running.perform(lines)
                     if picture:

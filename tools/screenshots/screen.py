@@ -69,6 +69,10 @@ class Screen:
         file.parent.mkdir(parents=True, exist_ok=True)
         self.run("import", "-silent", "-window", window, str(file))
 
+    def fill(self) -> None:
+        """Makes the active window as large as the screen."""
+        self.run("xdotool", "windowsize", "--sync", self.active_window(), "100%", "100%")
+
     def active_window(self) -> str:
         return self.answer("getactivewindow")
 
