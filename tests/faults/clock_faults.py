@@ -88,7 +88,7 @@ class Clock(FaultTest):
 
     @on_each_front
     def test_any_time_zone_gives_a_moment(self, front):
-        for zone in ("", ":", ":/nonexistent", "/etc/passwd", "../../../../etc/passwd", "/dev/null", "XXX", "<+14>-14",
+        for zone in ("", ":", ":/nonexistent", "/etc/passwd", "../../../../etc/passwd", "/dev/null", "QQQ", "<+14>-14",
                      "<-12>12", "AAA167:59:59", "CET-1CEST,M13.9.9/999,M0.0.0", "Žluť", "x" * 5000, "<" * 300):
             with self.subTest(zone=zone[:30]):
                 self.new_scratch()

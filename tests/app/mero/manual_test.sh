@@ -6,22 +6,12 @@ set -u
 
 mero=$1
 page=$2
-failures=0
+. "$(dirname -- "$0")/../../support/manual_page.sh"
 
-fail() {
-    echo "FAILED: $*"
-    failures=$((failures + 1))
-}
-
-if command -v mandoc >/dev/null; then
-    mandoc -Tlint -Wwarning "$page" || fail "mandoc finds faults"
-fi
-
-plain=$(sed 's/\\-/-/g; s/\\f[BIR]//g' "$page")
-options=$("$mero" --help | grep -oE -- '--[a-z][a-z-]*' | sort -u)
+options=$("$mero" --help | options_of_help)
 [ -n "$options" ] || fail "the help names no options"
 for option in $options; do
-    printf '%s\n' "$plain" | grep -qF -- "$option" || fail "$option is not in the page"
+    expect_in_page "$option"
 done
 
 # Arguments that cannot be used are told in one line, before anything is shown.
