@@ -64,7 +64,7 @@ def message_texts() -> list[tuple[str, str]]:
 def sentences() -> list[tuple[str, str]]:
     """File and text of each sentence that the window shows elsewhere: notes, warnings, the page for a missing file."""
     found = []
-    for file in sorted([*SRC.glob("forms/**/*.cpp"), *SRC.glob("picture/*.cpp"), *SRC.glob("platform/qt/*.cpp"),
+    for file in sorted([*SRC.glob("forms/**/*.cpp"), *SRC.glob("picture/*.cpp"), *SRC.glob("qt/*.cpp"),
                         *SRC.glob("app/mero/*.cpp")]):
         code = without_comments(file.read_text(encoding="utf-8"))
         for text in literals(re.sub(r"</?\w+>", "\" \"", code)):

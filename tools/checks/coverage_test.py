@@ -14,7 +14,7 @@ def file(name: str, lines: int, of_lines: int, branches: int = 0, of_branches: i
 class Table(unittest.TestCase):
     def test_widgets_and_layouts_are_counted_on_their_own(self):
         shown, good = table([
-            file("src/calc/a.cpp", 100, 100), file("src/platform/qt/b.cpp", 85, 100),
+            file("src/calc/a.cpp", 100, 100), file("src/qt/b.cpp", 85, 100),
             file("src/forms/calc/layout/c.cpp", 170, 200), file("src/forms/calc/d.cpp", 90, 100),
             file("src/platform/e.cpp", 95, 100), file("src/app/mero/f.cpp", 95, 100),
         ])
@@ -31,8 +31,8 @@ class Table(unittest.TestCase):
             (file("src/calc/a.cpp", 95, 100, 90, 100), True),
             (file("src/calc/a.cpp", 949, 1000, 90, 100), False),
             (file("src/calc/a.cpp", 95, 100, 899, 1000), False),
-            (file("src/platform/qt/a.cpp", 85, 100, 0, 100), True),
-            (file("src/platform/qt/a.cpp", 849, 1000, 100, 100), False),
+            (file("src/qt/a.cpp", 85, 100, 0, 100), True),
+            (file("src/qt/a.cpp", 849, 1000, 100, 100), False),
         ):
             shown, verdict = table([entry])
             self.assertEqual(verdict, good, shown)

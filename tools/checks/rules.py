@@ -19,7 +19,7 @@ NUMBERS = ("platform/numbers",)
 CORE = ("calc", "data", "report", "platform")
 ROOMS = {
     "platform/numbers": (),
-    "platform/qt": ("platform", "picture"),
+    "qt": ("platform", "picture"),
     "platform": NUMBERS,
     "calc": NUMBERS,
     "picture": ("calc", *NUMBERS),
@@ -28,9 +28,9 @@ ROOMS = {
     "report": ("calc", "data", "platform"),
     "project": (*CORE, "design"),
     "sweep": (*CORE, "design", "project"),
-    "forms": (*CORE, "picture"),
+    "forms": (*CORE, "picture", "qt"),
     "automation": (*CORE, "forms"),
-    "app": (*CORE, "design", "project", "sweep", "forms", "automation"),
+    "app": (*CORE, "design", "project", "sweep", "forms", "automation", "qt"),
 }
 
 QT_INCLUDE = re.compile(r"^(Qt\w*/)?Q\w+$|^(Qt\w+/)?q[a-z0-9_]+\.h$")
@@ -44,7 +44,7 @@ NUMBER_TEXT = re.compile(
 def is_qt_room(path: str) -> bool:
     """May this file (relative to src/) see Qt: the Qt platform, window layouts, the window's main program?"""
     return (
-        path.startswith(("platform/qt/", "app/mero/"))
+        path.startswith(("qt/", "app/mero/"))
         or path == "app/mero.cpp"
         or (path.startswith("forms/") and "/layout/" in path)
     )
@@ -61,7 +61,7 @@ def may_include(path: str, included: str) -> bool:
     room, other = room_of(path), room_of(included)
     if room is None or other is None:
         return False
-    if other == "platform/qt" and not is_qt_room(path):
+    if other == "qt" and not is_qt_room(path):
         return False
     if room == other:
         return True
@@ -71,7 +71,7 @@ def may_include(path: str, included: str) -> bool:
 def check_include(root: Path, path: str, name: str, own: bool) -> str | None:
     """What is wrong with an include of a file under src/, None when nothing is."""
     if QT_INCLUDE.match(name):
-        return None if is_qt_room(path) else f"Qt ({name}) outside platform/qt, forms/**/layout and app/mero"
+        return None if is_qt_room(path) else f"Qt ({name}) outside qt, forms/**/layout and app/mero"
     if name.endswith(".moc"):
         return None
     if not own:
@@ -121,7 +121,7 @@ def check_links(root: Path, file: Path) -> list[str]:
     if is_qt_room(path):
         return []
     return [
-        f"src/{path}:{number}: links {match.group()} outside platform/qt, forms/**/layout and app/mero"
+        f"src/{path}:{number}: links {match.group()} outside qt, forms/**/layout and app/mero"
         for number, line in enumerate(file.read_text(encoding="utf-8").split("\n"), 1)
         if (match := QT_LINK.search(line.split("#")[0]))
     ]

@@ -20,7 +20,7 @@ class Tree(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.root = Path(folder.name)
         for header in (
-            "platform/numbers/texts.h", "platform/controls.h", "platform/qt/widgets.h", "calc/swale.h",
+            "platform/numbers/texts.h", "platform/controls.h", "qt/widgets.h", "calc/swale.h",
             "data/tables.h", "report/writer.h", "forms/calc/frm_calc.h", "automation/trace.h",
         ):
             self.write(f"src/{header}", HEAD + "#pragma once\n")
@@ -54,9 +54,9 @@ class Layers(Tree):
             ("data/a.cpp", "platform/controls.h"),
             ("calc/a.cpp", "calc/swale.h"),
             ("calc/b.cpp", "platform/numbers/texts.h"),
-            ("platform/qt/a.cpp", "platform/controls.h"),
-            ("forms/calc/layout/a.cpp", "platform/qt/widgets.h"),
-            ("app/mero/main.cpp", "platform/qt/widgets.h"),
+            ("qt/a.cpp", "platform/controls.h"),
+            ("forms/calc/layout/a.cpp", "qt/widgets.h"),
+            ("app/mero/main.cpp", "qt/widgets.h"),
         ):
             self.assertEqual(self.include(name, header), [], (name, header))
 
@@ -64,13 +64,13 @@ class Layers(Tree):
         for name, header in (
             ("platform/numbers/a.cpp", "platform/controls.h"),
             ("platform/a.cpp", "data/tables.h"),
-            ("platform/b.cpp", "platform/qt/widgets.h"),
+            ("platform/b.cpp", "qt/widgets.h"),
             ("calc/a.cpp", "platform/controls.h"),
             ("calc/b.cpp", "data/tables.h"),
             ("data/a.cpp", "report/writer.h"),
             ("forms/calc/a.cpp", "automation/trace.h"),
-            ("forms/calc/b.cpp", "platform/qt/widgets.h"),
-            ("app/batch/main.cpp", "platform/qt/widgets.h"),
+            ("forms/calc/b.cpp", "qt/widgets.h"),
+            ("app/batch/main.cpp", "qt/widgets.h"),
         ):
             found = self.include(name, header)
             self.assertEqual(len(found), 1, (name, header, found))
@@ -89,13 +89,13 @@ class Layers(Tree):
 class Qt(Tree):
     def test_only_in_its_rooms(self):
         text = HEAD + "#include <QLineEdit>\n#include <QtCore/qglobal.h>\n"
-        for name in ("platform/qt/a.cpp", "forms/calc/layout/a.cpp", "forms/dialogs/layout/a.h", "app/mero/main.cpp"):
+        for name in ("qt/a.cpp", "forms/calc/layout/a.cpp", "forms/dialogs/layout/a.h", "app/mero/main.cpp"):
             self.assertEqual(self.breaches(f"src/{name}", "#pragma once\n".join((HEAD, text))), [])
         self.assertEqual(len(self.breaches("src/forms/calc/a.cpp", text)), 2)
 
     def test_links_too(self):
         link = SCRIPT_HEAD + "target_link_libraries(x Qt6::Widgets) # why\n"
-        self.assertEqual(self.breaches("src/platform/qt/CMakeLists.txt", link), [])
+        self.assertEqual(self.breaches("src/qt/CMakeLists.txt", link), [])
         self.assertEqual(self.breaches("src/data/CMakeLists.txt", SCRIPT_HEAD + "# no Qt6::Core here\n"), [])
         self.assert_breach("src/forms/calc/CMakeLists.txt", link, 2, "Qt6::Widgets")
 

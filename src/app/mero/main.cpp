@@ -30,7 +30,7 @@
 #include "forms/calc/program.h"
 #include "platform/locale_settings.h"
 #include "platform/numbers/numeric_locale.h"
-#include "platform/qt/palettes.h"
+#include "qt/palettes.h"
 #include "report/view_html.h"
 
 namespace {

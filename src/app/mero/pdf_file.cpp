@@ -8,8 +8,8 @@
 #include <QFileInfo>
 #include <QPdfWriter>
 
-#include "platform/qt/document_pages.h"
-#include "platform/qt/texts.h"
+#include "qt/document_pages.h"
+#include "qt/texts.h"
 
 namespace mero::app {
 

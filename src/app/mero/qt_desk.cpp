@@ -16,8 +16,8 @@
 
 #include "app/mero/pdf_file.h"
 #include "app/mero/save_dialog.h"
-#include "platform/qt/document_pages.h"
-#include "platform/qt/texts.h"
+#include "qt/document_pages.h"
+#include "qt/texts.h"
 
 namespace mero::app {
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "platform/desk.h"
-#include "platform/qt/local_document.h"
+#include "qt/local_document.h"
 
 namespace mero::app {
 

@@ -13,9 +13,9 @@
 #include <QToolButton>
 #include <stdexcept>
 
-#include "platform/qt/grid_view.h"
-#include "platform/qt/tab_view.h"
-#include "platform/qt/texts.h"
+#include "qt/grid_view.h"
+#include "qt/tab_view.h"
+#include "qt/texts.h"
 
 namespace mero::app {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "automation/user.h"
 #include "forms/calc/program.h"
-#include "platform/qt/widget_kit.h"
+#include "qt/widget_kit.h"
 
 namespace mero::app {
 

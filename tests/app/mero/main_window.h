@@ -18,7 +18,7 @@
 #include "automation/trace_desk.h"
 #include "forms/calc/layout/calc_window.h"
 #include "platform/locale_settings.h"
-#include "platform/qt/texts.h"
+#include "qt/texts.h"
 
 namespace mero::app {
 

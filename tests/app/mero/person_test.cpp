@@ -7,7 +7,7 @@
 #include <QTest>
 
 #include "app/mero/main_window.h"
-#include "platform/qt/grid_view.h"
+#include "qt/grid_view.h"
 
 namespace mero::app {
 namespace {

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 
 #include "app/mero/main_window.h"
-#include "platform/qt/picture_view.h"
+#include "qt/picture_view.h"
 
 namespace mero::app {
 namespace {

@@ -11,8 +11,8 @@
 #include "forms/calc/layout/documents_pages.h"
 #include "forms/calc/layout/inputs_page.h"
 #include "forms/dialogs/layout/dialog_windows.h"
-#include "platform/qt/look.h"
-#include "platform/qt/tab_view.h"
+#include "qt/look.h"
+#include "qt/tab_view.h"
 
 namespace mero::forms {
 namespace {

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "forms/calc/frm_calc.h"
-#include "platform/qt/document_view.h"
-#include "platform/qt/form_window.h"
-#include "platform/qt/widget_kit.h"
+#include "qt/document_view.h"
+#include "qt/form_window.h"
+#include "qt/widget_kit.h"
 
 namespace mero::forms {
 

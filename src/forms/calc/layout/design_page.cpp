@@ -9,11 +9,11 @@
 #include <QVBoxLayout>
 
 #include "forms/calc/layout/result_panels.h"
-#include "platform/qt/buttons.h"
-#include "platform/qt/drop_list_box.h"
-#include "platform/qt/look.h"
-#include "platform/qt/page_layout.h"
-#include "platform/qt/panels.h"
+#include "qt/buttons.h"
+#include "qt/drop_list_box.h"
+#include "qt/look.h"
+#include "qt/page_layout.h"
+#include "qt/panels.h"
 
 namespace mero::forms {
 namespace {

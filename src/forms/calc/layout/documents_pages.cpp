@@ -5,7 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "platform/qt/buttons.h"
+#include "qt/buttons.h"
 
 namespace mero::forms {
 

@@ -5,8 +5,8 @@
 #include <QWidget>
 
 #include "forms/calc/frm_calc_controls.h"
-#include "platform/qt/document_view.h"
-#include "platform/qt/widget_kit.h"
+#include "qt/document_view.h"
+#include "qt/widget_kit.h"
 
 namespace mero::forms {
 

@@ -7,11 +7,11 @@
 #include <QVBoxLayout>
 
 #include "forms/calc/layout/selection_guide.h"
-#include "platform/qt/buttons.h"
-#include "platform/qt/field_grid.h"
-#include "platform/qt/look.h"
-#include "platform/qt/page_layout.h"
-#include "platform/qt/panels.h"
+#include "qt/buttons.h"
+#include "qt/field_grid.h"
+#include "qt/look.h"
+#include "qt/page_layout.h"
+#include "qt/panels.h"
 
 namespace mero::forms {
 namespace {

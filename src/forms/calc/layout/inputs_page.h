@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "forms/calc/frm_calc_controls.h"
-#include "platform/qt/widget_kit.h"
+#include "qt/widget_kit.h"
 
 namespace mero::forms {
 

@@ -9,9 +9,9 @@
 
 #include "forms/calc/pictures.h"
 #include "picture/arrange.h"
-#include "platform/qt/look.h"
-#include "platform/qt/picture_view.h"
-#include "platform/qt/widget_kit.h"
+#include "qt/look.h"
+#include "qt/picture_view.h"
+#include "qt/widget_kit.h"
 
 namespace mero::forms {
 namespace {

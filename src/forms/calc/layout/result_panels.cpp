@@ -6,10 +6,10 @@
 #include <QVBoxLayout>
 
 #include "forms/calc/layout/picture_pane.h"
-#include "platform/qt/buttons.h"
-#include "platform/qt/look.h"
-#include "platform/qt/page_layout.h"
-#include "platform/qt/panels.h"
+#include "qt/buttons.h"
+#include "qt/look.h"
+#include "qt/page_layout.h"
+#include "qt/panels.h"
 
 namespace mero::forms {
 namespace {

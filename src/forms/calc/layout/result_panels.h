@@ -5,8 +5,8 @@
 #include <QWidget>
 
 #include "forms/calc/frm_calc.h"
-#include "platform/qt/field_grid.h"
-#include "platform/qt/widget_kit.h"
+#include "qt/field_grid.h"
+#include "qt/widget_kit.h"
 
 namespace mero::forms {
 

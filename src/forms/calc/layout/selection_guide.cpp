@@ -9,8 +9,8 @@
 #include <cmath>
 #include <utility>
 
-#include "platform/qt/look.h"
-#include "platform/qt/spoken.h"
+#include "qt/look.h"
+#include "qt/spoken.h"
 
 namespace mero::forms {
 namespace {

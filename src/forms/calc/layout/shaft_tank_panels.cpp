@@ -3,11 +3,11 @@
 #include <QHBoxLayout>
 
 #include "forms/calc/layout/result_panels.h"
-#include "platform/qt/buttons.h"
-#include "platform/qt/drop_list_box.h"
-#include "platform/qt/field_keys.h"
-#include "platform/qt/look.h"
-#include "platform/qt/page_layout.h"
+#include "qt/buttons.h"
+#include "qt/drop_list_box.h"
+#include "qt/field_keys.h"
+#include "qt/look.h"
+#include "qt/page_layout.h"
 
 namespace mero::forms {
 namespace {

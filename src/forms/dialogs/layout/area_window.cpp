@@ -5,10 +5,10 @@
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
-#include "platform/qt/buttons.h"
-#include "platform/qt/cell_editor_box.h"
-#include "platform/qt/look.h"
-#include "platform/qt/text_fields.h"
+#include "qt/buttons.h"
+#include "qt/cell_editor_box.h"
+#include "qt/look.h"
+#include "qt/text_fields.h"
 
 namespace mero::forms {
 namespace {

@@ -5,7 +5,7 @@
 #include "forms/dialogs/frm_coef_dialog.h"
 #include "forms/dialogs/frm_dialog.h"
 #include "forms/dialogs/frm_int_dialog.h"
-#include "platform/qt/form_window.h"
+#include "qt/form_window.h"
 
 namespace mero::forms {
 

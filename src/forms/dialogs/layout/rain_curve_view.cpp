@@ -7,8 +7,8 @@
 
 #include "picture/arrange.h"
 #include "picture/rain_curve.h"
-#include "platform/qt/picture_view.h"
-#include "platform/qt/widget_kit.h"
+#include "qt/picture_view.h"
+#include "qt/widget_kit.h"
 
 namespace mero::forms {
 namespace {

@@ -6,12 +6,12 @@
 
 #include "forms/dialogs/layout/dialog_windows.h"
 #include "forms/dialogs/layout/rain_curve_view.h"
-#include "platform/qt/buttons.h"
-#include "platform/qt/cell_editor_box.h"
-#include "platform/qt/drop_list_box.h"
-#include "platform/qt/field_grid.h"
-#include "platform/qt/look.h"
-#include "platform/qt/text_fields.h"
+#include "qt/buttons.h"
+#include "qt/cell_editor_box.h"
+#include "qt/drop_list_box.h"
+#include "qt/field_grid.h"
+#include "qt/look.h"
+#include "qt/text_fields.h"
 
 namespace mero::forms {
 namespace {

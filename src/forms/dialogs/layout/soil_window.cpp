@@ -4,8 +4,8 @@
 #include <QVBoxLayout>
 
 #include "forms/dialogs/layout/dialog_windows.h"
-#include "platform/qt/buttons.h"
-#include "platform/qt/grid_view.h"
+#include "qt/buttons.h"
+#include "qt/grid_view.h"
 
 namespace mero::forms {
 namespace {

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+/// Placing of the cell editor.
+/// The control says when it is shown; where the cell then is only the view knows.
+#include "qt/cell_editor_box.h"
+
+#include "qt/text_fields.h"
+
+namespace mero::qt {
+namespace {
+
+using platform::Aspect;
+
+/// The editor's edges lie this far inside the cell [twips, 1/1440 inch].
+constexpr int kInsetTwips = 50;
+constexpr int kTwipsPerInch = 1440;
+/// The grid draws its lines on a cell's right and lower edge.
+constexpr int kLine = 1;
+
+}  // namespace
+
+QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view,
+                          const platform::Grid& grid) {
+    QLineEdit& line = makeLineEdit(kit, box, *view.viewport());
+    // The cell is low: a frame and wide margins would leave no room for the text.
+    line.setFrame(false);
+    view.setEditor(line);
+    line.setAutoFillBackground(true);
+    const auto place = [&line, &view, &grid] {
+        const QRect cell = view.cellRect(grid.current());
+        const int inset = qMax(1, kInsetTwips * view.logicalDpiX() / kTwipsPerInch);
+        line.setGeometry(cell.left() + inset, cell.top() + inset, qMax(1, cell.width() - inset - kLine),
+                         qMax(1, cell.height() - inset - kLine));
+    };
+    view.cells_moved = [&line, place] {
+        if (line.isVisible()) {
+            place();
+        }
+    };
+    follow(box, line, [&box, &line, &view, &grid, place](Aspect aspect) {
+        if (aspect == Aspect::Visible && box.visible()) {
+            view.reveal(grid.current());
+            line.setAccessibleName(view.spokenPlace(grid.current()));
+            place();
+            showInScrollAreas(line);
+            line.selectAll();
+            line.raise();
+        }
+    });
+    return line;
+}
+
+}  // namespace mero::qt

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+/// Laying out and painting of pages.
+/// Lengths of a page are pixels of 1/96 inch there and everywhere scaled to the device.
+#include "qt/document_pages.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPageRanges>
+#include <QPainter>
+#include <algorithm>
+#include <vector>
+
+#include "qt/page_breaks.h"
+
+namespace mero::qt {
+namespace {
+
+constexpr qreal kMarginMm = 15;
+constexpr qreal kPixelsPerInch = 96;
+/// A report is 650 px wide.
+constexpr qreal kLeastWidthPx = 660;
+constexpr qreal kFootHeightPx = 30;
+constexpr qreal kFootPoints = 8;
+
+/// One page's room for the document, in device pixels, and how much smaller than in its own size it is drawn.
+struct PageRoom {
+    QSizeF paper;
+    qreal foot_height = 0;
+    qreal scale = 1;
+
+    [[nodiscard]] QSizeF forDocument() const {
+        return QSizeF(paper.width(), paper.height() - foot_height) / scale;
+    }
+};
+
+PageRoom roomOn(const QPagedPaintDevice& device) {
+    const qreal pixel = device.logicalDpiX() / kPixelsPerInch;
+    const QSizeF paper = device.pageLayout().paintRectPixels(device.logicalDpiX()).size();
+    return {paper, kFootHeightPx * pixel, std::min(1.0, paper.width() / (kLeastWidthPx * pixel))};
+}
+
+/// Paints what stands between two heights of the document.
+void paintContent(QPainter& painter, const LocalDocument& document, const PageRoom& room, qreal top,
+                  qreal bottom) {
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, Qt::black);
+    context.clip = QRectF(0, top, room.forDocument().width(), bottom - top);
+    painter.save();
+    painter.scale(room.scale, room.scale);
+    painter.translate(0, -top);
+    painter.setClipRect(context.clip);
+    document.documentLayout()->draw(&painter, context);
+    painter.restore();
+}
+
+void paintFoot(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& text) {
+    QFont font = document.defaultFont();
+    font.setPointSizeF(kFootPoints);
+    painter.setFont(QFont(font, painter.device()));
+    painter.setPen(Qt::black);
+    const QRectF foot(0, room.paper.height() - room.foot_height, room.paper.width(), room.foot_height);
+    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom, text);
+}
+
+}  // namespace
+
+QPageLayout paperLayout() {
+    return {QPageSize(QPageSize::A4), QPageLayout::Portrait,
+            QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter};
+}
+
+int paintPages(LocalDocument& document, QPagedPaintDevice& device) {
+    const PageRoom room = roomOn(device);
+    document.documentLayout()->setPaintDevice(&device);
+    document.setDocumentMargin(0);
+    document.setTextWidth(room.forDocument().width());
+    const std::vector<qreal> breaks = pageBreaks(document, room.forDocument().height());
+    const int pages = static_cast<int>(breaks.size()) - 1;
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        return pages;
+    }
+    const QPageRanges wanted = device.pageRanges();
+    bool first = true;
+    for (int page = 1; page <= pages; ++page) {
+        if (!wanted.isEmpty() && !wanted.contains(page)) {
+            continue;
+        }
+        if (!first) {
+            device.newPage();
+        }
+        first = false;
+        const auto at = static_cast<std::size_t>(page);
+        paintContent(painter, document, room, breaks[at - 1], breaks[at]);
+        paintFoot(painter, document, room, QStringLiteral("%1 / %2").arg(page).arg(pages));
+    }
+    return pages;
+}
+
+}  // namespace mero::qt

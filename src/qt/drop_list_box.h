@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+/// A drop-down list as a widget.
+#pragma once
+
+#include <QComboBox>
+
+#include "platform/controls/drop_list.h"
+#include "qt/widget_kit.h"
+
+namespace mero::qt {
+
+/// Picking an entry runs the handler, also the entry that is selected already. The mouse wheel scrolls the
+/// page; it turns over the entries only while the list has the focus.
+QComboBox& makeDropList(WidgetKit& kit, platform::DropList& list, QWidget& parent);
+
+}  // namespace mero::qt

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+/// Setting out of fields.
+/// Long captions are broken into lines instead of being cut or pushing the fields away.
+#include "qt/field_grid.h"
+
+#include <QRadioButton>
+
+#include "qt/look.h"
+
+namespace mero::qt {
+namespace {
+
+enum Column { kCaption, kField, kUnit, kBeside, kRest };
+
+constexpr int kNumberCharacters = 14;
+constexpr int kLongestCaptionLine = 36;
+constexpr int kLeastAreaLines = 3;
+constexpr int kMostAreaLines = 14;
+/// A text area takes the room that there is before the empty end of the grid does.
+constexpr int kAreaStretch = 1000;
+
+/// The text in lines of about the same length, none longer than a caption may be unless a word is.
+QString broken(const QString& text) {
+    if (text.length() <= kLongestCaptionLine) {
+        return text;
+    }
+    const auto lines = text.length() / kLongestCaptionLine + 1;
+    const auto line_length = text.length() / lines;
+    QString result;
+    qsizetype length = 0;
+    for (const QString& word : text.split(QLatin1Char(' '))) {
+        if (length > 0 && length + word.length() / 2 > line_length) {
+            result += QLatin1Char('\n');
+            length = 0;
+        } else if (length > 0) {
+            result += QLatin1Char(' ');
+        }
+        result += word;
+        length += word.length() + 1;
+    }
+    return result;
+}
+
+/// Widens a field for a text that its usual width would cut: a number without its first digits is another
+/// number.
+void growWithText(QLineEdit& line) {
+    const auto fit = [&line, usual = line.width()] {
+        const int needed = line.fontMetrics().horizontalAdvance(line.text()) + 2 * gap(line);
+        line.setFixedWidth(qMax(usual, needed));
+    };
+    fit();
+    QObject::connect(&line, &QLineEdit::textChanged, &line, fit);
+}
+
+}  // namespace
+
+FieldGrid::FieldGrid(WidgetKit& kit, QWidget& parent)
+    : kit_(&kit), parent_(&parent), grid_(new QGridLayout(&parent)) {
+    grid_->setColumnStretch(kRest, 1);
+    grid_->setHorizontalSpacing(gap(parent));
+    grid_->setVerticalSpacing(gap(parent) / 2 + 1);
+}
+
+QLabel& FieldGrid::caption(const QString& text) {
+    auto& label = *new QLabel(broken(text), parent_);
+    label.setTextFormat(Qt::PlainText);
+    grid_->addWidget(&label, row_, kCaption, Qt::AlignLeft | Qt::AlignVCenter);
+    return label;
+}
+
+QLineEdit& FieldGrid::field(platform::TextBox& box, const QString& text, const QString& unit) {
+    QLabel& label = caption(text);
+    QLineEdit& line = makeLineEdit(*kit_, box, *parent_);
+    line.setFixedWidth(textWidth(line, kNumberCharacters));
+    label.setBuddy(&line);
+    describe(line, text, unit);
+    grid_->addWidget(&line, row_, kField);
+    if (!unit.isEmpty()) {
+        auto* unit_label = new QLabel(unit, parent_);
+        unit_label->setTextFormat(Qt::PlainText);
+        grid_->addWidget(unit_label, row_, kUnit);
+    }
+    ++row_;
+    return line;
+}
+
+QLineEdit& FieldGrid::input(platform::TextBox& box, const QString& text, const QString& unit) {
+    return field(box, text, unit);
+}
+
+QLineEdit& FieldGrid::result(platform::TextBox& box, const QString& text, const QString& unit) {
+    QLineEdit& line = field(box, text, unit);
+    showAsResult(line);
+    growWithText(line);
+    return line;
+}
+
+QLineEdit& FieldGrid::text(platform::TextBox& box, const QString& text) {
+    QLabel& label = caption(text);
+    QLineEdit& line = makeLineEdit(*kit_, box, *parent_);
+    label.setBuddy(&line);
+    describe(line, text);
+    grid_->addWidget(&line, row_, kField, 1, kRest - kField + 1);
+    ++row_;
+    return line;
+}
+
+QPlainTextEdit& FieldGrid::area(platform::TextBox& box, const QString& text) {
+    QLabel& label = caption(text);
+    QPlainTextEdit& edit = makeTextArea(*kit_, box, *parent_);
+    label.setBuddy(&edit);
+    describe(edit, text);
+    const int line = edit.fontMetrics().lineSpacing();
+    edit.setMinimumHeight(line * kLeastAreaLines + 2 * gap(edit));
+    edit.setMaximumHeight(line * kMostAreaLines + 2 * gap(edit));
+    grid_->setAlignment(&label, Qt::AlignLeft | Qt::AlignTop);
+    grid_->addWidget(&edit, row_, kField, 1, kRest - kField + 1);
+    grid_->setRowStretch(row_, kAreaStretch);
+    ++row_;
+    return edit;
+}
+
+void FieldGrid::widget(const QString& text, QWidget& widget) {
+    caption(text).setBuddy(&widget);
+    if (widget.accessibleName().isEmpty()) {
+        describe(widget, text);
+    }
+    // An option alone does not say what it is an option of.
+    for (auto* option : widget.findChildren<QRadioButton*>()) {
+        option->setAccessibleDescription(widget.accessibleName());
+    }
+    grid_->addWidget(&widget, row_, kField, 1, kRest - kField + 1, Qt::AlignLeft | Qt::AlignVCenter);
+    ++row_;
+}
+
+void FieldGrid::pair(const QString& text, QWidget& first, QWidget& second) {
+    // Both stay children of the grid's parent: assistive technology looks for the caption among siblings.
+    caption(text).setBuddy(&first);
+    describe(first, text);
+    auto* row = new QHBoxLayout;
+    row->addWidget(&first);
+    row->addWidget(&second);
+    row->addStretch(1);
+    grid_->addLayout(row, row_, kField, 1, kRest - kField + 1);
+    ++row_;
+}
+
+void FieldGrid::beside(QWidget& widget) {
+    grid_->addWidget(&widget, row_ - 1, kBeside);
+}
+
+void FieldGrid::besideField(QWidget& widget) {
+    grid_->addWidget(&widget, row_ - 1, kUnit, Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void FieldGrid::line(QWidget& widget) {
+    grid_->addWidget(&widget, row_, kCaption, 1, kRest + 1, Qt::AlignLeft | Qt::AlignVCenter);
+    ++row_;
+}
+
+void FieldGrid::wide(QWidget& widget) {
+    grid_->addWidget(&widget, row_, kCaption, 1, kRest + 1);
+    ++row_;
+}
+
+void FieldGrid::space() {
+    grid_->setRowMinimumHeight(row_, gap(*parent_));
+    ++row_;
+}
+
+void FieldGrid::end() {
+    grid_->setRowStretch(row_, 1);
+}
+
+}  // namespace mero::qt

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+/// Fields in columns: caption, field, unit, and what stands beside it.
+/// All groups of a window are set out by it, so that they look alike.
+#pragma once
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include "qt/text_fields.h"
+#include "qt/widget_kit.h"
+
+namespace mero::qt {
+
+class FieldGrid {
+  public:
+    /// Gives `parent` its layout.
+    FieldGrid(WidgetKit& kit, QWidget& parent);
+
+    /// A field for a number.
+    QLineEdit& input(platform::TextBox& box, const QString& caption, const QString& unit = {});
+    /// A field that only the program fills.
+    QLineEdit& result(platform::TextBox& box, const QString& caption, const QString& unit = {});
+    /// A field for a text, as wide as there is room.
+    QLineEdit& text(platform::TextBox& box, const QString& caption);
+    /// Several lines of text.
+    QPlainTextEdit& area(platform::TextBox& box, const QString& caption);
+    /// Any other widget with a caption.
+    void widget(const QString& caption, QWidget& widget);
+    /// Two widgets in one row; the caption is the first one's.
+    void pair(const QString& caption, QWidget& first, QWidget& second);
+    /// A widget on the right of the last row.
+    void beside(QWidget& widget);
+    /// A widget in place of the last row's unit.
+    void besideField(QWidget& widget);
+    /// A widget as wide as its contents, over all columns.
+    void line(QWidget& widget);
+    /// A widget over all columns.
+    void wide(QWidget& widget);
+    /// A little distance before the next row.
+    void space();
+    /// Keeps the rows together at the top.
+    void end();
+
+    [[nodiscard]] QWidget& parent() const { return *parent_; }
+
+  private:
+    QLabel& caption(const QString& text);
+    QLineEdit& field(platform::TextBox& box, const QString& caption, const QString& unit);
+
+    WidgetKit* kit_;
+    QWidget* parent_;
+    QGridLayout* grid_;
+    int row_ = 0;
+};
+
+}  // namespace mero::qt

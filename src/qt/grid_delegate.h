@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+/// Draws the cells of a grid: wrapped texts, the marked and the unmarked picture, the picked row's tint.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+#include "qt/grid_model.h"
+
+namespace mero::qt {
+
+class GridDelegate : public QStyledItemDelegate {
+  public:
+    GridDelegate(const GridModel& model, QObject* parent);
+
+    /// Height that the text of a cell needs in a column of that width.
+    [[nodiscard]] static int textHeight(const QString& text, int column_width, const QFont& font);
+    /// Blank space around a text.
+    [[nodiscard]] static int padding(const QFontMetrics& metrics) { return metrics.height() / 4; }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+
+  private:
+    void paintPicture(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+
+    const GridModel* model_;
+};
+
+}  // namespace mero::qt

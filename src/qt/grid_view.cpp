@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: MIT
+/// The grid's table widget.
+/// Handlers fill a grid cell by cell; the view follows once, after the event, or when somebody asks for it.
+#include "qt/grid_view.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "qt/focus_ring.h"
+#include "qt/grid_delegate.h"
+#include "qt/look.h"
+
+namespace mero::qt {
+namespace {
+
+using platform::Aspect;
+using platform::GridCell;
+
+}  // namespace
+
+GridView::GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent)
+    : QTableView(&parent), kit_(&kit), grid_(&grid), model_(grid, choice_column, nullptr), room_(room) {
+    setModel(&model_);
+    setItemDelegate(new GridDelegate(model_, this));
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTabKeyNavigation(false);
+    setFocusPolicy(Qt::StrongFocus);
+    showsFocusItself(*this);
+    setMouseTracking(true);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setMinimumSectionSize(1);
+    bindCommon(kit, grid, *this);
+    follow(grid, *this, [this](Aspect aspect) {
+        if (aspect == Aspect::Cells || aspect == Aspect::CurrentCell) {
+            refreshLater();
+        }
+    });
+}
+
+void GridView::refreshLater() {
+    if (!std::exchange(stale_, true)) {
+        later(*this, [this] { refresh(); });
+    }
+}
+
+void GridView::refresh() {
+    if (!std::exchange(stale_, false)) {
+        return;
+    }
+    model_.refresh();
+    layOut();
+    const GridCell current = grid_->current();
+    if (grid_->hasDataCell(current)) {
+        setCurrentIndex(model_.index(current.row - 1, current.column));
+    }
+}
+
+void GridView::layOut() {
+    if (std::exchange(laying_out_, true)) {
+        return;
+    }
+    layOutColumns();
+    layOutRows();
+    laying_out_ = false;
+    if (cells_moved) {
+        cells_moved();
+    }
+}
+
+int GridView::headingWidth(int column) const {
+    const QString heading = model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    return horizontalHeader()->fontMetrics().horizontalAdvance(heading) + 2 * gap(*this);
+}
+
+void GridView::layOutColumns() {
+    const int columns = model_.columnCount();
+    const int available = viewport()->width();
+    std::vector<int> widths;
+    int excess = -available;
+    for (int column = 0; column < columns; ++column) {
+        const double fraction = grid_->columns()[static_cast<std::size_t>(column)].width_fraction;
+        widths.push_back(qMax(qRound(fraction * available), headingWidth(column)));
+        excess += widths.back();
+    }
+    // Headings are never cut: what a narrow column needs more comes from the widest one.
+    for (; excess > 0 && columns > 0; --excess) {
+        auto widest = std::max_element(widths.begin(), widths.end());
+        if (*widest <= headingWidth(static_cast<int>(widest - widths.begin()))) {
+            break;
+        }
+        --*widest;
+    }
+    if (excess < 0 && columns > 0) {
+        widths.back() -= excess;
+    }
+    for (int column = 0; column < columns; ++column) {
+        setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    }
+}
+
+void GridView::layOutRows() {
+    clearSpans();
+    const int rows = model_.rowCount();
+    const int columns = model_.columnCount();
+    const auto text_height = [this](int row, int column) {
+        const QString text = model_.index(row, column).data(Qt::DisplayRole).toString();
+        return GridDelegate::textHeight(text, columnWidth(column), font());
+    };
+    for (int row = 0; row < rows; ++row) {
+        int height = 0;
+        for (int column = 0; column < columns; ++column) {
+            if (!grid_->columns()[static_cast<std::size_t>(column)].merges_equal_neighbours) {
+                height = qMax(height, text_height(row, column));
+            }
+        }
+        setRowHeight(row, height);
+    }
+    for (int column = 0; column < columns; ++column) {
+        if (!grid_->columns()[static_cast<std::size_t>(column)].merges_equal_neighbours) {
+            continue;
+        }
+        for (int first = 0, end = 0; first < rows; first = end) {
+            const auto text = [&](int row) { return model_.index(row, column).data(Qt::DisplayRole); };
+            int height = 0;
+            for (end = first; end < rows && text(end) == text(first); ++end) {
+                height += rowHeight(end);
+            }
+            const int missing = text_height(first, column) - height;
+            if (missing > 0) {
+                setRowHeight(end - 1, rowHeight(end - 1) + missing);
+            }
+            if (end - first > 1) {
+                setSpan(first, column, end - first, 1);
+            }
+        }
+    }
+}
+
+QRect GridView::cellRect(GridCell cell) const {
+    const int row = cell.row - 1;
+    return {columnViewportPosition(cell.column), rowViewportPosition(row), columnWidth(cell.column),
+            rowHeight(row)};
+}
+
+QString GridView::spokenPlace(GridCell cell) const {
+    return model_.index(cell.row - 1, cell.column).data(Qt::AccessibleDescriptionRole).toString();
+}
+
+void GridView::reveal(GridCell cell) {
+    refresh();
+    scrollTo(model_.index(cell.row - 1, cell.column));
+    // A merged cell counts as shown when any of it is; the row itself is wanted.
+    const QRect rect = cellRect(cell);
+    if (rect.top() < 0) {
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + rect.top());
+    } else if (rect.bottom() > viewport()->height()) {
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + rect.bottom() - viewport()->height());
+    }
+}
+
+QSize GridView::sizeHint() const {
+    const QSize room = {textWidth(*this, room_.characters), GridDelegate::textHeight({}, width(), font())};
+    return {room.width(), horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
+                              room.height() * qMin(room_.rows, model_.rowCount())};
+}
+
+std::optional<GridCell> GridView::cellAt(QPoint position) const {
+    const int row = rowAt(position.y());
+    const int column = columnAt(position.x());
+    if (row < 0 || column < 0) {
+        return std::nullopt;
+    }
+    return GridCell{row + 1, column};
+}
+
+void GridView::click(GridCell cell) {
+    if (grid_->hasDataCell(cell)) {
+        kit_->enter([this, cell] { grid_->userClick(cell); });
+    }
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+    refresh();
+    pressed_ = event->button() == Qt::LeftButton ? cellAt(event->position().toPoint()) : std::nullopt;
+    QTableView::mousePressEvent(event);
+}
+
+void GridView::mouseMoveEvent(QMouseEvent* event) {
+    const auto cell = cellAt(event->position().toPoint());
+    const bool picks = cell && cell->column == model_.choiceColumn();
+    viewport()->setCursor(picks ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    QTableView::mouseMoveEvent(event);
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    const auto pressed = std::exchange(pressed_, std::nullopt);
+    if (pressed && pressed == cellAt(event->position().toPoint())) {
+        click(*pressed);
+    }
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    refresh();
+    const int key = event->key();
+    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2) {
+        if (currentIndex().isValid()) {
+            click(GridModel::cellOf(currentIndex()));
+        }
+        return;
+    }
+    if (!typeIntoCell(*event)) {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+bool GridView::typeIntoCell(QKeyEvent& event) {
+    const bool types = !event.text().isEmpty() && event.text().front().isPrint() &&
+                       (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    if (editor_.isNull() || !types || !currentIndex().isValid() ||
+        currentIndex().column() == model_.choiceColumn()) {
+        return false;
+    }
+    click(GridModel::cellOf(currentIndex()));
+    // The editor opens with its whole text selected: the first key replaces it, as any typing there would.
+    if (!editor_.isNull() && editor_->isVisible()) {
+        QApplication::sendEvent(editor_, &event);
+    }
+    return true;
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+    refresh();
+    if (!currentIndex().isValid() && model_.rowCount() > 0) {
+        setCurrentIndex(model_.index(0, 0));
+    }
+    QTableView::focusInEvent(event);
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    layOut();
+}
+
+void GridView::showEvent(QShowEvent* event) {
+    refresh();
+    layOut();
+    QTableView::showEvent(event);
+}
+
+void GridView::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        layOut();
+    }
+}
+
+void GridView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    if (cells_moved) {
+        cells_moved();
+    }
+}
+
+GridView& makeGrid(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent) {
+    return *new GridView(kit, grid, choice_column, room, parent);
+}
+
+}  // namespace mero::qt

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+/// A grid as a table widget: header row, column widths as fractions, merged neighbours, pictures.
+#pragma once
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QTableView>
+#include <optional>
+
+#include "platform/controls/grid.h"
+#include "qt/grid_model.h"
+#include "qt/widget_kit.h"
+
+namespace mero::qt {
+
+/// The room that a grid asks for; its window may give it more or less.
+struct GridRoom {
+    int characters;  ///< width in average characters
+    int rows;        ///< data rows that are seen without scrolling
+};
+
+class GridView : public QTableView {
+  public:
+    /// @param choice_column column of the pictures, where a click picks the row
+    /// @param room          what the grid asks for
+    GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent);
+
+    /// Brings the view in step with the grid at once instead of after the running event.
+    void refresh();
+    /// Where a cell of the data rows is drawn, in coordinates of the viewport.
+    [[nodiscard]] QRect cellRect(platform::GridCell cell) const;
+    /// Heading and row of a cell in words.
+    [[nodiscard]] QString spokenPlace(platform::GridCell cell) const;
+    /// Scrolls until the cell is to be seen.
+    void reveal(platform::GridCell cell);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+    /// Typing over a cell of a column that can be edited clicks it and types into this editor.
+    void setEditor(QLineEdit& editor) { editor_ = &editor; }
+
+    /// Called when cells have moved: scrolled, resized, refreshed.
+    std::function<void()> cells_moved;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+  private:
+    [[nodiscard]] std::optional<platform::GridCell> cellAt(QPoint position) const;
+    void click(platform::GridCell cell);
+    /// Opens the editor of the current cell with the key that was typed.
+    bool typeIntoCell(QKeyEvent& event);
+    void refreshLater();
+    void layOut();
+    void layOutColumns();
+    void layOutRows();
+    [[nodiscard]] int headingWidth(int column) const;
+
+    WidgetKit* kit_;
+    platform::Grid* grid_;
+    GridModel model_;
+    GridRoom room_;
+    bool stale_ = true;  ///< behind the grid until it is first shown
+    bool laying_out_ = false;
+    std::optional<platform::GridCell> pressed_;
+    QPointer<QLineEdit> editor_;
+};
+
+/// Builds the view of a grid and binds it.
+GridView& makeGrid(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent);
+
+}  // namespace mero::qt

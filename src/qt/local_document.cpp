@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+/// Loading of local documents.
+/// The report and the description pages join folders by backslashes and declare no character set.
+#include "qt/local_document.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QFont>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QUrl>
+#include <QVariant>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "qt/texts.h"
+
+namespace mero::qt {
+namespace {
+
+/// No report and no description page comes near; a file that somebody put there by mistake may.
+constexpr qint64 kLargestFile = 32LL << 20;
+/// A character set is declared in the head of a page.
+constexpr qsizetype kHeadBytes = 2048;
+
+bool declaresUtf8(const QByteArray& bytes) {
+    if (bytes.startsWith("\xEF\xBB\xBF")) {
+        return true;
+    }
+    const QByteArray head = bytes.left(kHeadBytes).toLower();
+    const qsizetype at = head.indexOf("charset=");
+    if (at < 0) {
+        return false;
+    }
+    QByteArray name = head.mid(at + 8).trimmed();
+    if (name.startsWith('"') || name.startsWith('\'')) {
+        name.remove(0, 1);
+    }
+    return name.startsWith("utf-8");
+}
+
+/// The margin that browsers give a page without one.
+constexpr qreal kBrowserMargin = 8;
+
+/// The same family wherever the document is shown, so that lines break alike.
+QFont standardFont() {
+    constexpr qreal kPoints = 12;
+    QFont font(QStringList{QStringLiteral("DejaVu Sans"), QStringLiteral("Arial")});
+    font.setStyleHint(QFont::SansSerif);
+    font.setPointSizeF(kPoints);
+    // Letters that stand apart by next to nothing form no ligatures: a word copied out of a PDF file is
+    // found.
+    constexpr qreal kNextToNothing = 1.0 / 64;
+    font.setLetterSpacing(QFont::AbsoluteSpacing, kNextToNothing);
+    return font;
+}
+
+/// Headings come with a relative size, which would win over the size that the page gives them.
+void keepGivenSizes(QTextDocument& document) {
+    struct Piece {
+        int begin;
+        int end;
+        QTextCharFormat format;
+    };
+    std::vector<Piece> pieces;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            QTextCharFormat format = fragment.charFormat();
+            if (format.hasProperty(QTextFormat::FontPointSize) &&
+                format.hasProperty(QTextFormat::FontSizeAdjustment)) {
+                format.clearProperty(QTextFormat::FontSizeAdjustment);
+                pieces.push_back({fragment.position(), fragment.position() + fragment.length(), format});
+            }
+        }
+    }
+    QTextCursor cursor(&document);
+    for (const Piece& piece : pieces) {
+        cursor.setPosition(piece.begin);
+        cursor.setPosition(piece.end, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(piece.format);
+    }
+}
+
+QString errorPage(const QString& path) {
+    return QStringLiteral(
+               "<html><body><h3>Stránku nelze zobrazit</h3>"
+               "<p>Soubor <b>%1</b> neexistuje nebo jej nelze přečíst.</p></body></html>")
+        .arg(path.toHtmlEscaped());
+}
+
+}  // namespace
+
+LocalDocument::LocalDocument(Decoder decode, QObject* parent)
+    : QTextDocument(parent), decode_(std::move(decode)) {
+    setUndoRedoEnabled(false);
+    setDefaultFont(standardFont());
+    setDocumentMargin(kBrowserMargin);
+}
+
+bool LocalDocument::load(const QString& path) {
+    path_ = path;
+    clear();
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || file.size() > kLargestFile || !file.open(QIODevice::ReadOnly)) {
+        setHtml(errorPage(path));
+        return false;
+    }
+    const QByteArray bytes = file.readAll();
+    if (declaresUtf8(bytes)) {
+        setHtml(QString::fromUtf8(bytes));
+    } else {
+        setHtml(shown(decode_({bytes.constData(), static_cast<std::size_t>(bytes.size())})));
+    }
+    keepGivenSizes(*this);
+    return true;
+}
+
+QString LocalDocument::resolve(const QUrl& reference) const {
+    if (!reference.scheme().isEmpty() && !reference.isLocalFile()) {
+        return {};
+    }
+    QUrl bare = reference;
+    bare.setFragment(QString());
+    QString path = bare.isLocalFile() ? bare.toLocalFile() : QUrl::fromPercentEncoding(bare.toEncoded());
+    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    if (path.isEmpty() || path.startsWith(QLatin1String("//"))) {
+        return {};
+    }
+    return QFileInfo(path).isAbsolute() ? path : QFileInfo(path_).absolutePath() + QLatin1Char('/') + path;
+}
+
+QVariant LocalDocument::loadResource(int type, const QUrl& name) {
+    if (name.scheme() == QLatin1String("data")) {
+        return QTextDocument::loadResource(type, name);
+    }
+    const QString path = resolve(name);
+    QFile file(path);
+    if (type != QTextDocument::ImageResource || path.isEmpty() || !QFileInfo(path).isFile() ||
+        file.size() > kLargestFile || !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return file.readAll();
+}
+
+}  // namespace mero::qt

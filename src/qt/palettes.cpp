@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+/// The colours of the two palettes.
+/// Texts stand out from their grounds by 4.5 : 1 at least, also where something is disabled.
+#include "qt/palettes.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+namespace mero::qt {
+namespace {
+
+struct Colours {
+    QRgb window;
+    QRgb base;
+    QRgb alternate_base;
+    QRgb button;
+    QRgb text;
+    QRgb disabled_text;
+    QRgb highlight;
+    QRgb disabled_highlight;
+    QRgb link;
+    QRgb visited_link;
+    QRgb tip;
+    // The edges of what is raised, from the brightest to the darkest.
+    QRgb light;
+    QRgb mid_light;
+    QRgb mid;
+    QRgb dark;
+    QRgb shadow;
+};
+
+constexpr Colours kLight{.window = 0xfff0f1f2,
+                         .base = 0xffffffff,
+                         .alternate_base = 0xfff6f7f8,
+                         .button = 0xffe6e8ea,
+                         .text = 0xff16191c,
+                         .disabled_text = 0xff63686d,
+                         .highlight = 0xff1f6cb0,
+                         .disabled_highlight = 0xff8d959c,
+                         .link = 0xff0b57a4,
+                         .visited_link = 0xff6b3fa0,
+                         .tip = 0xfffffbe6,
+                         .light = 0xffffffff,
+                         .mid_light = 0xfff8f9fa,
+                         .mid = 0xffb6bbc0,
+                         .dark = 0xff979da3,
+                         .shadow = 0xff6c7278};
+
+constexpr Colours kDark{.window = 0xff2e3134,
+                        .base = 0xff191b1d,
+                        .alternate_base = 0xff212427,
+                        .button = 0xff40444a,
+                        .text = 0xffe8eaec,
+                        .disabled_text = 0xffb4b9be,
+                        .highlight = 0xff3578b6,
+                        .disabled_highlight = 0xff565c62,
+                        .link = 0xff7db9ee,
+                        .visited_link = 0xffbfa2e6,
+                        .tip = 0xff45423a,
+                        .light = 0xff5e6369,
+                        .mid_light = 0xff50555a,
+                        .mid = 0xff222427,
+                        .dark = 0xff17181a,
+                        .shadow = 0xff0e0f10};
+
+QPalette paletteOf(const Colours& colours) {
+    QPalette palette;
+    const auto set = [&palette](QPalette::ColorRole role, QRgb colour) {
+        palette.setColor(role, QColor(colour));
+    };
+    set(QPalette::Window, colours.window);
+    set(QPalette::Base, colours.base);
+    set(QPalette::AlternateBase, colours.alternate_base);
+    set(QPalette::Button, colours.button);
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText}) {
+        set(role, colours.text);
+        palette.setColor(QPalette::Disabled, role, QColor(colours.disabled_text));
+    }
+    set(QPalette::PlaceholderText, colours.disabled_text);
+    set(QPalette::Highlight, colours.highlight);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colours.disabled_highlight));
+    set(QPalette::HighlightedText, 0xffffffff);
+    set(QPalette::Link, colours.link);
+    set(QPalette::LinkVisited, colours.visited_link);
+    set(QPalette::ToolTipBase, colours.tip);
+    set(QPalette::ToolTipText, colours.text);
+    set(QPalette::Light, colours.light);
+    set(QPalette::Midlight, colours.mid_light);
+    set(QPalette::Mid, colours.mid);
+    set(QPalette::Dark, colours.dark);
+    set(QPalette::Shadow, colours.shadow);
+    return palette;
+}
+
+}  // namespace
+
+QPalette lightPalette() {
+    return paletteOf(kLight);
+}
+
+QPalette darkPalette() {
+    return paletteOf(kDark);
+}
+
+void usePalette(const QPalette& palette) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(palette);
+}
+
+}  // namespace mero::qt

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+/// Pictures as widgets: a sheet of paper in the colours of a text field.
+#include "qt/picture_view.h"
+
+#include <QPainter>
+#include <utility>
+
+#include "qt/look.h"
+#include "qt/picture_painter.h"
+#include "qt/texts.h"
+
+namespace mero::qt {
+
+PictureView::PictureView(QWidget& parent, const QString& name, Source source)
+    : QWidget(&parent), source_(std::move(source)) {
+    setAccessibleName(name);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void PictureView::setRoom(QSize liked, QSize least) {
+    liked_ = liked;
+    least_ = least;
+    updateGeometry();
+}
+
+QSize PictureView::inPixels(const QSize& room) const {
+    return {textWidth(*this, room.width()), fontMetrics().height() * room.height()};
+}
+
+QSize PictureView::sizeHint() const {
+    return inPixels(liked_);
+}
+
+QSize PictureView::minimumSizeHint() const {
+    return inPixels(least_);
+}
+
+void PictureView::paintEvent(QPaintEvent* /*event*/) {
+    const picture::Drawing drawing =
+        source_({static_cast<double>(width()), static_cast<double>(height())}, textSizes(font()));
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Active, QPalette::Base));
+    paintDrawing(painter, drawing, palette(), font());
+    const QString summary = shown(drawing.summary);
+    if (accessibleDescription() != summary) {
+        setAccessibleDescription(summary);
+    }
+}
+
+}  // namespace mero::qt

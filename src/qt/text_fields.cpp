@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+/// Binding of text boxes.
+/// A handler may rewrite the text while it is being typed: the widget is brought in step after each event.
+#include "qt/text_fields.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+#include "qt/look.h"
+#include "qt/texts.h"
+
+namespace mero::qt {
+namespace {
+
+using platform::Aspect;
+using platform::Key;
+using platform::TextBox;
+
+/// Far above what anybody enters; the widget's own limit would cut a pasted text without a word.
+constexpr int kLongestText = 16'000'000;
+
+/// Gives Enter and Escape to the box's handler. What no handler wants, and Escape where it has closed no
+/// editor, goes on to the window.
+class KeyFilter : public QObject {
+  public:
+    KeyFilter(WidgetKit& kit, TextBox& box, QWidget& widget) : QObject(&widget), kit_(&kit), box_(&box) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress) {
+            const auto& key_event = dynamic_cast<QKeyEvent&>(*event);
+            const int key = key_event.key();
+            const bool plain = (key_event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+            if (plain && box_->key_pressed && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+                kit_->enter([this] { box_->userKey(Key::Enter); });
+                return true;
+            }
+            if (plain && box_->key_pressed && key == Qt::Key_Escape) {
+                kit_->enter([this] { box_->userKey(Key::Escape); });
+                return !box_->visible();
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+  private:
+    WidgetKit* kit_;
+    TextBox* box_;
+};
+
+void bindBox(WidgetKit& kit, TextBox& box, QWidget& widget) {
+    bindCommon(kit, box, widget);
+    bindFocus(
+        kit, widget, [&box] { box.userGotFocus(); }, [&box] { box.userLostFocus(); });
+    setGreyed(widget, box.greyed());
+    follow(box, widget, [&box, &widget](Aspect aspect) {
+        if (aspect == Aspect::Colour) {
+            setGreyed(widget, box.greyed());
+        }
+    });
+}
+
+void showText(QLineEdit& line, const TextBox& box) {
+    const QString text = shown(box.text());
+    if (line.text() != text) {
+        line.setText(text);
+    }
+}
+
+QString withPlainBreaks(const std::string& text) {
+    return shown(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+void showText(QPlainTextEdit& area, const TextBox& box) {
+    const QString text = withPlainBreaks(box.text());
+    if (area.toPlainText() != text) {
+        const QSignalBlocker silence(area);
+        area.setPlainText(text);
+    }
+}
+
+}  // namespace
+
+QLineEdit& makeLineEdit(WidgetKit& kit, TextBox& box, QWidget& parent) {
+    auto& line = *new QLineEdit(&parent);
+    line.setMaxLength(kLongestText);
+    line.setText(shown(box.text()));
+    bindBox(kit, box, line);
+    line.installEventFilter(new KeyFilter(kit, box, line));
+    follow(box, line, [&box, &line](Aspect aspect) {
+        if (aspect == Aspect::Text) {
+            showText(line, box);
+        }
+    });
+    QObject::connect(&line, &QLineEdit::textEdited, &line, [&kit, &box, &line](const QString& text) {
+        kit.enter([&box, &text] { box.userEdit(stored(text)); });
+        showText(line, box);
+    });
+    return line;
+}
+
+QPlainTextEdit& makeTextArea(WidgetKit& kit, TextBox& box, QWidget& parent) {
+    auto& area = *new QPlainTextEdit(withPlainBreaks(box.text()), &parent);
+    area.setTabChangesFocus(true);
+    area.setFocusPolicy(Qt::StrongFocus);
+    bindBox(kit, box, area);
+    follow(box, area, [&box, &area](Aspect aspect) {
+        if (aspect == Aspect::Text) {
+            showText(area, box);
+        }
+    });
+    QObject::connect(&area, &QPlainTextEdit::textChanged, &area, [&kit, &box, &area] {
+        const std::string text = stored(area.toPlainText());
+        kit.enter([&box, &text] { box.userEdit(text); });
+        showText(area, box);
+    });
+    return area;
+}
+
+}  // namespace mero::qt

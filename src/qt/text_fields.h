@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+/// Text boxes as widgets: one line, or several.
+/// What a person types reaches the control; what code assigns is shown and does not come back.
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "platform/controls/text_box.h"
+#include "qt/widget_kit.h"
+
+namespace mero::qt {
+
+/// A single-line box. Enter and Escape run the box's key handler and do nothing else.
+QLineEdit& makeLineEdit(WidgetKit& kit, platform::TextBox& box, QWidget& parent);
+
+/// A multi-line box; the control's line breaks are "\r\n". The Tab key moves on to the next field.
+QPlainTextEdit& makeTextArea(WidgetKit& kit, platform::TextBox& box, QWidget& parent);
+
+}  // namespace mero::qt

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+/// Common binding of controls and widgets.
+/// Controls keep their observers for ever, so each observer looks first whether its widget still lives.
+#include "qt/widget_kit.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QTimer>
+#include <utility>
+
+#include "qt/texts.h"
+
+namespace mero::qt {
+namespace {
+
+using platform::Aspect;
+
+bool countsAsEntering(Qt::FocusReason reason) {
+    return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
+           reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+}
+
+bool countsAsLeaving(Qt::FocusReason reason) {
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+           reason != Qt::MenuBarFocusReason;
+}
+
+class FocusFilter : public QObject {
+  public:
+    FocusFilter(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost)
+        : QObject(&widget), kit_(&kit), got_(std::move(got)), lost_(std::move(lost)) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn && got_) {
+            if (countsAsEntering(dynamic_cast<QFocusEvent&>(*event).reason())) {
+                kit_->enter(got_);
+            }
+        } else if (event->type() == QEvent::FocusOut && lost_) {
+            if (countsAsLeaving(dynamic_cast<QFocusEvent&>(*event).reason())) {
+                kit_->enter(lost_);
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+  private:
+    WidgetKit* kit_;
+    std::function<void()> got_;
+    std::function<void()> lost_;
+};
+
+}  // namespace
+
+WidgetKit::WidgetKit(Gate gate, FocusEvents focus_events)
+    : gate_(std::move(gate)), focus_events_(focus_events) {}
+
+QWidget* WidgetKit::find(const platform::Control& control) const {
+    const auto found = widgets_.find(&control);
+    return found == widgets_.end() ? nullptr : found->second.data();
+}
+
+void follow(platform::Control& control, QWidget& widget, std::function<void(Aspect)> action) {
+    control.observe([alive = QPointer<QWidget>(&widget), action = std::move(action)](Aspect aspect) {
+        if (!alive.isNull()) {
+            action(aspect);
+        }
+    });
+}
+
+void bindCommon(WidgetKit& kit, platform::Control& control, QWidget& widget) {
+    kit.add(control, widget);
+    widget.setObjectName(shown(control.name()));
+    widget.setEnabled(control.enabled());
+    if (!control.visible()) {
+        widget.hide();
+    }
+    follow(control, widget, [&control, &widget](Aspect aspect) {
+        if (aspect == Aspect::Enabled) {
+            widget.setEnabled(control.enabled());
+        } else if (aspect == Aspect::Visible) {
+            widget.setVisible(control.visible());
+        } else if (aspect == Aspect::Focus && widget.isVisible()) {
+            widget.setFocus(Qt::OtherFocusReason);
+        }
+    });
+}
+
+void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost) {
+    if (kit.runsFocusHandlers()) {
+        widget.installEventFilter(new FocusFilter(kit, widget, std::move(got), std::move(lost)));
+    }
+}
+
+void showInScrollAreas(QWidget& widget) {
+    for (QWidget* holder = widget.parentWidget(); holder != nullptr; holder = holder->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(holder)) {
+            area->ensureWidgetVisible(&widget);
+        }
+    }
+}
+
+void leadTo(QWidget& widget) {
+    showInScrollAreas(widget);
+    widget.setFocus(Qt::ActiveWindowFocusReason);
+    if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
+        line->selectAll();
+    }
+}
+
+void later(QObject& object, std::function<void()> action) {
+    auto* timer = new QTimer(&object);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action = std::move(action)] {
+        timer->deleteLater();
+        action();
+    });
+    timer->start(0);
+}
+
+}  // namespace mero::qt

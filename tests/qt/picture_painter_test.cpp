@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// Drawings are painted whole, in real fonts, in light and in dark colours.
+#include "qt/picture_painter.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QImage>
+#include <cmath>
+
+#include "picture/arrange.h"
+#include "picture/facility_sections.h"
+#include "picture/picture_support.h"
+#include "picture/rain_curve.h"
+#include "qt/texts.h"
+
+namespace mero::qt {
+namespace {
+
+using picture::Drawing;
+using picture::Emphasis;
+using picture::Material;
+using picture::Sheet;
+using picture::Stroke;
+
+QPalette lightColours() {
+    return {QColor(0xef, 0xef, 0xef)};
+}
+
+QPalette darkColours() {
+    QPalette palette(QColor(0x2e, 0x31, 0x34));
+    palette.setColor(QPalette::Base, QColor(0x19, 0x1b, 0x1d));
+    palette.setColor(QPalette::Text, QColor(0xe8, 0xea, 0xec));
+    palette.setColor(QPalette::Highlight, QColor(0x35, 0x78, 0xb6));
+    return palette;
+}
+
+double luminance(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& first, const QColor& second) {
+    const double a = luminance(first);
+    const double b = luminance(second);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+picture::Section shaft() {
+    return picture::shaftSection({.inner_width_m = 1.5F,
+                                  .wall_m = 0.15F,
+                                  .inlet_depth_m = 1.2F,
+                                  .filter_layer_m = 0.5F,
+                                  .sand_layer_m = 0.3F,
+                                  .water_level_m = 1.91F,
+                                  .depth_m = 3.91F,
+                                  .required_embedding_m = 4.61F,
+                                  .groundwater_depth_m = 5});
+}
+
+picture::Chart rain() {
+    const std::array<calc::Rain, calc::kRainRows> rains{
+        {{5, 434}, {10, 320}, {15, 253}, {20, 210}, {30, 156}, {45, 113}, {60, 88}, {90, 61}, {120, 47}}};
+    return picture::rainCurve(rains, rains[2]);
+}
+
+const std::vector<Sheet> kSheets{{300, 220}, {480, 320}, {900, 600}};
+
+struct PicturesInPalettes : testing::TestWithParam<bool> {
+    QPalette palette = GetParam() ? darkColours() : lightColours();
+    QColor paper = palette.color(QPalette::Base);
+};
+
+TEST_P(PicturesInPalettes, TextsAndLinesStandOutFromThePaper) {
+    for (const Emphasis emphasis : {Emphasis::Plain, Emphasis::Strong, Emphasis::Quiet}) {
+        EXPECT_GE(contrast(textColour(palette, emphasis), paper), 4.5);
+    }
+    for (const Stroke stroke : {Stroke::Ground, Stroke::Outline, Stroke::Dimension, Stroke::Axis,
+                                Stroke::Curve, Stroke::Water, Stroke::Groundwater}) {
+        EXPECT_GE(contrast(inkColour(palette, stroke), paper), 3.0) << static_cast<int>(stroke);
+    }
+    EXPECT_GE(contrast(fillColour(palette, Material::CriticalBar), paper), 3.0);
+}
+
+TEST_P(PicturesInPalettes, TheCriticalBarAndTheMaterialsAreToldApart) {
+    EXPECT_GE(contrast(fillColour(palette, Material::CriticalBar), fillColour(palette, Material::Bar)), 1.6);
+    EXPECT_NE(fillColour(palette, Material::Water), fillColour(palette, Material::Soil));
+    EXPECT_NE(fillColour(palette, Material::Air), fillColour(palette, Material::Soil));
+    EXPECT_NE(fillColour(palette, Material::Concrete), fillColour(palette, Material::Soil));
+}
+
+TEST_P(PicturesInPalettes, NothingIsPaintedOutsideTheSheet) {
+    constexpr int kAround = 20;
+    for (const Sheet& sheet : kSheets) {
+        for (const Drawing& drawing : {arrange(shaft(), sheet, textSizes(QApplication::font())),
+                                       arrange(rain(), sheet, textSizes(QApplication::font()))}) {
+            QImage image(static_cast<int>(sheet.width) + 2 * kAround,
+                         static_cast<int>(sheet.height) + 2 * kAround, QImage::Format_RGB32);
+            image.fill(paper);
+            QPainter painter(&image);
+            painter.translate(kAround, kAround);
+            paintDrawing(painter, drawing, palette, QApplication::font());
+            painter.end();
+            const QRect inside(kAround, kAround, static_cast<int>(sheet.width),
+                               static_cast<int>(sheet.height));
+            int painted = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    if (image.pixelColor(x, y) != paper) {
+                        ++painted;
+                        ASSERT_TRUE(inside.contains(x, y)) << x << ", " << y;
+                    }
+                }
+            }
+            EXPECT_GT(painted, 1000);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(LightAndDark, PicturesInPalettes, testing::Bool());
+
+TEST(PicturePainter, LabelsInRealFontsFitTheirBoxesAndKeepApart) {
+    for (const int points : {8, 10, 14, 20}) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        for (const Sheet& sheet : kSheets) {
+            for (const Drawing& drawing :
+                 {arrange(shaft(), sheet, textSizes(font)), arrange(rain(), sheet, textSizes(font))}) {
+                SCOPED_TRACE(std::to_string(points) + " pt");
+                expectTidy(drawing, sheet);
+                for (const picture::PlacedText& text : drawing.texts) {
+                    const QFontMetricsF metrics(pictureFont(font, text.emphasis));
+                    const double room = text.upright ? text.box.height() : text.box.width();
+                    const double lines = text.upright ? text.box.width() : text.box.height();
+                    EXPECT_GE(room + 1e-6, metrics.horizontalAdvance(shown(text.text))) << text.text;
+                    EXPECT_GE(lines + 1e-6, metrics.height()) << text.text;
+                }
+            }
+        }
+    }
+}
+
+TEST(PicturePainter, TheCriticalBarHasTheHighlightColour) {
+    Drawing drawing;
+    drawing.areas.push_back({Material::CriticalBar, {{10, 10}, {30, 10}, {30, 40}, {10, 40}}});
+    QImage image(50, 50, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintDrawing(painter, drawing, lightColours(), QApplication::font());
+    painter.end();
+    EXPECT_EQ(image.pixelColor(20, 25), lightColours().color(QPalette::Highlight));
+    EXPECT_EQ(image.pixelColor(5, 25), QColor(Qt::white));
+}
+
+TEST(PicturePainter, ATurnedTextRunsUpwards) {
+    Drawing drawing;
+    drawing.texts.push_back({{20, 10, 40, 90}, "hloubka", Emphasis::Plain, true});
+    QImage image(60, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintDrawing(painter, drawing, lightColours(), QApplication::font());
+    painter.end();
+    QRect inked;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) != QColor(Qt::white)) {
+                inked |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    EXPECT_GT(inked.height(), inked.width());
+    EXPECT_TRUE(QRect(15, 10, 30, 80).contains(inked));
+}
+
+}  // namespace
+}  // namespace mero::qt
