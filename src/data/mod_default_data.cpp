@@ -224,14 +224,6 @@ void fillSoils(ReferenceTables& tables) {
     }
 }
 
-void setDefaultInputs(ProjectRecord& record) {
-    record.txtSoucBezp = 1.2F;
-    record.txtPocetPotrubi = 1;
-    record.txtPorVyplne = 0.35F;
-    record.txtMinPrusakDraha = 1.5F;
-    record.txtSachtyCount = 1;
-}
-
 }  // namespace
 
 void LoadDefaultData(modPublicVariables& values) {
@@ -243,7 +235,11 @@ void LoadDefaultData(modPublicVariables& values) {
     fillSoils(values);
     values.SachtaKruhova = roundShafts();
     values.SachtaObdelnikova = rectangularShafts();
-    setDefaultInputs(values);
+    values.txtSoucBezp = kOpeningInputs.txtSoucBezp;
+    values.txtPorVyplne = kOpeningInputs.txtPorVyplne;
+    values.txtMinPrusakDraha = kOpeningInputs.txtMinPrusakDraha;
+    values.txtSachtyCount = kOpeningInputs.txtSachtyCount;
+    values.txtPocetPotrubi = kOpeningPipes.txtPocetPotrubi;
 }
 
 }  // namespace mero::data

@@ -1,129 +1,248 @@
 // SPDX-License-Identifier: MIT
-/// The first tab, the choice of the type, and what the pages share.
-/// The guards tell of a missing input; only the tank refuses to go on without it.
+/// The user who enters a project once: the events in their order, each over the procedures of its type.
+/// A run-time error ends its event and is reported.
 #include "design/design.h"
 
-#include "calc/drain.h"
 #include "calc/inflow.h"
-#include "design/window_replay.h"
+#include "design/input_table.h"
+#include "design/record_sink.h"
+#include "design/shaft_inputs.h"
+#include "platform/numbers/runtime_error.h"
 
 namespace mero::design {
+namespace {
 
-DesignResult design(const Site& site, const Facility& facility) {
-    DesignResult result;
-    WindowReplay replay(site, facility, result);
-    replay.enterSite();
-    replay.run();
-    if (result.picked_rain != calc::Rain{}) {
-        result.show(Quantity::CriticalDuration, result.picked_rain.duration_min);
-        result.show(Quantity::CriticalIntensity, result.picked_rain.intensity_l_s_ha);
+using data::DesignNumbers;
+
+template <typename Action>
+void event(DesignResult& result, Action action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        result.verdicts.add(table::verdict(verdictOf(error), result.numbers));
     }
-    return result;
 }
 
-WindowReplay::WindowReplay(const Site& site, const Facility& facility, DesignResult& result)
-    : site_(&site),
-      facility_(&facility),
-      result_(&result),
-      // Left after typing, the field shows and stores a positive coefficient with two significant digits.
-      filtration_m_s_(site.filtration_m_s > 0.0F ? throughScientificField(site.filtration_m_s)
-                                                 : site.filtration_m_s) {}
+/// Left after typing, a filtration field shows and stores a positive coefficient with two significant digits.
+float leftFiltration(float typed_m_s) {
+    return typed_m_s > 0.0F ? throughScientificField(typed_m_s) : typed_m_s;
+}
 
-void WindowReplay::enterSite() {
-    DesignResult& result = *result_;
-    if (site_->picked_row >= 0) {
-        result.picked_rain = site_->rains[static_cast<std::size_t>(site_->picked_row)];
+/// Groundwater, design rain, drained areas, filtration coefficient.
+void enterSite(const Site& site, DesignResult& result) {
+    DesignNumbers& numbers = result.numbers;
+    numbers.txtHPV = site.groundwater_depth_m;
+    if (site.picked_row >= 0) {
+        const calc::Rain& picked = site.rains[static_cast<std::size_t>(site.picked_row)];
+        numbers.VybranaDoba = picked.duration_min;
+        numbers.VybranaIntenzita = picked.intensity_l_s_ha;
     }
-    const bool rain_accepted = site_->rain_confirmation == RainConfirmation::Accepted;
-    if (site_->rain_confirmation == RainConfirmation::NoIntensities) {
-        tell(Verdict::RainIntensitiesMissing);
-    } else if (!rain_accepted) {
-        tell(Verdict::ErrorOverflow);
+    const bool rain_accepted = site.rain_confirmation == RainConfirmation::Accepted;
+    if (!rain_accepted) {
+        const bool empty = site.rain_confirmation == RainConfirmation::NoIntensities;
+        result.verdicts.add(
+            table::verdict(empty ? VerdictId::RainIntensitiesMissing : VerdictId::ErrorOverflow, numbers));
     }
-    result.show(Quantity::ReducedArea, site_->reduced_area_m2);
-    result.show(Quantity::Filtration, filtration_m_s_);
+    numbers.RedukovanaPlocha = site.reduced_area_m2;
+    result.show(Quantity::ReducedArea);
+    numbers.txtSoucFiltrace = leftFiltration(site.filtration_m_s);
+    result.show(Quantity::Filtration);
     // The box is empty without a picked rain, and after areas that cancel each other.
-    const bool inflow_shown = site_->has_areas ? site_->reduced_area_m2 != 0.0F : rain_accepted;
-    if (result.picked_rain.intensity_l_s_ha > 0.0F && inflow_shown) {
-        event([&] {
-            result.show(Quantity::Inflow,
-                        calc::inflow(site_->reduced_area_m2, result.picked_rain.intensity_l_s_ha));
+    const bool inflow_shown = site.has_areas ? site.reduced_area_m2 != 0.0F : rain_accepted;
+    if (numbers.VybranaIntenzita > 0.0F && inflow_shown) {
+        event(result, [&] {
+            numbers.txtOdtokDoVsak = calc::inflow(numbers.RedukovanaPlocha, numbers.VybranaIntenzita);
+            result.show(Quantity::Inflow);
         });
     }
 }
 
-void WindowReplay::run() {
-    const bool input_missing = tellMissingInput();
-    if (facility_->type == FacilityType::Tank && input_missing) {
-        return;
+/// One panel, filled in from top to bottom with the safety factor last, and its calculate button.
+template <FacilityType type>
+class Panel {
+  public:
+    Panel(const Site& site, const Facility& facility, DesignResult& result)
+        : facility_(&facility), result_(&result), sink_(site, facility, result) {}
+
+    void run() {
+        result_->type_chosen = true;
+        static_cast<data::FacilityInputs&>(numbers()) = data::kOpeningInputs;
+        static_cast<data::PipeInputs&>(numbers()) = data::kOpeningPipes;
+        enter([this] { sink_.clearResults(); });
+        // Surface infiltration without a design rain leaves no panel to fill in.
+        if (!result_->type_chosen) {
+            return;
+        }
+        enterInputs();
+        enterSafetyFactor();
+        enterPipes();
+        if constexpr (checks::kChecks<type>.empty()) {
+            return;
+        }
+        if (checks::pass<type>(sink_, facility_->sand_layer)) {
+            enter([this] {
+                if constexpr (type == FacilityType::Shaft) {
+                    shaft::calculate(sink_);
+                }
+                calculateDesign(sink_, type);
+            });
+        }
     }
-    result_->type_chosen = true;
-    switch (facility_->type) {
+
+  private:
+    DesignNumbers& numbers() { return result_->numbers; }
+
+    template <typename Action>
+    void enter(Action action) {
+        event(*result_, action);
+    }
+
+    /// The plain numbers of the panel, or of its sub-panel.
+    void enterNumbers(bool of_sub_panel) {
+        const auto enter_one = [&]<Input input>() {
+            constexpr const InputInfo& row = table::kInputs[index(input)];
+            if constexpr (row.stored != nullptr && input != Input::SafetyFactor) {
+                if (table::ofSubPanel(input) == of_sub_panel) {
+                    numbers().*row.stored = row.given(*facility_);
+                }
+            }
+        };
+        [&]<std::size_t... i>(std::index_sequence<i...>) {
+            (enter_one.template operator()<table::kPanel<type>[i].input>(), ...);
+        }
+        (std::make_index_sequence<table::kPanel<type>.size()>());
+    }
+
+    void enterInputs() {
+        if constexpr (type == FacilityType::Swale || type == FacilityType::SwaleTrench) {
+            if (facility_->soil_option != 0) {
+                sink_.selectSoil(facility_->soil_option);
+                enter([this] { calculateArea(sink_, type); });
+            }
+        }
+        enterNumbers(false);
+        if constexpr (type == FacilityType::SwaleTrench) {
+            numbers().txtSoucFiltrPruleh = leftFiltration(facility_->txtSoucFiltrPruleh);
+        }
+        if constexpr (type == FacilityType::Shaft) {
+            numbers().txtSachtyCount = facility_->txtSachtyCount;
+            enterShaft();
+        }
+    }
+
+    /// The pages that calculate live do so at once.
+    void enterSafetyFactor() {
+        if (facility_->txtSoucBezp != numbers().txtSoucBezp) {
+            numbers().txtSoucBezp = facility_->txtSoucBezp;
+            enter([this] { calculateArea(sink_, type); });
+        }
+    }
+
+    void enterPipes() {
+        if constexpr (type == FacilityType::SwaleTrench || type == FacilityType::Trench) {
+            const Pipes& pipes = type == FacilityType::Trench ? facility_->drain : facility_->overflow;
+            if (!pipes.given) {
+                return;
+            }
+            result_->pipes = true;
+            enter([this] { sink_.clearResults(); });
+            enterNumbers(true);
+            enter([this] { confirmPipes(sink_, type); });
+        }
+    }
+
+    /// A ring of the catalogue, or the dimension boxes; each recomputes the diameters with what the others
+    /// hold at that moment.
+    void enterShaft() {
+        result_->show(Quantity::ShaftInnerDiameter);
+        result_->show(Quantity::ShaftOuterDiameter);
+        numbers().txtPrumerSachtyVnit = 0.0F;
+        numbers().txtPrumerSachtyVnej = 0.0F;
+        numbers().txtTloustkaSteny = 0.0F;
+        if (facility_->catalogue_row >= 0) {
+            const auto& row = shaftCatalogue()[static_cast<std::size_t>(facility_->catalogue_row)];
+            enter([&] {
+                shaft::takeRow(numbers(), row);
+                enterInnerSide(row.shape, throughField(row.side1_m, 2));
+                if (row.shape == ShaftShape::Rectangular) {
+                    enterSecondSide(throughField(row.side2_m, 2));
+                }
+                enterWall(row.shape, throughField(row.wall_m, 2));
+            });
+            return;
+        }
+        const bool rectangular = facility_->shape == ShaftShape::Rectangular;
+        enter([&] {
+            enterInnerSide(facility_->shape,
+                           rectangular ? facility_->inner_width_m : facility_->inner_diameter_m);
+        });
+        if (rectangular) {
+            enter([&] { enterSecondSide(facility_->txtPrumerSachtyVnej); });
+        }
+        enter([&] { enterWall(facility_->shape, facility_->txtTloustkaSteny); });
+    }
+
+    void enterInnerSide(ShaftShape shape, float side_m) {
+        numbers().txtPrumerSachtyVnit = side_m;
+        shaft::innerSideStored(numbers(), shape, false);
+    }
+    void enterSecondSide(float side_m) {
+        numbers().txtPrumerSachtyVnej = side_m;
+        shaft::secondSideStored(numbers(), false);
+    }
+    void enterWall(ShaftShape shape, float wall_m) {
+        numbers().txtTloustkaSteny = wall_m;
+        shaft::wallStored(numbers(), shape, false);
+    }
+
+    const Facility* facility_;
+    DesignResult* result_;
+    RecordSink<type> sink_;
+};
+
+void runPanel(const Site& site, const Facility& facility, DesignResult& result) {
+    switch (facility.type) {
+        case FacilityType::None:
+            break;
         case FacilityType::Surface:
-            runSurface();
+            Panel<FacilityType::Surface>(site, facility, result).run();
             break;
         case FacilityType::Swale:
-            runSwale();
+            Panel<FacilityType::Swale>(site, facility, result).run();
             break;
         case FacilityType::SwaleTrench:
-            runSwaleTrench();
+            Panel<FacilityType::SwaleTrench>(site, facility, result).run();
             break;
         case FacilityType::Trench:
-            runTrench();
+            Panel<FacilityType::Trench>(site, facility, result).run();
             break;
         case FacilityType::Shaft:
-            runShaft();
+            Panel<FacilityType::Shaft>(site, facility, result).run();
             break;
         case FacilityType::Tank:
-            runTank();
+            Panel<FacilityType::Tank>(site, facility, result).run();
             break;
     }
 }
 
-bool WindowReplay::tellMissingInput() {
-    if (!(site_->reduced_area_m2 > 0.0F)) {
-        tell(Verdict::DrainedAreaMissing);
-        return true;
+}  // namespace
+
+DesignResult design(const Site& site, const Facility& facility) {
+    DesignResult result;
+    enterSite(site, result);
+    const auto missing = checks::missingInput(result.numbers);
+    if (missing) {
+        result.verdicts.add(table::verdict(*missing, result.numbers));
     }
-    if (!(filtration_m_s_ > 0.0F)) {
-        tell(Verdict::FiltrationMissing);
-        return true;
+    // Only the tank refuses to go on without the input.
+    if (!missing || facility.type != FacilityType::Tank) {
+        runPanel(site, facility, result);
     }
-    return false;
-}
-
-bool WindowReplay::refuse(bool failed, Verdict verdict) {
-    if (failed) {
-        tell(verdict);
+    if (result.pickedRain() != calc::Rain{}) {
+        result.show(Quantity::CriticalDuration);
+        result.show(Quantity::CriticalIntensity);
     }
-    return failed;
-}
-
-void WindowReplay::pick(const calc::CriticalRain& critical) {
-    if (critical.rain) {
-        result_->picked_rain = *critical.rain;
-    }
-}
-
-void WindowReplay::clearArea() {
-    result_->clear(Quantity::InfiltrationArea);
-    result_->store(Quantity::InfiltrationArea, 0.0F);
-}
-
-calc::TrenchSection WindowReplay::trenchSection() const {
-    return {.width_m = facility_->trench_width_m,
-            .height_m = facility_->trench_height_m,
-            .storage_coefficient = value(Quantity::StorageCoefficient),
-            .filtration_m_s = filtration_m_s_};
-}
-
-void WindowReplay::setStorageCoefficient(const Pipes& pipes) {
-    result_->show(Quantity::StorageCoefficient,
-                  calc::drain::storageCoefficient({.inner_diameter_mm = pipes.inner_diameter_mm,
-                                                   .outer_diameter_mm = pipes.outer_diameter_mm,
-                                                   .count = pipes.count},
-                                                  facility_->fill_porosity, facility_->trench_width_m,
-                                                  facility_->trench_height_m));
+    return result;
 }
 
 }  // namespace mero::design

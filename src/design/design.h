@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// A whole design without the window, with exactly the window's results.
-/// It replays what the main window does when a user, in a fresh program, enters each input once.
+/// It runs the same procedures as the main window does when a user, in a fresh program, enters each input
+/// once.
 ///
 /// The order: groundwater, design rain, drained areas, filtration coefficient; then the type; then the fields
 /// of its panel from top to bottom with the safety factor last (before the sub-panel of the pipes), each

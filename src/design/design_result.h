@@ -1,86 +1,84 @@
 // SPDX-License-Identifier: MIT
-/// What a design leaves behind: the stored numbers, which boxes show one, and what was told, in order.
-/// A plain value without memory of its own, so that a sweep makes millions of them.
+/// What a design leaves behind: the stored numbers, which boxes show one, and the verdicts in their order.
+/// A plain value that allocates nothing, so that a sweep makes millions of them.
 #pragma once
 
 #include <array>
-#include <cassert>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <span>
+#include <stdexcept>
 
 #include "calc/rain.h"
-#include "design/quantity.h"
+#include "data/design_numbers.h"
+#include "design/quantity_table.h"
 #include "design/verdict.h"
 
 namespace mero::design {
 
-/// The messages of one design in their order. No design has more than seven input checks and a few others.
+/// The verdicts of one design. A list that is full refuses one more.
 class VerdictList {
   public:
-    void add(Verdict verdict) {
-        assert(count_ < verdicts_.size());
+    /// More than any design gives: the guards, seven input checks, and those of the design itself.
+    static constexpr std::size_t kMost = 16;
+
+    /// @throws std::length_error when the list is full
+    void add(const Verdict& verdict) {
+        if (count_ == kMost) {
+            throw std::length_error("more verdicts than a design can have");
+        }
         verdicts_[count_++] = verdict;
     }
     [[nodiscard]] std::span<const Verdict> all() const { return {verdicts_.data(), count_}; }
+    [[nodiscard]] bool empty() const { return count_ == 0; }
 
   private:
-    std::array<Verdict, 16> verdicts_{};
     std::size_t count_ = 0;
+    // Not set before they are added: a sweep would spend more time on that than on a small design.
+    std::array<Verdict, kMost> verdicts_;
 };
 
-class DesignResult {
+class DesignResult {  // NOLINT(cppcoreguidelines-pro-type-member-init): written_ is read where shown_ says so
   public:
     /// The stored value; 0 where nothing was stored.
-    [[nodiscard]] float value(Quantity quantity) const { return stored_[at(quantity)]; }
+    [[nodiscard]] float value(Quantity quantity) const { return numbers.*info(quantity).stored; }
     /// Is there a result: does its box show a number?
-    [[nodiscard]] bool has(Quantity quantity) const { return (shown_ >> at(quantity) & 1U) != 0; }
+    [[nodiscard]] bool has(Quantity quantity) const { return (shown_ & table::bit(quantity)) != 0; }
     /// What the box was given: the value before a field with a change rule rounded it.
-    [[nodiscard]] float written(Quantity quantity) const { return written_[at(quantity)]; }
+    [[nodiscard]] float written(Quantity quantity) const {
+        return info(quantity).stores_back && has(quantity) ? written_[index(quantity)] : value(quantity);
+    }
 
-    /// Stores a value that no box shows yet.
-    void store(Quantity quantity, float value) { stored_[at(quantity)] = value; }
-    /// Shows a value in its box and keeps it.
-    void show(Quantity quantity, float value) { show(quantity, value, value); }
-    /// Shows a value in a box that stores back what it shows.
-    void show(Quantity quantity, float value, float stored_back) {
-        written_[at(quantity)] = value;
-        stored_[at(quantity)] = stored_back;
-        shown_ |= 1U << at(quantity);
+    /// Marks the result as shown with the value that is stored.
+    void show(Quantity quantity) { shown_ |= table::bit(quantity); }
+    /// Marks the result of a field with a change rule, and keeps what the field was given.
+    void show(Quantity quantity, float written) {
+        written_[index(quantity)] = written;
+        show(quantity);
     }
     /// Empties the box; what is stored stays.
-    void clear(Quantity quantity) { shown_ &= ~(1U << at(quantity)); }
+    void clear(Quantity quantity) { shown_ &= ~table::bit(quantity); }
 
-    VerdictList verdicts;
-    calc::Rain picked_rain;    ///< the design rain: what the user picked, or the critical rain
-    bool type_chosen = false;  ///< the type stayed chosen: only then is there a report
-    bool completed = false;    ///< the design came to its end
-    bool pipes = false;        ///< the check box of the overflow or the drain is ticked at the end
-
-    // The boxes of a shaft, which the report shows.
-    float shaft_side1_m = 0.0F;
-    float shaft_side2_m = 0.0F;
-    float shaft_wall_m = 0.0F;
-    /// Filtration coefficient of the swale as its field stores it; a shaft stores its filter's there.
-    float swale_filtration_m_s = 0.0F;
-
+    [[nodiscard]] calc::Rain pickedRain() const { return {numbers.VybranaDoba, numbers.VybranaIntenzita}; }
     /// The first run-time error, nothing without one.
     [[nodiscard]] std::optional<ErrorNumber> firstError() const {
-        for (const Verdict verdict : verdicts.all()) {
-            if (isRuntimeError(verdict)) {
-                return errorNumber(verdict);
+        for (const Verdict& verdict : verdicts.all()) {
+            if (isRuntimeError(verdict.id)) {
+                return errorNumber(verdict.id);
             }
         }
         return std::nullopt;
     }
 
-  private:
-    static constexpr std::size_t at(Quantity quantity) { return static_cast<std::size_t>(quantity); }
+    data::DesignNumbers numbers;
+    VerdictList verdicts;
+    bool type_chosen = false;  ///< the type stayed chosen: only then is there a report
+    bool completed = false;    ///< the design came to its end
+    bool pipes = false;        ///< the check box of the overflow or the drain is ticked at the end
 
-    std::array<float, kQuantityCount> stored_{};
-    std::array<float, kQuantityCount> written_{};
-    std::uint32_t shown_ = 0;
+  private:
+    table::QuantitySet shown_ = 0;
+    std::array<float, kQuantityCount> written_;
 };
 
 }  // namespace mero::design

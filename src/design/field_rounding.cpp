@@ -20,7 +20,7 @@ constexpr double kShortestDecimalError = 0x1p-23;
 constexpr float kWholeNumbers = 0x1p23F;
 
 template <int decimals>
-float throughField(float value) {
+float roundedTo(float value) {
     static_assert(decimals == 1 || decimals == 2);
     constexpr double kScale = decimals == 1 ? 10.0 : 100.0;
     const float magnitude = std::fabs(value);
@@ -72,11 +72,11 @@ constexpr std::array<double, kLargestExponent - kSmallestExponent + 2> kPowersOf
 }  // namespace
 
 float throughField1(float value) {
-    return throughField<1>(value);
+    return roundedTo<1>(value);
 }
 
 float throughField2(float value) {
-    return throughField<2>(value);
+    return roundedTo<2>(value);
 }
 
 float throughScientificField(float value) {

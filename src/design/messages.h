@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-/// The message boxes of a design as the window shows them, from the verdicts and the numbers.
-/// Input checks that fail together share one box, one line each.
+/// Verdicts as message boxes. Input checks that fail together share one box, one line each.
 #pragma once
 
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "design/design_result.h"
+#include "platform/desk.h"
 
 namespace mero::design {
 
@@ -16,12 +18,19 @@ struct Message {
     bool titled_error = false;
     /// The run-time error that the box reports, 0 for none.
     int error_number = 0;
-
-    friend bool operator==(const Message&, const Message&) = default;
+    /// The verdict; the first one of a box that holds several.
+    VerdictId id = VerdictId::RainIntensitiesMissing;
 };
 
-[[nodiscard]] std::vector<Message> messages(const DesignResult& result);
-/// The text of one verdict, without a line break at its end.
-[[nodiscard]] std::string verdictText(const DesignResult& result, Verdict verdict);
+[[nodiscard]] std::vector<Message> messages(std::span<const Verdict> verdicts);
+
+/// The box as the window shows it.
+[[nodiscard]] platform::Message box(const Message& message);
+/// The box of a verdict that speaks of no numbers.
+[[nodiscard]] platform::Message box(VerdictId id);
+
+/// The id under which a verdict's box goes through the desk, and back.
+[[nodiscard]] platform::MessageId messageId(VerdictId id);
+[[nodiscard]] std::optional<VerdictId> verdictId(platform::MessageId id);
 
 }  // namespace mero::design

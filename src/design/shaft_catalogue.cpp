@@ -3,6 +3,7 @@
 /// The list never changes after that, so all threads read it.
 #include "design/shaft_catalogue.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "data/mod_default_data.h"
@@ -16,15 +17,22 @@ std::span<const CatalogueShaft> shaftCatalogue() {
         data::LoadDefaultData(tables);
         std::vector<CatalogueShaft> shafts;
         for (const data::RoundShaft& row : tables.SachtaKruhova) {
-            shafts.push_back({ShaftShape::Round, row.designation, row.inner_diameter_m, 0.0F, row.wall_m});
+            shafts.push_back(
+                {data::ShaftShape::Round, row.designation, row.inner_diameter_m, 0.0F, row.wall_m});
         }
         for (const data::RectangularShaft& row : tables.SachtaObdelnikova) {
             shafts.push_back(
-                {ShaftShape::Rectangular, row.designation, row.side1_m, row.side2_m, row.wall_m});
+                {data::ShaftShape::Rectangular, row.designation, row.side1_m, row.side2_m, row.wall_m});
         }
         return shafts;
     }();
     return kShafts;
+}
+
+std::span<const CatalogueShaft> shaftCatalogue(data::ShaftShape shape) {
+    const auto all = shaftCatalogue();
+    const auto of_shape = std::ranges::equal_range(all, shape, {}, &CatalogueShaft::shape);
+    return {of_shape.begin(), of_shape.end()};
 }
 
 }  // namespace mero::design

@@ -6,18 +6,21 @@
 #include <span>
 #include <string>
 
-#include "design/facility.h"
+#include "data/facility_type.h"
 
 namespace mero::design {
 
 struct CatalogueShaft {
-    ShaftShape shape;
+    data::ShaftShape shape;
     std::string designation;
     float side1_m;  ///< inner diameter, or first inner side
     float side2_m;  ///< second inner side, 0 for a round shaft
     float wall_m;
 };
 
+/// All rows.
 [[nodiscard]] std::span<const CatalogueShaft> shaftCatalogue();
+/// The rows of one shape.
+[[nodiscard]] std::span<const CatalogueShaft> shaftCatalogue(data::ShaftShape shape);
 
 }  // namespace mero::design

@@ -3,21 +3,20 @@
 /// Its running total is a 16-bit Integer, so intensities below 0.5 never add up.
 #include "design/site.h"
 
-#include <cmath>
-#include <limits>
+#include "platform/numbers/checked.h"
 
 namespace mero::design {
 
-RainConfirmation confirmRain(std::span<const calc::Rain, calc::kRainRows> rains) {
-    double sum = 0.0;
-    for (const calc::Rain& rain : rains) {
-        sum = std::nearbyint(sum + static_cast<double>(rain.intensity_l_s_ha));
-        if (!(sum >= std::numeric_limits<std::int16_t>::min() &&
-              sum <= std::numeric_limits<std::int16_t>::max())) {
-            return RainConfirmation::Overflow;
+RainConfirmation confirmRain(calc::RainTable rains) {
+    std::int16_t sum = 0;
+    try {
+        for (const calc::Rain& rain : rains) {
+            sum = numbers::toInteger(static_cast<double>(sum) + static_cast<double>(rain.intensity_l_s_ha));
         }
+    } catch (const RuntimeError&) {
+        return RainConfirmation::Overflow;
     }
-    return sum == 0.0 ? RainConfirmation::NoIntensities : RainConfirmation::Accepted;
+    return sum == 0 ? RainConfirmation::NoIntensities : RainConfirmation::Accepted;
 }
 
 }  // namespace mero::design

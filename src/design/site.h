@@ -5,13 +5,12 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
 
 #include "calc/rain.h"
 
 namespace mero::design {
 
-/// What the confirmation of the rain dialog says to the nine intensities.
+/// Result of confirming the rain dialog.
 enum class RainConfirmation : std::uint8_t {
     Accepted,
     NoIntensities,  ///< they add up to 0 in whole numbers: the dialog refuses them
@@ -29,6 +28,6 @@ struct Site {
 };
 
 /// Judges the intensities as the rain dialog does when it is confirmed.
-[[nodiscard]] RainConfirmation confirmRain(std::span<const calc::Rain, calc::kRainRows> rains);
+[[nodiscard]] RainConfirmation confirmRain(calc::RainTable rains);
 
 }  // namespace mero::design

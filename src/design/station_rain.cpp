@@ -1,75 +1,73 @@
 // SPDX-License-Identifier: MIT
-/// Reading a station's table row by row.
+/// Reads a station's table row by row.
 /// A table without the field "005" has "004", which takes its place from the first row without it.
 #include "design/station_rain.h"
+
+#include <optional>
 
 #include "platform/numbers/checked.h"
 
 namespace mero::design {
 namespace {
 
+/// Intensity fields in the order of the periodicities 5, 2, 1, 0.5, 0.2, 0.1, 0.05.
 constexpr std::array<const char*, data::kPeriodicityCount> kFields{"5", "2", "1", "05", "02", "01", "005"};
 constexpr const char* kSubstituteOfLastField = "004";
 
-/// Why a value was not stored.
-enum class Outcome { Stored, NoField, NoNumber };
+/// Reads fields of a table and remembers why the last one that failed did. A success does not clear that,
+/// nor does the next row.
+class FieldReader {
+  public:
+    explicit FieldReader(const data::StationTable& table) : table_(&table) {}
 
-Outcome store(const data::StationTable& table, std::size_t row, const char* field, float& slot) {
-    const auto column = data::columnIndex(table, field);
-    if (!column) {
-        return Outcome::NoField;
+    /// Stores the field's number as Single or Integer; the slot keeps its value when there is none.
+    template <typename T>
+    void store(std::size_t row, const char* field, T& slot, T (*convert)(double)) {
+        const auto column = data::columnIndex(*table_, field);
+        if (!column) {
+            field_missing_ = true;
+            return;
+        }
+        const std::optional<double> value = table_->rows[row][*column];
+        try {
+            if (value) {
+                slot = convert(*value);
+                return;
+            }
+        } catch (const RuntimeError&) {
+            // Too large: treated as a bad value.
+        }
+        field_missing_ = false;
     }
-    const auto& value = table.rows[row][*column];
-    if (!value) {
-        return Outcome::NoNumber;
-    }
-    try {
-        slot = numbers::toSingle(*value);
-    } catch (const RuntimeError&) {
-        return Outcome::NoNumber;
-    }
-    return Outcome::Stored;
-}
 
-/// The duration is of no use here, but what went wrong with it counts.
-Outcome checkDuration(const data::StationTable& table, std::size_t row) {
-    const auto column = data::columnIndex(table, "doba");
-    if (!column) {
-        return Outcome::NoField;
-    }
-    const auto& value = table.rows[row][*column];
-    if (!value) {
-        return Outcome::NoNumber;
-    }
-    try {
-        static_cast<void>(numbers::toInteger(*value));
-    } catch (const RuntimeError&) {
-        return Outcome::NoNumber;
-    }
-    return Outcome::Stored;
-}
+    [[nodiscard]] bool lastFailureWasMissingField() const { return field_missing_; }
+
+  private:
+    const data::StationTable* table_;
+    bool field_missing_ = false;
+};
 
 }  // namespace
 
-StationRain stationRain(const data::StationTable& table) {
-    StationRain rain;
-    rain.demonstration = table.demonstration;
-    // The last failure is remembered from row to row, and a success does not clear it.
-    Outcome last_failure = Outcome::Stored;
-    const auto remember = [&](Outcome outcome) {
-        if (outcome != Outcome::Stored) {
-            last_failure = outcome;
-        }
-    };
+void readStation(const data::StationTable& table, StationIntensities& intensities_l_s_ha,
+                 StationDurations& durations_min) {
+    FieldReader reader(table);
     for (std::size_t row = 0; row < table.rows.size() && row < calc::kRainRows; ++row) {
-        remember(checkDuration(table, row));
+        reader.store(row, "doba", durations_min[row], numbers::toInteger);
         for (std::size_t k = 0; k < kFields.size(); ++k) {
-            remember(store(table, row, kFields[k], rain.intensities_l_s_ha[k][row]));
+            reader.store(row, kFields[k], intensities_l_s_ha[k][row], numbers::toSingle);
         }
-        if (last_failure == Outcome::NoField) {
-            remember(store(table, row, kSubstituteOfLastField, rain.intensities_l_s_ha.back()[row]));
+        if (reader.lastFailureWasMissingField()) {
+            reader.store(row, kSubstituteOfLastField, intensities_l_s_ha.back()[row], numbers::toSingle);
         }
     }
+}
+
+StationRain stationRain(const data::StationTable& table) {
+    StationRain rain;
+    StationDurations durations{};
+    readStation(table, rain.intensities_l_s_ha, durations);
+    rain.demonstration = table.demonstration;
     return rain;
 }
 

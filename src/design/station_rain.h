@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
-/// The intensities of one rain-gauge station: what of its table goes where.
-/// The same rules as the rain dialog's: a missing field or a bad value leaves its position at 0.
+/// Reading a rain-gauge station: what of its table goes where.
+/// A missing field or a bad value is skipped: the position keeps what it held.
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
-#include <optional>
-#include <string_view>
 
 #include "calc/rain.h"
 #include "data/mod_public_variables.h"
@@ -16,8 +13,17 @@
 namespace mero::design {
 
 /// Intensities [l/(s.ha)] by periodicity and row.
+using StationIntensities = std::array<std::array<float, calc::kRainRows>, data::kPeriodicityCount>;
+/// Durations as the table has them [min]; the design uses those of the reference table.
+using StationDurations = std::array<std::int16_t, calc::kRainRows>;
+
+/// Reads the first nine rows of a station's table.
+void readStation(const data::StationTable& table, StationIntensities& intensities_l_s_ha,
+                 StationDurations& durations_min);
+
+/// The rain of one station, 0 where its table has no number.
 struct StationRain {
-    std::array<std::array<float, calc::kRainRows>, data::kPeriodicityCount> intensities_l_s_ha{};
+    StationIntensities intensities_l_s_ha{};
     bool demonstration = false;  ///< the database says that its values are no measurement
 };
 

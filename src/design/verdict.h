@@ -1,86 +1,60 @@
 // SPDX-License-Identifier: MIT
-/// What a design tells its user, as data: verdicts, refused inputs, run-time errors, each with a stable code.
-/// The window shows the same texts in its message boxes.
+/// A verdict as a value: its id and the numbers that it speaks of, as they were when it was given.
+/// Severity, text and the names of these numbers come from the table of verdicts.
 #pragma once
 
 #include <array>
-#include <cstddef>
-#include <cstdint>
+#include <span>
+#include <string>
 
+#include "design/input.h"
+#include "design/quantity.h"
+#include "design/verdict_id.h"
 #include "platform/numbers/runtime_error.h"
 
 namespace mero::design {
 
-enum class Verdict : std::uint8_t {
-    // Inputs of the first tab.
-    RainIntensitiesMissing,
-    DrainedAreaMissing,
-    FiltrationMissing,
-    DesignRainMissing,
-    // The checks of the calculate command; adjacent ones share one message box.
-    SwaleFiltrationNotPositive,
-    SafetyFactorNotPositive,
-    FillPorosityNotPositive,
-    TrenchHeightNotPositive,
-    TrenchWidthNotPositive,
-    InletDepthNotPositive,
-    FilterLayerNotPositive,
-    InnerDiameterNotPositive,
-    OuterDiameterNotPositive,
-    SeepagePathNotPositive,
-    SandLayerNotPositive,
-    SpecificInfiltrationNotPositive,
-    BottomLengthNotPositive,
-    BottomWidthNotPositive,
-    TankDepthNotPositive,
-    SideSlopeNegative,
-    ShaftOuterDiameterTooSmall,
-    // Verdicts of the designs.
-    InfiltrationAreaMissing,
-    SwaleTrenchAreaSufficient,
-    SwaleTrenchAreaInsufficient,
-    DrainOutflowMet,
-    DrainOutflowNotMet,
-    ShaftGroundwaterTooHigh,
-    ShaftBottomTooClose,
-    ShaftFilterSufficient,
-    ShaftFilterTooPermeable,
-    TankVolumeSufficient,
-    TankVolumeTooSmall,
-    TankInfiltrationProven,
-    TankInfiltrationExceeded,
-    // Run-time errors: the event is abandoned, what was stored before stays.
-    ErrorInvalidCall,
-    ErrorOverflow,
-    ErrorSubscript,
-    ErrorDivisionByZero,
-};
-
-inline constexpr std::size_t kVerdictCount = static_cast<std::size_t>(Verdict::ErrorDivisionByZero) + 1;
-
 /// How a message is meant, and which icon its box has.
 enum class Severity : std::uint8_t { Information, Warning, Refusal };
 
+/// An input or a quantity that a verdict speaks of.
+struct Subject {
+    const char* name;  ///< of the quantity, or the path of the input
+    const char* unit;
+    float data::DesignNumbers::*stored;
+};
+
+/// Most numbers that one verdict speaks of.
+inline constexpr std::size_t kMostSubjects = 3;
+
 struct VerdictInfo {
-    Verdict verdict = Verdict::RainIntensitiesMissing;
-    const char* code = "";  ///< stable: `shaft_bottom_too_close`
-    const char* text = "";  ///< Czech; empty for texts that carry numbers, see messages.h
-    Severity severity = Severity::Information;
+    VerdictId id;
+    const char* code;  ///< stable: `shaft_bottom_too_close`
+    /// Czech. "%1" stands for the number of comparedNumbers(), "%2" for the one that it is compared with.
+    const char* text;
+    Severity severity;
+    std::array<Subject, kMostSubjects> about{};  ///< ends at the first without a name
     bool titled_error = false;  ///< the box has the title "Chyba" instead of the application's
 };
 
-[[nodiscard]] const std::array<VerdictInfo, kVerdictCount>& verdicts();
-[[nodiscard]] const VerdictInfo& info(Verdict verdict);
+/// All verdicts in the order of their ids.
+[[nodiscard]] std::span<const VerdictInfo, kVerdictCount> verdicts();
+[[nodiscard]] const VerdictInfo& info(VerdictId id);
 
-/// Is it one of the input checks that are told together in one box?
-[[nodiscard]] constexpr bool isInputCheck(Verdict verdict) {
-    return verdict >= Verdict::SwaleFiltrationNotPositive && verdict <= Verdict::SideSlopeNegative;
-}
-[[nodiscard]] constexpr bool isRuntimeError(Verdict verdict) {
-    return verdict >= Verdict::ErrorInvalidCall;
-}
-/// The run-time error behind a verdict for which isRuntimeError() holds.
-[[nodiscard]] ErrorNumber errorNumber(Verdict verdict);
-[[nodiscard]] Verdict verdictOf(const RuntimeError& error);
+struct Verdict {
+    VerdictId id;
+    std::array<float, kMostSubjects> values;  ///< of the subjects of info(id), in their order
+
+    friend bool operator==(const Verdict& verdict, VerdictId id) { return verdict.id == id; }
+};
+
+/// What the verdict speaks of.
+[[nodiscard]] std::span<const Subject> subjects(VerdictId id);
+/// The Czech text with its numbers, without a line break at its end.
+[[nodiscard]] std::string text(const Verdict& verdict);
+
+/// The run-time error behind an id for which isRuntimeError() holds.
+[[nodiscard]] ErrorNumber errorNumber(VerdictId id);
+[[nodiscard]] VerdictId verdictOf(const RuntimeError& error);
 
 }  // namespace mero::design

@@ -3,6 +3,7 @@
 /// system. One object is injected; the window shows the real things, a script or a test records them.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -12,13 +13,20 @@ namespace mero::platform {
 
 enum class MessageIcon { None, Information, Exclamation, Critical };
 
+/// What a message is about; the rooms that make messages number them.
+enum class MessageId : std::uint8_t { None = 0 };
+
 /// A modal message with one OK button. Without a title the application's title shows.
 struct Message {
     std::string text;
     MessageIcon icon = MessageIcon::None;
     std::optional<std::string> title = std::nullopt;
+    MessageId id = MessageId::None;
 
-    friend bool operator==(const Message&, const Message&) = default;
+    /// Equal to the eye: the id is not shown.
+    friend bool operator==(const Message& a, const Message& b) {
+        return a.text == b.text && a.icon == b.icon && a.title == b.title;
+    }
 };
 
 /// The title of message boxes that set none of their own.

@@ -30,9 +30,10 @@ float withinLimits(float number) {
     return number;
 }
 
-[[noreturn]] void refuse(const Field& field, std::string_view text, std::span<const std::string> words = {}) {
+[[noreturn]] void refuse(const std::string& expectation, std::string_view text,
+                         std::span<const std::string> words = {}) {
     constexpr std::size_t kLongestText = 60;
-    std::string reason = "expected " + expected(field) + ", not \"" + shownText(text, kLongestText) + "\"";
+    std::string reason = "expected " + expectation + ", not \"" + shownText(text, kLongestText) + "\"";
     const std::string near = nearestName(text, words);
     if (!near.empty()) {
         reason += "; did you mean \"" + near + "\"?";
@@ -40,14 +41,8 @@ float withinLimits(float number) {
     throw std::invalid_argument(reason);
 }
 
-float numberOf(const Field& field, std::string_view text) {
-    float number = 0.0F;
-    try {
-        number = numbers::strictSingle(text);
-    } catch (const RuntimeError&) {
-        refuse(field, text);
-    }
-    return withinLimits(number);
+std::string expectedNumber(std::string_view unit) {
+    return unit.empty() ? "a number" : "a number [" + std::string(unit) + "]";
 }
 
 float choiceOf(const Field& field, std::string_view text) {
@@ -57,7 +52,7 @@ float choiceOf(const Field& field, std::string_view text) {
             return static_cast<float>(i);
         }
     }
-    refuse(field, text, words);
+    refuse(expected(field), text, words);
 }
 
 float stationOf(const Field& field, std::string_view text) {
@@ -68,18 +63,18 @@ float stationOf(const Field& field, std::string_view text) {
             return static_cast<float>(position);
         }
     }
-    refuse(field, text, std::span(tables.StaniceNazev).subspan(1));
+    refuse(expected(field), text, std::span(tables.StaniceNazev).subspan(1));
 }
 
 float periodicityOf(const Field& field, std::string_view text) {
-    const float number = numberOf(field, text);
+    const float number = numberValue(field.unit, text);
     const auto& periodicities = reference().Periodicita;
     for (std::size_t k = 0; k < periodicities.size(); ++k) {
         if (periodicities[k] == number) {
             return static_cast<float>(k);
         }
     }
-    refuse(field, text);
+    refuse(expected(field), text);
 }
 
 }  // namespace
@@ -93,6 +88,16 @@ const data::ReferenceTables& reference() {
     return kTables;
 }
 
+float numberValue(std::string_view unit, std::string_view text) {
+    float number = 0.0F;
+    try {
+        number = numbers::strictSingle(text);
+    } catch (const RuntimeError&) {
+        refuse(expectedNumber(unit), text);
+    }
+    return withinLimits(number);
+}
+
 float singleOf(double number) {
     if (!(std::fabs(number) <= kLargestNumber)) {
         throw std::invalid_argument("expected a number from -1e12 to 1e12");
@@ -102,10 +107,9 @@ float singleOf(double number) {
 }
 
 std::string expected(const Field& field) {
-    const std::string unit = field.unit;
     switch (field.kind) {
         case FieldKind::Number:
-            return unit.empty() ? "a number" : "a number [" + unit + "]";
+            return expectedNumber(field.unit);
         case FieldKind::WholeNumber:
             return "a whole number from -32768 to 32767";
         case FieldKind::Truth:
@@ -128,17 +132,17 @@ std::string expected(const Field& field) {
 float fieldValue(const Field& field, std::string_view text) {
     switch (field.kind) {
         case FieldKind::Number:
-            return numberOf(field, text);
+            return numberValue(field.unit, text);
         case FieldKind::WholeNumber: {
-            const float number = numberOf(field, text);
+            const float number = numberValue(field.unit, text);
             if (number != std::floor(number) || number < -32768.0F || number > 32767.0F) {
-                refuse(field, text);
+                refuse(expected(field), text);
             }
             return number;
         }
         case FieldKind::Truth:
             if (text != "true" && text != "false") {
-                refuse(field, text);
+                refuse(expected(field), text);
             }
             return text == "true" ? 1.0F : 0.0F;
         case FieldKind::Choice:

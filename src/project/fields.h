@@ -1,49 +1,28 @@
 // SPDX-License-Identifier: MIT
-/// Every single value of a project file: its path, what it takes, and where it is stored.
-/// One table serves the reader, the sweep, the document and the schema, so that they cannot differ.
+/// The single values of a project file: the inputs of a design by their paths, and where a project stores
+/// them.
 #pragma once
 
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "design/input.h"
+#include "design/text_input.h"
 #include "project/project.h"
 
 namespace mero::project {
 
-enum class FieldKind : std::uint8_t {
-    Number,
-    WholeNumber,
-    Truth,
-    Choice,       ///< one of a list of words
-    Station,      ///< name or number of a rain-gauge station
-    Periodicity,  ///< one of the seven periodicities
-};
+using Field = design::InputInfo;
+using FieldKind = design::InputKind;
 
-struct Field {
-    const char* path;  ///< "facility.trench_width_m"
-    FieldKind kind;
-    const char* label;  ///< Czech caption of its box
-    const char* unit;   ///< "" for a pure number or a choice
-    /// Stores a number as Single, a choice or station by its position, a truth as 0 or 1.
-    void (*store)(Inputs& inputs, float value);
-};
-
-[[nodiscard]] std::span<const Field> fields();
 /// The field of that path, null for none.
 [[nodiscard]] const Field* findField(std::string_view path);
+/// Stores a number as Single, a choice or station by its position, a truth as 0 or 1.
+void store(const Field& field, Inputs& inputs, float value);
 /// The words that a choice takes, in the order of their positions; empty for other kinds.
 [[nodiscard]] std::span<const std::string> choices(const Field& field);
-
-/// The texts of a project file.
-struct TextField {
-    const char* path = "";
-    std::string Texts::*text = nullptr;
-    bool several_lines = false;
-};
-[[nodiscard]] std::span<const TextField> textFields();
 
 /// Names that may stand in the object at that path ("" for the document), for checks and suggestions.
 [[nodiscard]] std::vector<std::string> namesIn(std::string_view object_path);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "calc/rain.h"
+#include "data/mod_public_variables.h"
 #include "design/facility.h"
 
 namespace mero::project {
@@ -38,14 +39,9 @@ struct Inputs {
     design::Facility facility;
 };
 
-/// All texts. They do not touch the results.
-struct Texts {
-    std::string name;
-    std::string designer;
-    std::string investor;
-    std::string site;
-    std::string description;  ///< lines ended by "\r\n", as a box of several lines holds them
-    std::string subsoil;
+/// All texts. They do not touch the results. The lines of the description end with "\r\n", as a box of
+/// several lines holds them.
+struct Texts : data::ProjectTexts {
     std::vector<std::string> surfaces;  ///< one for each partial area
 };
 

@@ -11,6 +11,7 @@
 #include <set>
 #include <vector>
 
+#include "platform/controls/text_box.h"
 #include "platform/numbers/number_text.h"
 #include "project/reference.h"
 #include "project/shown_text.h"
@@ -185,8 +186,8 @@ class Reader {
             readRow(value, path, project_.inputs.rain.intensities_l_s_ha);
         } else if (path == "$schema") {
             static_cast<void>(textOf(value, path, false));
-        } else if (const TextField* text = findText(path)) {
-            project_.texts.*(text->text) = textOf(value, path, text->several_lines);
+        } else if (const design::TextInputInfo* text = findText(path)) {
+            project_.texts.*(text->stored) = textOf(value, path, text->several_lines);
         } else {
             readObject(value, path);
             project_.inputs.facility.overflow.given |= path == "facility.overflow";
@@ -195,8 +196,8 @@ class Reader {
         project_.given.push_back(path);
     }
 
-    static const TextField* findText(const std::string& path) {
-        for (const TextField& field : textFields()) {
+    static const design::TextInputInfo* findText(const std::string& path) {
+        for (const design::TextInputInfo& field : design::textInputs()) {
             if (path == field.path) {
                 return &field;
             }
@@ -216,7 +217,7 @@ class Reader {
                                  : value.is_boolean() ? std::string(value.get<bool>() ? "true" : "false")
                                                       : numbers::general(value.get<double>());
         try {
-            field.store(project_.inputs, fieldValue(field, text));
+            store(field, project_.inputs, fieldValue(field, text));
         } catch (const std::invalid_argument& reason) {
             fail(field.path, reason.what());
         }
@@ -285,28 +286,17 @@ class Reader {
             object.contains("surface") ? textOf(object["surface"], path + ".surface", false) : std::string());
     }
 
-    /// Lines end by "\r\n" in the box of several lines; a box of one line takes no control character.
+    /// As a box takes it; a text that a box would change in silence is refused.
     std::string textOf(const json& value, const std::string& path, bool several_lines) const {
         if (!value.is_string()) {
             fail(path, "expected a text, not " + shortText(value));
         }
-        const auto text = value.get<std::string>();
-        std::string entered;
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            const char c = text[i];
-            if (several_lines && (c == '\n' || c == '\r')) {
-                entered += "\r\n";
-                if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
-                    ++i;
-                }
-            } else if (static_cast<unsigned char>(c) >= ' ' || (c == '\t' && several_lines)) {
-                entered += c;
-            } else {
-                fail(path, several_lines ? "expected a text without control characters"
-                                         : "expected a text on one line");
-            }
+        const platform::AcceptedText text = platform::acceptedText(value.get<std::string>(), several_lines);
+        if (text.dropped) {
+            fail(path, several_lines ? "expected a text without control characters"
+                                     : "expected a text on one line");
         }
-        return entered;
+        return text.text;
     }
 
     static std::string shortText(const json& value) {

@@ -27,6 +27,8 @@ class ProjectError : public std::runtime_error {
 /// The stored number of a value of that field, from the text that a command line gives.
 /// @throws std::invalid_argument with what was expected
 [[nodiscard]] float fieldValue(const Field& field, std::string_view text);
+/// A number in that unit ("" for none). @throws std::invalid_argument with what was expected
+[[nodiscard]] float numberValue(std::string_view unit, std::string_view text);
 /// What the field takes, for an error: "a number [m]", "one of: round, rectangular".
 [[nodiscard]] std::string expected(const Field& field);
 /// The Single of a number of a project file. @throws std::invalid_argument when it is too large

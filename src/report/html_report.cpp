@@ -4,6 +4,7 @@
 
 #include <cstddef>
 
+#include "design/text_input.h"
 #include "platform/numbers/number_text.h"
 #include "report/html_rows.h"
 #include "report/type_sections.h"
@@ -11,35 +12,47 @@
 namespace mero::report {
 namespace {
 
+using data::FacilityType;
+using design::TextInput;
+
+/// A row of the table of the project, without its end.
+std::string projectRow(std::string_view label, std::string_view value) {
+    std::string row = "<TR><TD width=200>";
+    row += label;
+    row += "</TD><TH align=left width=450>";
+    row += value;
+    return row += "</TH>";
+}
+
+std::string textRow(const ReportData& data, TextInput text) {
+    return projectRow(design::reportLabel(text), data.texts.*design::info(text).stored);
+}
+
 std::string projectTable(const ReportData& data) {
-    constexpr std::string_view kEndOfRow = "</TH></TR>";
+    constexpr std::string_view kEndOfRow = "</TR>";
     return line({
         "<html><body><div style=position:relative;width:650px;height:350px>",
         "<table border=0>",
-        "<TR><TD width=200>Název projektu</TD><TH align=left width=450>",
-        data.project_name,
-        "</TH><TD rowspan=4 width=210><img border=0 src=Webs\\Desc_soubory\\logo.gif></TD></TR>",
-        "<TR><TD width=200>Projektant</TD><TH align=left width=450>",
-        data.designer,
+        textRow(data, TextInput::ProjectName),
+        "<TD rowspan=4 width=210><img border=0 src=Webs\\Desc_soubory\\logo.gif></TD></TR>",
+        textRow(data, TextInput::Designer),
         kEndOfRow,
-        "<TR><TD width=200>Investor</TD><TH align=left width=450>",
-        data.investor,
+        textRow(data, TextInput::Investor),
         kEndOfRow,
-        "<TR><TD width=200>Místo akce</TD><TH align=left width=450>",
-        data.site,
+        textRow(data, TextInput::Place),
         kEndOfRow,
-        "<TR><TD width=200>Typ vsakování</TD><TH align=left width=450>",
-        data.infiltration_type_name,
+        projectRow(design::reportLabel(design::Input::Type), data.type_name),
         kEndOfRow,
         kTableEnd,
     });
 }
 
 std::string descriptionLine(const ReportData& data) {
-    if (data.description.empty()) {
+    if (data.texts.txtDetails.empty()) {
         return {};
     }
-    return line({"<br><u>Detailní popis</u><br><align=justify>", data.description, "</p>"});
+    return line({"<br><u>", design::reportLabel(TextInput::Description), "</u><br><align=justify>",
+                 data.texts.txtDetails, "</p>"});
 }
 
 /// The row of the chosen duration has header cells, which a browser shows bold.
@@ -50,7 +63,7 @@ std::string rainRow(float duration_min, float intensity_lsha, bool chosen) {
                  numbers::general(intensity_lsha), closing, "</tr>"});
 }
 
-std::string rainTable(const RainValues& rain) {
+std::string rainTable(const RainValues& rain, float chosen_duration_min) {
     std::string table = line({
         "<hr><u>Návrhový déšť</u> dešťoměrná stanice - <b>",
         rain.station,
@@ -60,9 +73,8 @@ std::string rainTable(const RainValues& rain) {
         "<tr><th width=150 align=center>Doba trvání deště (min)</th>",
         "<th width=150 align=center>Intenzita deště (l/s.ha)</th></tr>",
     });
-    for (std::size_t k = 0; k < rain.durations_min.size(); ++k) {
-        const float duration_min = rain.durations_min[k];
-        table += rainRow(duration_min, rain.intensities_lsha[k], duration_min == rain.chosen_duration_min);
+    for (const calc::Rain& row : rain.rows) {
+        table += rainRow(row.duration_min, row.intensity_l_s_ha, row.duration_min == chosen_duration_min);
     }
     return table + line({"</table><hr>"});
 }
@@ -83,22 +95,23 @@ std::string areaTable(const ReportData& data) {
 }
 
 std::string typeSection(const ReportData& data) {
-    switch (data.infiltration_type) {
-        case 1:
+    switch (data.type) {
+        case FacilityType::None:
+            break;
+        case FacilityType::Surface:
             return surfaceSection(data);
-        case 2:
+        case FacilityType::Swale:
             return swaleSection(data);
-        case 3:
+        case FacilityType::SwaleTrench:
             return combinedSection(data);
-        case 4:
+        case FacilityType::Trench:
             return trenchSection(data);
-        case 5:
+        case FacilityType::Shaft:
             return shaftSection(data);
-        case 6:
+        case FacilityType::Tank:
             return tankSection(data);
-        default:
-            return {};
     }
+    return {};
 }
 
 std::string footLine(const ReportData& data) {
@@ -109,8 +122,8 @@ std::string footLine(const ReportData& data) {
 }  // namespace
 
 std::string htmlReport(const ReportData& data) {
-    return projectTable(data) + descriptionLine(data) + rainTable(data.rain) + areaTable(data) +
-           typeSection(data) + footLine(data);
+    return projectTable(data) + descriptionLine(data) + rainTable(data.rain, data.numbers.VybranaDoba) +
+           areaTable(data) + typeSection(data) + footLine(data);
 }
 
 }  // namespace mero::report

@@ -31,6 +31,16 @@ std::string valueRow(std::string_view label, std::string_view value, std::string
     return row;
 }
 
+std::string inputRow(const ReportData& data, design::Input input, std::string_view closing) {
+    return valueRow(design::reportLabel(input), twoDecimals(data.numbers.*design::info(input).stored),
+                    closing);
+}
+
+std::string resultRow(const ReportData& data, design::Quantity quantity, std::string_view closing) {
+    return valueRow(design::reportLabel(quantity, data.type),
+                    twoDecimals(data.numbers.*design::info(quantity).stored), closing);
+}
+
 std::string optionHeader(std::string_view caption) {
     std::string rows = "<TR><TD>-</TD><TD><TD></TD></TR><TR><TD valign=bottom width=200><i><u>";
     rows += caption;
@@ -38,6 +48,16 @@ std::string optionHeader(std::string_view caption) {
         "</u></i></TD><TH valign=bottom align=right width=200></TH>"
         "<TH valign=bottom align=left width=250></TH></TR>";
     return rows;
+}
+
+std::string withBreakTags(std::string text) {
+    constexpr std::string_view kLineEnd = "\r\n";
+    constexpr std::string_view kTag = "<br>";
+    for (std::size_t at = text.find(kLineEnd); at != std::string::npos;
+         at = text.find(kLineEnd, at + kTag.size())) {
+        text.replace(at, kLineEnd.size(), kTag);
+    }
+    return text;
 }
 
 }  // namespace mero::report

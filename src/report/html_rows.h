@@ -6,6 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "design/input.h"
+#include "design/quantity.h"
+#include "report/report_data.h"
+
 namespace mero::report {
 
 /// The pieces one after another, ended by CR LF.
@@ -54,6 +58,11 @@ inline constexpr std::string_view kRuleRow = "<TR><TD valign=bottom colspan=3><h
 
 /// A row of label, value and closing cell.
 [[nodiscard]] std::string valueRow(std::string_view label, std::string_view value, std::string_view closing);
+
+/// The row of an input or a result of the design with two decimals, under its label of the report.
+[[nodiscard]] std::string inputRow(const ReportData& data, design::Input input, std::string_view closing);
+[[nodiscard]] std::string resultRow(const ReportData& data, design::Quantity quantity,
+                                    std::string_view closing);
 
 /// The row that introduces an option of the design, after a row with a dash.
 [[nodiscard]] std::string optionHeader(std::string_view caption);

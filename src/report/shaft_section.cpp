@@ -7,15 +7,18 @@
 namespace mero::report {
 namespace {
 
+using design::Input;
+using design::Quantity;
+
 /// One line for a round shaft, two for a rectangular one, none for any other shape.
-std::string crossSectionLines(const ShaftValues& shaft) {
-    if (shaft.shape == 0) {
-        return line(
-            {valueRow("Vnitřní průměr šachty", twoDecimals(shaft.inner_diameter_m), unit::kMetresOpen)});
-    }
-    if (shaft.shape == 1) {
-        return line({valueRow("Šířka šachty", twoDecimals(shaft.side1_m), unit::kMetresOpen)}) +
-               line({valueRow("Délka šachty", twoDecimals(shaft.side2_m), unit::kMetresOpen)});
+std::string crossSectionLines(const ReportData& data) {
+    switch (data.options.shape) {
+        case data::ShaftShape::Round:
+            return line({resultRow(data, Quantity::ShaftInnerDiameter, unit::kMetresOpen)});
+        case data::ShaftShape::Rectangular:
+            return line({valueRow(design::reportLabel(Input::InnerWidth),
+                                  twoDecimals(data.numbers.shaft_side1_m), unit::kMetresOpen)}) +
+                   line({inputRow(data, Input::InnerLength, unit::kMetresOpen)});
     }
     return {};
 }
@@ -23,33 +26,32 @@ std::string crossSectionLines(const ShaftValues& shaft) {
 }  // namespace
 
 std::string shaftSection(const ReportData& data) {
-    const ShaftValues& shaft = data.shaft;
     std::string section = line({
         siteInputs(data),
         kResultsHeading,
         kTableStart,
-        valueRow("Součinitel bezpečnosti", twoDecimals(data.safety_factor), unit::kNoneOpen),
-        valueRow("Nezámrzná hloubka přítoku", twoDecimals(shaft.inflow_depth_m), unit::kMetresOpen),
-        valueRow("Typ šachty", shaft.ring, unit::kNoneOpen),
-        valueRow("Počet šachet", numbers::general(shaft.count), unit::kNoneOpen),
+        inputRow(data, Input::SafetyFactor, unit::kNoneOpen),
+        inputRow(data, Input::InletDepth, unit::kMetresOpen),
+        valueRow(design::reportLabel(Input::CatalogueShaft), data.options.ring, unit::kNoneOpen),
+        valueRow(design::reportLabel(Input::ShaftCount), numbers::general(data.numbers.txtSachtyCount),
+                 unit::kNoneOpen),
     });
-    section += crossSectionLines(shaft);
+    section += crossSectionLines(data);
     section += line({
-        valueRow("Tloušťka stěny", twoDecimals(shaft.wall_thickness_m), unit::kMetresOpen),
-        valueRow("Výška vzdutí", twoDecimals(data.water_depth_m), unit::kMetresOpen),
-        valueRow("Výška filtrační vrstvy", twoDecimals(shaft.filter_layer_m), unit::kMetresOpen),
+        inputRow(data, Input::WallThickness, unit::kMetresOpen),
+        resultRow(data, Quantity::WaterDepth, unit::kMetresOpen),
+        inputRow(data, Input::FilterLayer, unit::kMetresOpen),
     });
-    if (shaft.sand_layer) {
-        section += line(
-            {valueRow("Výška vrstvy písku/jem. štěrku", twoDecimals(shaft.sand_layer_m), unit::kMetresOpen)});
+    if (data.options.sand_layer) {
+        section += line({inputRow(data, Input::SandLayer, unit::kMetresOpen)});
     }
     section += line({
         kRuleRow,
-        valueRow("Potřebná hloubka šachty", twoDecimals(shaft.required_depth_m), unit::kMetresOpen),
-        valueRow("Min. hloubka podzemní vody", twoDecimals(shaft.min_groundwater_depth_m), unit::kMetresOpen),
-        valueRow("Potřebný součinitel filtrace filtru", scientific(shaft.required_filtration_m_s),
-                 unit::kMetresPerSecondOpen),
-        valueRow("Vsakovací plocha", twoDecimals(data.infiltration_area_m2), unit::kSquareMetresOpen),
+        resultRow(data, Quantity::ShaftDepth, unit::kMetresOpen),
+        resultRow(data, Quantity::RequiredGroundwaterDepth, unit::kMetresOpen),
+        valueRow(design::reportLabel(Quantity::RequiredFilterPermeability, data.type),
+                 scientific(data.numbers.txtSoucFiltrPruleh), unit::kMetresPerSecondOpen),
+        resultRow(data, Quantity::InfiltrationArea, unit::kSquareMetresOpen),
         kTableEnd,
     });
     return section;

@@ -5,22 +5,24 @@
 
 namespace mero::report {
 
+using design::Input;
+using design::Quantity;
+
 std::string siteInputs(const ReportData& data) {
     std::string block(kTableStart);
-    block += valueRow("Celková odvodňovaná plocha", twoDecimals(data.drained_area_m2), unit::kSquareMetres);
-    block += valueRow("Součinitel filtrace podloží", scientific(data.subsoil_filtration_m_s),
+    block += resultRow(data, Quantity::ReducedArea, unit::kSquareMetres);
+    block += valueRow(design::reportLabel(Input::Filtration), scientific(data.numbers.txtSoucFiltrace),
                       "</TH><TD valign=bottom align=left width=250><b>m/s - </b>(");
-    block += data.subsoil;
+    block += data.texts.txtTypPudyPodlozi;
     block += ")</TD></TR>";
-    block += valueRow("Hladina podzemní vody", twoDecimals(data.groundwater_depth_m), unit::kMetres);
+    block += inputRow(data, Input::Groundwater, unit::kMetres);
     block += "</table><br><hr>";
     return block;
 }
 
 std::string surfaceSection(const ReportData& data) {
     return line({siteInputs(data), kResultsHeading, kTableStart,
-                 valueRow("Vsakovací plocha", twoDecimals(data.infiltration_area_m2),
-                          unit::kSquareMetresEndOfTable)});
+                 resultRow(data, Quantity::InfiltrationArea, unit::kSquareMetresEndOfTable)});
 }
 
 std::string swaleSection(const ReportData& data) {
@@ -28,13 +30,13 @@ std::string swaleSection(const ReportData& data) {
         siteInputs(data),
         kResultsHeading,
         kTableStart,
-        valueRow("Typ půdy", data.swale.soil_caption, unit::kNone),
-        valueRow("Součinitel bezpečnosti", twoDecimals(data.safety_factor), unit::kNone),
+        valueRow(design::reportLabel(Input::Soil), data.options.soil_caption, unit::kNone),
+        inputRow(data, Input::SafetyFactor, unit::kNone),
         kRuleRow,
-        valueRow("Vsakovací plocha", twoDecimals(data.infiltration_area_m2), unit::kSquareMetres),
-        valueRow("Objem akumulace průlehu", twoDecimals(data.storage_volume_m3), unit::kCubicMetres),
-        valueRow("Výška vzdutí", twoDecimals(data.water_depth_m), unit::kMetres),
-        valueRow("Doba prázdnění průlehu", twoDecimals(data.swale.emptying_time_h), unit::kHours),
+        resultRow(data, Quantity::InfiltrationArea, unit::kSquareMetres),
+        resultRow(data, Quantity::StorageVolume, unit::kCubicMetres),
+        resultRow(data, Quantity::WaterDepth, unit::kMetres),
+        resultRow(data, Quantity::EmptyingTime, unit::kHours),
         kTableEnd,
     });
 }

@@ -5,32 +5,33 @@
 
 namespace mero::report {
 
+using design::Input;
+using design::Quantity;
+
 std::string tankSection(const ReportData& data) {
-    const TankValues& tank = data.tank;
     std::string section = line({
         siteInputs(data),
         kResultsHeading,
         kTableStart,
-        valueRow("Součinitel bezpečnosti", twoDecimals(data.safety_factor), unit::kNoneOpen),
-        // The unit of the bottom length stands one row too high: the report's required wording.
-        valueRow("Specifická vsakovací intenzita", twoDecimals(tank.specific_infiltration_lsha),
-                 unit::kMetresOpen),
-        valueRow("Délka dna nádrže", twoDecimals(tank.bottom_length_m), unit::kNoneOpen),
-        valueRow("Šířka dna nádrže", twoDecimals(tank.bottom_width_m), unit::kMetresOpen),
-        valueRow("Hloubka nádrže", twoDecimals(tank.depth_m), unit::kMetresOpen),
-        valueRow("Sklon svahů nádrže", "1 : ", "</TH><TH valign=bottom align=left width=250>"),
-        twoDecimals(tank.side_slope),
+        inputRow(data, Input::SafetyFactor, unit::kNoneOpen),
+        // The unit of the bottom length stands one row too high; the report's bytes are a fixed interface.
+        inputRow(data, Input::SpecificInfiltration, unit::kMetresOpen),
+        inputRow(data, Input::BottomLength, unit::kNoneOpen),
+        inputRow(data, Input::BottomWidth, unit::kMetresOpen),
+        inputRow(data, Input::TankDepth, unit::kMetresOpen),
+        valueRow(design::reportLabel(Input::SideSlope),
+                 "1 : ", "</TH><TH valign=bottom align=left width=250>"),
+        twoDecimals(data.numbers.txtSklonSvahuNadrz),
         "</TH>",
     });
-    if (tank.upstream_settling) {
-        section += line({optionHeader("Předsazené usazování")});
+    if (data.options.upstream_settling) {
+        section += line({optionHeader(design::reportLabel(Input::UpstreamSettling))});
     }
     section += line({
         kRuleRow,
-        valueRow("Vsakovací tok", twoDecimals(tank.infiltration_flow_m3_s), unit::kCubicMetresPerSecondOpen),
-        valueRow("Potřebný objem akumulace", twoDecimals(data.storage_volume_m3), unit::kCubicMetresOpen),
-        valueRow("Objem dle rozměrů nádrže", twoDecimals(tank.volume_by_dimensions_m3),
-                 unit::kCubicMetresOpen),
+        resultRow(data, Quantity::InfiltrationFlow, unit::kCubicMetresPerSecondOpen),
+        resultRow(data, Quantity::StorageVolume, unit::kCubicMetresOpen),
+        resultRow(data, Quantity::TankVolume, unit::kCubicMetresOpen),
         kTableEnd,
     });
     return section;

@@ -6,37 +6,33 @@
 namespace mero::report {
 namespace {
 
-std::string trenchRows(const TrenchValues& trench) {
-    return valueRow("Pórovitost výplně rýhy", twoDecimals(trench.fill_porosity), unit::kNone) +
-           valueRow("Šířka rýhy (střední)", twoDecimals(trench.width_m), unit::kMetres) +
-           valueRow("Výška rýhy", twoDecimals(trench.height_m), unit::kMetres);
+using design::Input;
+using design::Quantity;
+
+std::string trenchRows(const ReportData& data) {
+    return inputRow(data, Input::FillPorosity, unit::kNone) +
+           inputRow(data, Input::TrenchWidth, unit::kMetres) +
+           inputRow(data, Input::TrenchHeight, unit::kMetres);
 }
 
-std::string pipeDiameterRows(const PipeValues& pipes) {
-    return valueRow("Vnitřní průměr vsakovací trouby", twoDecimals(pipes.inner_diameter_mm),
-                    unit::kMillimetres) +
-           valueRow("Vnější průměr vsakovací trouby", twoDecimals(pipes.outer_diameter_mm),
-                    unit::kMillimetres);
-}
-
-std::string throttledOverflowLine(const PipeValues& pipes) {
+std::string throttledOverflowLine(const ReportData& data) {
     return line({
-        optionHeader("Přetok a škrcený odtok"),
-        pipeDiameterRows(pipes),
-        valueRow("Škrcená odtoková intenzita", twoDecimals(pipes.throttled_outflow_lsha),
-                 unit::kLitresPerSecondHectare),
-        valueRow("Počet potrubí", twoDecimals(pipes.count), unit::kNone),
+        optionHeader(design::kOverflowCaption),
+        inputRow(data, Input::OverflowInnerDiameter, unit::kMillimetres),
+        inputRow(data, Input::OverflowOuterDiameter, unit::kMillimetres),
+        inputRow(data, Input::ThrottledOutflow, unit::kLitresPerSecondHectare),
+        inputRow(data, Input::OverflowPipeCount, unit::kNone),
     });
 }
 
-std::string drainLine(const PipeValues& pipes) {
+std::string drainLine(const ReportData& data) {
     return line({
-        optionHeader("Drenáž"),
-        pipeDiameterRows(pipes),
-        valueRow("Počet potrubí", twoDecimals(pipes.count), unit::kNone),
-        valueRow("Výstupní plocha", twoDecimals(pipes.outlet_area_cm2_per_m),
-                 unit::kSquareCentimetresPerMetre),
-        valueRow("Výstupní rychlost", twoDecimals(pipes.outlet_velocity_m_s), unit::kMetresPerSecond),
+        optionHeader(design::kDrainCaption),
+        inputRow(data, Input::DrainInnerDiameter, unit::kMillimetres),
+        inputRow(data, Input::DrainOuterDiameter, unit::kMillimetres),
+        inputRow(data, Input::DrainPipeCount, unit::kNone),
+        inputRow(data, Input::OutletArea, unit::kSquareCentimetresPerMetre),
+        inputRow(data, Input::OutletVelocity, unit::kMetresPerSecond),
     });
 }
 
@@ -47,23 +43,23 @@ std::string combinedSection(const ReportData& data) {
         siteInputs(data),
         kResultsHeading,
         kTableStart,
-        valueRow("Typ půdy", data.swale.soil_caption, unit::kNone),
-        valueRow("Součinitel filtrace průlehu", scientific(data.swale.filtration_m_s),
+        valueRow(design::reportLabel(Input::Soil), data.options.soil_caption, unit::kNone),
+        valueRow(design::reportLabel(Input::SwaleFiltration), scientific(data.numbers.txtSoucFiltrPruleh),
                  unit::kMetresPerSecond),
-        valueRow("Součinitel bezpečnosti", twoDecimals(data.safety_factor), unit::kNone),
-        trenchRows(data.trench),
+        inputRow(data, Input::SafetyFactor, unit::kNone),
+        trenchRows(data),
     });
-    if (data.pipes.throttled_overflow) {
-        section += throttledOverflowLine(data.pipes);
+    if (data.options.overflow) {
+        section += throttledOverflowLine(data);
     }
     section += line({
         kRuleRow,
-        valueRow("Vsakovací plocha", twoDecimals(data.infiltration_area_m2), unit::kSquareMetres),
-        valueRow("Objem akumulace průlehu", twoDecimals(data.storage_volume_m3), unit::kCubicMetresOpen),
-        valueRow("Délka vsakovací rýhy", twoDecimals(data.trench.length_m), unit::kMetresOpen),
-        valueRow("Šířka průlehu", twoDecimals(data.swale.width_m), unit::kMetresOpen),
-        valueRow("Hloubka průlehu (výška vzdutí)", twoDecimals(data.swale.depth_m), unit::kMetresOpen),
-        valueRow("Doba prázdnění průlehu", twoDecimals(data.swale.emptying_time_h), unit::kHoursOpen),
+        resultRow(data, Quantity::InfiltrationArea, unit::kSquareMetres),
+        resultRow(data, Quantity::StorageVolume, unit::kCubicMetresOpen),
+        resultRow(data, Quantity::TrenchLength, unit::kMetresOpen),
+        resultRow(data, Quantity::SwaleWidth, unit::kMetresOpen),
+        resultRow(data, Quantity::SwaleDepth, unit::kMetresOpen),
+        resultRow(data, Quantity::EmptyingTime, unit::kHoursOpen),
         kTableEnd,
     });
     return section;
@@ -74,18 +70,17 @@ std::string trenchSection(const ReportData& data) {
         siteInputs(data),
         kResultsHeading,
         kTableStart,
-        valueRow("Součinitel bezpečnosti", twoDecimals(data.safety_factor), unit::kNone),
-        trenchRows(data.trench),
+        inputRow(data, Input::SafetyFactor, unit::kNone),
+        trenchRows(data),
     });
-    if (data.pipes.drain) {
-        section += drainLine(data.pipes);
+    if (data.options.drain) {
+        section += drainLine(data);
     }
     section += line({
         kRuleRow,
-        valueRow("Vsakovací plocha", twoDecimals(data.infiltration_area_m2), unit::kSquareMetres),
-        // The label says swale although the volume is the trench's: the report's required wording.
-        valueRow("Objem akumulace průlehu", twoDecimals(data.storage_volume_m3), unit::kCubicMetresOpen),
-        valueRow("Délka vsakovací rýhy", twoDecimals(data.trench.length_m), unit::kMetresOpen),
+        resultRow(data, Quantity::InfiltrationArea, unit::kSquareMetres),
+        resultRow(data, Quantity::StorageVolume, unit::kCubicMetresOpen),
+        resultRow(data, Quantity::TrenchLength, unit::kMetresOpen),
         kTableEnd,
     });
     return section;

@@ -75,12 +75,12 @@ void CsvTable::appendRow(const VariantWalk& walk, std::string& text) const {
         text += ',';
     }
     bool first = true;
-    for (const design::Verdict verdict : result.verdicts.all()) {
+    for (const design::Verdict& verdict : result.verdicts.all()) {
         if (!first) {
             text += ' ';
         }
         first = false;
-        text += design::info(verdict).code;
+        text += design::info(verdict.id).code;
     }
     text += ',';
     if (const auto error = result.firstError()) {

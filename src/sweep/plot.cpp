@@ -19,6 +19,8 @@ constexpr double kWideSpread = 50.0;
 
 Quantity mainResult(design::FacilityType type) {
     switch (type) {
+        case design::FacilityType::None:
+            break;
         case design::FacilityType::Surface:
             return Quantity::InfiltrationArea;
         case design::FacilityType::SwaleTrench:
@@ -145,10 +147,12 @@ Chart plotOf(const Variants& variants, const project::RainStore& rain, const Plo
     const Variation& over = all[plan.over];
     const design::QuantityInfo& result = design::info(plan.result);
     Chart chart;
-    chart.title = result.label;
+    // Panels may call a result differently; the first variant's type decides.
+    const char* caption = design::captionOf(plan.result, VariantWalk(variants, 0).inputs().facility.type);
+    chart.title = caption;
     chart.subtitle = heldValues(variants, plan);
     chart.x = {withUnit(over.label(), over.unit()), over.isLogarithmic()};
-    chart.y.label = withUnit(result.label, result.unit);
+    chart.y.label = withUnit(caption, result.unit);
     for (std::size_t i = 0; i < over.size(); ++i) {
         chart.x_values.push_back(over.magnitude(i));
     }

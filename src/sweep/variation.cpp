@@ -66,7 +66,7 @@ bool isGiven(const project::Project& project, const std::string& path) {
 
 std::string unknownPath(const std::string& path) {
     std::vector<std::string> paths;
-    for (const project::Field& field : project::fields()) {
+    for (const project::Field& field : design::inputs()) {
         paths.emplace_back(field.path);
     }
     const std::string near = project::nearestName(path, paths);
@@ -108,8 +108,8 @@ void Variation::takeField(const project::Field& field, std::string_view values,
     if (field.kind == FieldKind::Station && isGiven(project, "rain.intensities_l_s_ha")) {
         throw std::invalid_argument("the project has own intensities in the place of a station");
     }
-    store_ = field.store;
-    label_ = field.label;
+    field_ = &field;
+    label_ = design::captionOf(field.input);
     unit_ = field.unit;
     numeric_ = isNumber(field) || field.kind == FieldKind::Periodicity;
     if (values == kAll) {
@@ -183,8 +183,7 @@ void Variation::takeArea(std::string_view values, const project::Project& projec
         wanted = range->numbers;
     } else {
         for (const std::string_view item : split(values, ',')) {
-            const project::Field any{path_.c_str(), FieldKind::Number, "", unit_.c_str(), nullptr};
-            wanted.push_back(static_cast<double>(project::fieldValue(any, item)));
+            wanted.push_back(static_cast<double>(project::numberValue(unit_, item)));
         }
     }
     takeNumbers(wanted);
@@ -213,8 +212,8 @@ double Variation::magnitude(std::size_t index) const {
 }
 
 void Variation::apply(project::Inputs& inputs, std::size_t index) const {
-    if (store_ != nullptr) {
-        store_(inputs, values_[index]);
+    if (field_ != nullptr) {
+        project::store(*field_, inputs, values_[index]);
     } else {
         inputs.areas[area_].*member_ = values_[index];
     }

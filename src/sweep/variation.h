@@ -59,8 +59,8 @@ class Variation {
     bool numeric_ = false;
     bool logarithmic_ = false;
 
-    void (*store_)(project::Inputs&, float) = nullptr;
-    std::size_t area_ = 0;                           ///< without `store_`: the partial area
+    const project::Field* field_ = nullptr;          ///< null for a value of a partial area
+    std::size_t area_ = 0;                           ///< without `field_`: the partial area
     float project::PartialArea::*member_ = nullptr;  ///< and its member
 };
 

@@ -77,13 +77,23 @@ std::vector<std::string> linesOf(std::string text) {
 
 std::string messageLines(const design::DesignResult& result) {
     std::string text;
-    for (const design::Message& message : design::messages(result)) {
+    for (const design::Message& message : design::messages(result.verdicts.all())) {
         for (const std::string& line : linesOf(message.text)) {
             text += sign(message.severity) + line;
             text += message.error_number == 0 ? "\n" : " (" + automation::json(message.error_number) + ")\n";
         }
     }
     return text;
+}
+
+/// The inputs and results that the verdict speaks of, with their values.
+std::string subjectsJson(const design::Verdict& verdict) {
+    JsonLine about;
+    const auto subjects = design::subjects(verdict.id);
+    for (std::size_t i = 0; i < subjects.size(); ++i) {
+        about.add(subjects[i].name, verdict.values[i]);
+    }
+    return about.text();
 }
 
 }  // namespace
@@ -94,10 +104,10 @@ std::string resultTable(const project::Project& project, const design::DesignRes
     std::size_t label_columns = 0;
     for (const design::QuantityInfo& quantity : design::quantities()) {
         if (design::belongsTo(quantity.quantity, type)) {
-            label_columns = std::max(label_columns, width(quantity.label));
+            label_columns = std::max(label_columns, width(design::captionOf(quantity.quantity, type)));
         }
     }
-    std::string text = project.texts.name.empty() ? "" : project.texts.name + "\n";
+    std::string text = project.texts.txtProjName.empty() ? "" : project.texts.txtProjName + "\n";
     text += project::reference().TypyZasakovani[static_cast<std::size_t>(type)] + "\n\n";
     for (const design::QuantityInfo& quantity : design::quantities()) {
         if (design::belongsTo(quantity.quantity, type)) {
@@ -105,8 +115,9 @@ std::string resultTable(const project::Project& project, const design::DesignRes
                 result.has(quantity.quantity)
                     ? design::boxText(quantity.quantity, type, result.written(quantity.quantity))
                     : "-";
-            text += "  " + padded(quantity.label, label_columns) + rightAligned(value, kValueColumns) +
-                    (*quantity.unit == '\0' ? "" : " ") + quantity.unit + "\n";
+            text += "  " + padded(design::captionOf(quantity.quantity, type), label_columns) +
+                    rightAligned(value, kValueColumns) + (*quantity.unit == '\0' ? "" : " ") + quantity.unit +
+                    "\n";
         }
     }
     const std::string told = messageLines(result);
@@ -124,15 +135,17 @@ std::string resultJson(const project::Project& project, const design::DesignResu
         }
     }
     std::vector<std::string> told;
-    for (const design::Verdict verdict : result.verdicts.all()) {
+    for (const design::Verdict& verdict : result.verdicts.all()) {
+        const design::VerdictInfo& row = design::info(verdict.id);
         told.push_back(JsonLine()
-                           .add("code", design::info(verdict).code)
-                           .add("severity", nameOf(design::info(verdict).severity))
-                           .add("text", design::verdictText(result, verdict))
+                           .add("code", row.code)
+                           .add("severity", nameOf(row.severity))
+                           .add("text", design::text(verdict))
+                           .addJson("about", subjectsJson(verdict))
                            .text());
     }
     JsonLine line;
-    line.add("project", project.texts.name)
+    line.add("project", project.texts.txtProjName)
         .add("type", typeName(type))
         .add("completed", result.completed)
         .addJson("results", results.text())

@@ -99,7 +99,9 @@ class Mero {
           window_(kit_, program_.window(),
                   {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}) {
         real_desk_.setMainWindow(&window_);
-        real_desk_.message_closed = [this](const std::string& text) { window_.returnToField(text); };
+        real_desk_.message_closed = [this](const platform::Message& message) {
+            window_.returnToField(message);
+        };
         program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
     }
 

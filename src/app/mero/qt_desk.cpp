@@ -61,7 +61,7 @@ void QtDesk::showMessage(const platform::Message& message) {
             below->activateWindow();
         }
         if (message_closed) {
-            message_closed(message.text);
+            message_closed(message);
         }
         return;
     }

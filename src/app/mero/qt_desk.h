@@ -25,7 +25,7 @@ class QtDesk : public platform::Desk {
     void setMainWindow(QWidget* window) { main_window_ = window; }
 
     /// Called after a person has closed a message box.
-    std::function<void(const std::string& text)> message_closed;
+    std::function<void(const platform::Message& message)> message_closed;
 
     void showMessage(const platform::Message& message) override;
     void reportError(const RuntimeError& error) override;

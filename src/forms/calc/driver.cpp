@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-/// The calculation's driver: re-selecting the type after a common input changed, clearing results, and the
-/// calculate command with its input checks.
+/// The calculation's driver: re-selects the type after a common input changed, clears results, and runs the
+/// design procedures of the type over the window.
+#include "design/procedures.h"
 #include "forms/calc/frm_calc.h"
-#include "forms/calc/input_checks.h"
 
 namespace mero::forms {
 
@@ -10,63 +10,60 @@ void frmCalc::RebuildCalc() {
     optSelType[TypeGroup].setSelected(true);
     hideResultPanels();
     // The type is the one that the re-run group choice left, not the one that was shown before.
-    cboSelType.selectText(values_->TypyZasakovani[static_cast<std::size_t>(SelectedType)]);
+    cboSelType.selectText(values_->TypyZasakovani[index(SelectedType)]);
 }
 
 void frmCalc::ClearTypeResults() {
+    WindowSink sink(*this, SelectedType);
+    design::clearBoxes(sink, SelectedType);
     switch (SelectedType) {
-        case kSurface:
-            txtVsakPlocha[kSurface].setText("0");
+        case FacilityType::Surface:
             CalcInfiltArea();
             break;
-        case kSwale:
-            txtVsakPlocha[kSwale].setText("");
-            txtObjAkum[kSwale].setText("");
-            txtVyskaVzduti[kSwale].setText("");
-            txtDobaPrazdneni[kSwale].setText("");
+        case FacilityType::Swale:
             optSelTypPudy2[SoilVariant].setSelected(true);
             break;
-        case kSwaleTrench:
-            txtVsakPlocha[kSwaleTrench].setText("");
-            txtObjAkum[kSwaleTrench].setText("");
-            txtDelkaRyhy[kSwaleTrench].setText("");
-            txtSirkaPrulehu[kSwaleTrench].setText("");
-            txtHloubkaPrulehu[kSwaleTrench].setText("");
-            txtDobaPrazdneni[kSwaleTrench].setText("");
+        case FacilityType::SwaleTrench:
             optSelTypPudy3[SoilVariant].setSelected(true);
             break;
-        case kTrench:
-            txtVsakPlocha[kTrench].setText("");
-            txtObjAkum[kTrench].setText("");
-            txtDelkaRyhy[kTrench].setText("");
-            break;
-        case kShaft:
+        case FacilityType::Shaft:
             optSelTypPudy5[SoilVariant].setSelected(false);
             optSelTypPudy5[SoilVariant].setSelected(true);
             break;
-        default:
+        case FacilityType::None:
+        case FacilityType::Trench:
+        case FacilityType::Tank:
             break;
     }
 }
 
+void frmCalc::CalcInfiltArea() {
+    WindowSink sink(*this, SelectedType);
+    design::calculateArea(sink, SelectedType);
+}
+
+void frmCalc::CalcDesign() {
+    WindowSink sink(*this, SelectedType);
+    design::calculateDesign(sink, SelectedType);
+}
+
 void frmCalc::cmdCalcul_Click(int Index) {
-    if (Index < kSwaleTrench || Index > kTank) {
+    const auto type = static_cast<FacilityType>(Index);
+    WindowSink sink(*this, type);
+    const bool calculated_live = type == FacilityType::Surface || type == FacilityType::Swale;
+    if (calculated_live || !design::passChecks(sink, type, optSelTypPudy5[1].selected())) {
         return;
     }
-    const bool sand_layer = optSelTypPudy5[1].selected();
-    const std::string problems = failedChecks(Index, *values_, sand_layer);
-    if (!problems.empty()) {
-        error(problems);
-        return;
-    }
-    if (Index == kShaft) {
-        if (values_->D_a <= values_->D_i) {
-            error("Vnější průměr šachty je menší než vnitřní průměr.");
-            return;
-        }
+    if (type == FacilityType::Shaft) {
         CalcInfiltArea();
     }
     CalcDesign();
+}
+
+void frmCalc::cmdOK_Click(int Index) {
+    const auto type = static_cast<FacilityType>(Index);
+    WindowSink sink(*this, type);
+    design::confirmPipes(sink, type);
 }
 
 }  // namespace mero::forms

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 /// The main window's construction: which handler serves which control.
-/// Field rules that only store a number are bound here; all others have a handler of their own.
+/// Fields that only store a text or a number are bound by the tables; all others have a handler of their own.
 #include "forms/calc/frm_calc.h"
 
+#include "design/input.h"
+#include "design/text_input.h"
 #include "forms/calc/field_rules.h"
 
 namespace mero::forms {
@@ -13,6 +15,7 @@ frmCalc::frmCalc(data::modPublicVariables& values, const Surroundings& surroundi
       areaDialog(*this, surroundings.desk, values, {txtOdvodNepPlocha, txtOdtokDoVsak}),
       coefDialog(*this, surroundings.desk, values,
                  {txtSoucFiltrace, txtTypPudyPodlozi, [this] { RebuildCalc(); }}),
+      result_boxes_(*this),
       values_(&values),
       desk_(&surroundings.desk),
       clock_(&surroundings.clock),
@@ -26,17 +29,11 @@ frmCalc::frmCalc(data::modPublicVariables& values, const Surroundings& surroundi
 }
 
 void frmCalc::bindInputs() {
-    const auto copies = [](TextBox& box, std::string& stored) {
-        box.changed = [&box, &stored] { stored = box.text(); };
-    };
-    copies(txtProjName, values_->txtProjName);
-    copies(txtProjektant, values_->txtProjektant);
-    copies(txtMistoAkce, values_->txtMistoAkce);
-    copies(txtInvestor, values_->txtInvestor);
-    copies(txtDetails, values_->txtDetails);
-    copies(txtTypPudyPodlozi, values_->txtTypPudyPodlozi);
-
-    txtHPV.changed = [this] { storeNumber(txtHPV, values_->txtHPV); };
+    for (const design::TextInputInfo& row : design::textInputs()) {
+        TextBox& box = textBox(row.box);
+        box.changed = [&box, &stored = values_->*row.stored] { stored = box.text(); };
+    }
+    bindNumber(txtHPV, &data::DesignNumbers::txtHPV);
     txtOdvodNepPlocha.changed = [this] { txtOdvodNepPlocha_Change(); };
     txtSelIntDeste.changed = [this] { txtSelIntDeste_Change(); };
     txtSelDTrvDeste.changed = [this] { txtSelDTrvDeste_Change(); };
@@ -48,32 +45,26 @@ void frmCalc::bindInputs() {
         [this](int Index, Label& label) { label.clicked = [this, Index] { lblOdkaz_Click(Index); }; });
 }
 
-void frmCalc::bindFacilityInputs() {
-    const auto stores = [](TextBox& box, float& stored) {
-        box.changed = [&box, &stored] { storeNumber(box, stored); };
-    };
-    const auto all_store = [stores](ControlArray<TextBox>& boxes, float& stored) {
-        boxes.forEach([stores, &stored](int, TextBox& box) { stores(box, stored); });
-    };
-    all_store(txtPorVyplne, values_->txtPorVyplne);
-    all_store(txtSirkaRyhy, values_->txtSirkaRyhy);
-    all_store(txtVyskaRyhy, values_->txtVyskaRyhy);
-    all_store(txtPrumTroubVnej, values_->txtPrumTroubVnej);
-    all_store(txtPrumTroubVnit, values_->txtPrumTroubVnit);
-    all_store(txtSpecDrenOdtok, values_->txtSpecDrenOdtok);
-    all_store(txtVystupPlocha, values_->txtVystupPlocha);
-    all_store(txtVystupRychlost, values_->txtVystupRychlost);
-    all_store(txtVsakPlocha, values_->txtVsakPlocha);
-    stores(txtMinPrusakDraha, values_->txtMinPrusakDraha);
-    stores(txtNezamrzHlPritok, values_->txtNezamrzHlPritok);
-    stores(txtVyskaPiskVrstvy, values_->txtVyskaPiskVrstvy);
-    stores(txtVyskaFiltrVrstvy, values_->txtVyskaFiltrVrstvy);
-    stores(txtSpecMeroIntenz, values_->txtSpecMeroIntenz);
-    stores(txtDelkaDnaNadrz, values_->txtDelkaDnaNadrz);
-    stores(txtSirkaDnaNadrz, values_->txtSirkaDnaNadrz);
-    stores(txtHloubkaNadrz, values_->txtHloubkaNadrz);
-    stores(txtSklonSvahuNadrz, values_->txtSklonSvahuNadrz);
+void frmCalc::bindNumber(TextBox& box, float data::DesignNumbers::*stored) {
+    box.changed = [&box, &value = values_->*stored] { storeNumber(box, value); };
+}
 
+void frmCalc::bindFacilityInputs() {
+    for (const FacilityType type : data::kFacilityTypes) {
+        for (const design::PanelInput& row : design::panelInputs(type)) {
+            const design::InputInfo& input = info(row.input);
+            if (input.stored != nullptr) {
+                bindNumber(textBox(design::controlName(input.box, type)), input.stored);
+            }
+        }
+        for (const design::ResultBox& row : design::resultBoxes(type)) {
+            if (info(row.quantity).stores_back) {
+                bindNumber(textBox(design::controlName(row.box, type)), info(row.quantity).stored);
+            }
+        }
+    }
+
+    // Those with a handler of their own.
     txtSoucFiltrPruleh.forEach([this](int Index, TextBox& box) {
         box.changed = [this, Index] { txtSoucFiltrPruleh_Change(Index); };
         box.lost_focus = [this, Index] { txtSoucFiltrPruleh_LostFocus(Index); };
@@ -125,12 +116,8 @@ void frmCalc::bindResults() {
     cmdPrint.clicked = [this] { cmdPrint_Click(); };
 }
 
-void frmCalc::message(const std::string& text, platform::MessageIcon icon) {
-    desk_->showMessage({text, icon});
-}
-
 void frmCalc::error(const std::string& text) {
-    message(text, platform::MessageIcon::Critical);
+    desk_->showMessage({text, platform::MessageIcon::Critical});
 }
 
 }  // namespace mero::forms

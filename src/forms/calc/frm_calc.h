@@ -9,6 +9,7 @@
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
 #include "forms/calc/frm_calc_controls.h"
+#include "forms/calc/window_sink.h"
 #include "forms/dialogs/frm_coef_dialog.h"
 #include "forms/dialogs/frm_dialog.h"
 #include "forms/dialogs/frm_int_dialog.h"
@@ -36,10 +37,10 @@ class frmCalc : public frmCalcControls {
     frmCoefDialog coefDialog;
 
     /// Form-level state that the calculation reads.
-    int TypeGroup = 0;     ///< 0 decentralised, 1 centralised
-    int SelectedType = 0;  ///< 0 none, 1 to 6
-    int SoilVariant = 0;   ///< member chosen last in the soil or shaft variant options
-    int ShaftShape = 0;    ///< 0 round, 1 rectangular
+    int TypeGroup = 0;  ///< 0 decentralised, 1 centralised
+    FacilityType SelectedType = FacilityType::None;
+    int SoilVariant = 0;  ///< member chosen last in the soil or shaft variant options
+    data::ShaftShape ShaftShape = data::ShaftShape::Round;
 
     // Start and end.
     void Form_Load();
@@ -103,34 +104,16 @@ class frmCalc : public frmCalcControls {
     void bindShaft();
     void bindResults();
 
+    friend class WindowSink;
+
     void showInflow();
-    void message(const std::string& text, platform::MessageIcon icon);
+    void bindNumber(TextBox& box, float data::DesignNumbers::*stored);
     void error(const std::string& text);
     void hideResultPanels();
     /// Tells the user of a missing drained area or filtration coefficient; true when one is missing.
     bool refusesMissingInputs();
 
-    // CalcInfiltArea, type by type.
-    void calcSurface();
-    void calcSwaleArea();
-    void calcSwaleTrenchArea();
-    void calcTrenchArea();
-    void calcShaftBalance();
-    // CalcDesign, type by type.
-    void designSwale();
-    void designSwaleTrench();
-    void judgeSwaleTrenchArea();
-    void designTrench();
-    void judgeDrainOutflow();
-    void designShaft();
-    void designTank();
-    void showStorageCoefficient();
-
-    /// Index of the selected soil option, -1 when none is.
-    [[nodiscard]] static int soilOption(const ControlArray<OptionButton>& options);
     void fillShaftList();
-    void recomputeRoundOuterDiameter();
-    void recomputeEquivalentDiameters();
 
     void enterTechnologyTab(int previous_tab);
     void enterResultsTab(int previous_tab);
@@ -142,6 +125,7 @@ class frmCalc : public frmCalcControls {
     /// cannot.
     [[nodiscard]] bool keepReport();
 
+    ResultBoxes result_boxes_;
     data::modPublicVariables* values_;
     platform::Desk* desk_;
     platform::Clock* clock_;

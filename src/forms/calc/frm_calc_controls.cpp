@@ -4,36 +4,40 @@
 #include "forms/calc/frm_calc_controls.h"
 
 #include <initializer_list>
+#include <stdexcept>
+
+#include "design/input.h"
+#include "design/quantity.h"
 
 namespace mero::forms {
 namespace {
 
+using enum FacilityType;
 using platform::ControlArray;
 using platform::Panel;
 
-/// Adds one member per type number, each on the panel of that type.
-template <typename T, typename... Arguments>
-void addOnPanels(ControlArray<T>& array, const ControlArray<Panel>& panels, std::initializer_list<int> types,
-                 Arguments... arguments) {
-    for (const int type : types) {
-        array.add(type, panels[type], arguments...);
+/// Adds the options of a choice, which exclude each other.
+void addOptions(ControlArray<platform::OptionButton>& array, platform::Control& container,
+                std::initializer_list<const char*> captions) {
+    auto group = std::make_shared<std::vector<platform::OptionButton*>>();
+    int index = 0;
+    for (const char* caption : captions) {
+        array.add(index++, container, caption, group);
     }
 }
 
-/// Adds a group of two option buttons that exclude each other.
-void addPair(ControlArray<platform::OptionButton>& array, platform::Control& container, const char* first,
-             const char* second) {
-    auto group = std::make_shared<std::vector<platform::OptionButton*>>();
-    array.add(0, container, first, group);
-    array.add(1, container, second, group);
+void addOptions(ControlArray<platform::OptionButton>& array, platform::Control& container,
+                design::Input input) {
+    const auto choices = info(input).choices;
+    addOptions(array, container, {choices[0].caption, choices[1].caption});
 }
 
 /// The panels are members of an array, but the fields of the last two are plain members of the form: the
 /// array is filled before them.
-Panel& panelOf(ControlArray<Panel>& panels, platform::Control& page, int type) {
-    if (type == kShaft) {
-        for (int each = kSurface; each <= kTank; ++each) {
-            panels.add(each, page);
+Panel& panelOf(ControlArray<Panel>& panels, platform::Control& page, FacilityType type) {
+    if (type == Shaft) {
+        for (const FacilityType each : data::kFacilityTypes) {
+            panels.add(static_cast<int>(each), page);
         }
     }
     return panels[type];
@@ -43,12 +47,21 @@ Panel& panelOf(ControlArray<Panel>& panels, platform::Control& page, int type) {
 
 frmCalcControls::frmCalcControls()
     : Form("frmCalc", "MERO - Výpočet vsakovacích zařízení"),
-      picShaft(panelOf(picResults, SSTab1.page(kTabDesign), kShaft)),
-      picTank(panelOf(picResults, SSTab1.page(kTabDesign), kTank)) {
+      picShaft(panelOf(picResults, SSTab1.page(kTabDesign), Shaft)),
+      picTank(panelOf(picResults, SSTab1.page(kTabDesign), Tank)),
+      chkPredUsaz(picTank, "chkPredUsaz", info(design::Input::UpstreamSettling).caption) {
     addMembers();
-    addPanelFields();
     addSubPanels();
+    addFields();
     setInitialState();
+}
+
+platform::TextBox& frmCalcControls::textBox(const std::string& name) const {
+    auto* box = dynamic_cast<TextBox*>(find(name));
+    if (box == nullptr) {
+        throw std::logic_error("no text box is called " + name);
+    }
+    return *box;
 }
 
 void frmCalcControls::addMembers() {
@@ -57,46 +70,62 @@ void frmCalcControls::addMembers() {
     }
     lblOdkaz.add(0, SSTab1.page(kTabInputs), "Český hydrometeorologický ústav");
     lblOdkaz.add(1, SSTab1.page(kTabInputs), "Portál o vodě (voda.gov.cz)");
-    addPair(optSelType, fraVyber, "Decenralizované", "Centralizované");
-    addPair(optSelTypPudy2, picResults[kSwale], "Písek střední až jemný", "Slit a písek, slit");
-    addPair(optSelTypPudy3, picResults[kSwaleTrench], "Písek střední až jemný", "Slit a písek, slit");
-    addPair(optSelTypPudy5, picShaft, "typ A", "typ B");
-    addPair(optSelTypSachty, picShaft, "kruhový", "pravoúhlý");
-}
-
-void frmCalcControls::addPanelFields() {
-    const auto& panels = picResults;
-    addOnPanels(txtSoucBezp, panels, {kSurface, kSwale, kSwaleTrench, kTrench, kShaft, kTank}, "1.2");
-    addOnPanels(txtVsakPlocha, panels, {kSurface, kSwale, kSwaleTrench, kTrench, kShaft});
-    addOnPanels(txtObjAkum, panels, {kSwale, kSwaleTrench, kTrench, kShaft, kTank});
-    addOnPanels(txtVyskaVzduti, panels, {kSwale, kShaft});
-    addOnPanels(txtDobaPrazdneni, panels, {kSwale, kSwaleTrench});
-    addOnPanels(txtSoucFiltrPruleh, panels, {kSwaleTrench, kShaft});
-    txtPorVyplne.add(kSwaleTrench, panels[kSwaleTrench], "0.35");
-    txtPorVyplne.add(kTrench, panels[kTrench]);
-    addOnPanels(txtSirkaRyhy, panels, {kSwaleTrench, kTrench});
-    addOnPanels(txtVyskaRyhy, panels, {kSwaleTrench, kTrench});
-    addOnPanels(txtDelkaRyhy, panels, {kSwaleTrench, kTrench});
-    addOnPanels(txtHloubkaPrulehu, panels, {kSwaleTrench});
-    addOnPanels(txtSirkaPrulehu, panels, {kSwaleTrench});
-    addOnPanels(txtSoucAkum, panels, {kTrench});
-    addOnPanels(cmdCalcul, panels, {kSurface, kSwale, kSwaleTrench, kTrench, kShaft, kTank}, "Výpočti");
+    addOptions(optSelType, fraVyber, {"Decenralizované", "Centralizované"});
+    addOptions(optSelTypPudy2, picResults[Swale], design::Input::Soil);
+    addOptions(optSelTypPudy3, picResults[SwaleTrench], design::Input::Soil);
+    addOptions(optSelTypPudy5, picShaft, design::Input::Variant);
+    addOptions(optSelTypSachty, picShaft, design::Input::Shape);
+    for (const FacilityType type : data::kFacilityTypes) {
+        cmdCalcul.add(static_cast<int>(type), picResults[type], "Výpočti");
+    }
 }
 
 void frmCalcControls::addSubPanels() {
-    chkSelPretok.add(kSwaleTrench, picResults[kSwaleTrench], "Přetok a škrcený odtok");
-    chkSelPretok.add(kTrench, picResults[kTrench], "Drenáž");
-    for (const int type : {kSwaleTrench, kTrench}) {
-        cmdEdit.add(type, picResults[type], "Editovat");
-        Panel& panel = picPretokSkrOdtok.add(type, picResults[type]);
-        txtPocetPotrubi.add(type, panel, "1");
-        txtPrumTroubVnej.add(type, panel);
-        txtPrumTroubVnit.add(type, panel);
-        cmdOK.add(type, panel, "OK");
+    for (const FacilityType type : {SwaleTrench, Trench}) {
+        const int index = static_cast<int>(type);
+        chkSelPretok.add(index, picResults[type],
+                         type == Trench ? design::kDrainCaption : design::kOverflowCaption);
+        cmdEdit.add(index, picResults[type], "Editovat");
+        Panel& panel = picPretokSkrOdtok.add(index, picResults[type]);
+        cmdOK.add(index, panel, "OK");
     }
-    txtSpecDrenOdtok.add(kSwaleTrench, picPretokSkrOdtok[kSwaleTrench]);
-    txtVystupPlocha.add(kTrench, picPretokSkrOdtok[kTrench]);
-    txtVystupRychlost.add(kTrench, picPretokSkrOdtok[kTrench]);
+}
+
+void frmCalcControls::addFields() {
+    for (const FacilityType type : data::kFacilityTypes) {
+        for (const design::PanelInput& row : design::panelInputs(type)) {
+            Panel& panel = design::isOfSubPanel(row.input) ? picPretokSkrOdtok[type] : picResults[type];
+            addField(info(row.input).box, type, panel, design::openingText(row));
+        }
+        for (const design::ResultBox& row : design::resultBoxes(type)) {
+            addField(row.box, type, picResults[type], "");
+        }
+    }
+}
+
+void frmCalcControls::addField(std::string_view name, FacilityType type, platform::Control& container,
+                               const std::string& text) {
+    const std::string control = design::controlName(name, type);
+    if (control.empty()) {
+        return;
+    }
+    if (platform::Control* found = find(control)) {
+        if (auto* box = dynamic_cast<TextBox*>(found); box != nullptr && !text.empty()) {
+            box->showText(text);
+        }
+        return;
+    }
+    for (ControlArray<TextBox>* array :
+         {&txtSoucBezp, &txtVsakPlocha, &txtObjAkum, &txtVyskaVzduti, &txtDobaPrazdneni, &txtSoucFiltrPruleh,
+          &txtPorVyplne, &txtSirkaRyhy, &txtVyskaRyhy, &txtDelkaRyhy, &txtHloubkaPrulehu, &txtSirkaPrulehu,
+          &txtPocetPotrubi, &txtPrumTroubVnej, &txtPrumTroubVnit, &txtSpecDrenOdtok, &txtVystupPlocha,
+          &txtVystupRychlost, &txtSoucAkum}) {
+        if (name == array->name() + "(#)") {
+            array->add(static_cast<int>(type), container, text);
+            return;
+        }
+    }
+    other_boxes_.push_back(std::make_unique<TextBox>(container, control, text));
 }
 
 void frmCalcControls::setInitialState() {
@@ -104,11 +133,11 @@ void frmCalcControls::setInitialState() {
     cboSelType.setEnabled(false);
     picResults.forEach([](int, Panel& panel) { panel.hide(); });
     picPretokSkrOdtok.forEach([](int, Panel& panel) { panel.hide(); });
-    cmdEdit[kSwaleTrench].setEnabled(false);
-    cmdEdit[kTrench].setEnabled(false);
+    cmdEdit[SwaleTrench].setEnabled(false);
+    cmdEdit[Trench].setEnabled(false);
     // The first two types are computed while the inputs change: there is nothing to press.
-    cmdCalcul[kSurface].hide();
-    cmdCalcul[kSwale].hide();
+    cmdCalcul[Surface].hide();
+    cmdCalcul[Swale].hide();
     txtVyskaPiskVrstvy.setEnabled(false);
     txtVyskaPiskVrstvy.setGreyed(true);
     wbShowPopisTech.hide();

@@ -3,9 +3,12 @@
 /// What they hold when the window opens is set here; what they do is frmCalc's.
 #pragma once
 
-#include <map>
+#include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "data/facility_type.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/containers.h"
 #include "platform/controls/control_array.h"
@@ -18,16 +21,7 @@ namespace mero::forms {
 /// The tabs of the main window in their order.
 enum Tab { kTabInputs = 0, kTabDesign = 1, kTabTechnology = 2, kTabResults = 3 };
 
-/// The infiltration types by their position in `TypyZasakovani`; the position is a contract.
-enum InfiltrationType {
-    kNoType = 0,
-    kSurface = 1,
-    kSwale = 2,
-    kSwaleTrench = 3,
-    kTrench = 4,
-    kShaft = 5,
-    kTank = 6,
-};
+using data::FacilityType;
 
 struct frmCalcControls : platform::Form {
     using BrowserView = platform::BrowserView;
@@ -108,12 +102,12 @@ struct frmCalcControls : platform::Form {
     ControlArray<OptionButton> optSelTypSachty{"optSelTypSachty"};
     ControlArray<OptionButton> optSelTypPudy5{"optSelTypPudy5"};
     DropList cboTypSachty{picShaft, "cboTypSachty"};
-    TextBox txtSachtyCount{picShaft, "txtSachtyCount", "1"};
+    TextBox txtSachtyCount{picShaft, "txtSachtyCount"};
     UpDown updSacht{picShaft, "updSacht"};
     TextBox txtPrumerSachtyVnit{picShaft, "txtPrumerSachtyVnit"};
     TextBox txtPrumerSachtyVnej{picShaft, "txtPrumerSachtyVnej"};
     TextBox txtTloustkaSteny{picShaft, "txtTloustkaSteny"};
-    TextBox txtMinPrusakDraha{picShaft, "txtMinPrusakDraha", "1.5"};
+    TextBox txtMinPrusakDraha{picShaft, "txtMinPrusakDraha"};
     TextBox txtNezamrzHlPritok{picShaft, "txtNezamrzHlPritok"};
     TextBox txtVyskaPiskVrstvy{picShaft, "txtVyskaPiskVrstvy"};
     TextBox txtVyskaFiltrVrstvy{picShaft, "txtVyskaFiltrVrstvy"};
@@ -127,7 +121,7 @@ struct frmCalcControls : platform::Form {
     TextBox txtSirkaDnaNadrz{picTank, "txtSirkaDnaNadrz"};
     TextBox txtHloubkaNadrz{picTank, "txtHloubkaNadrz"};
     TextBox txtSklonSvahuNadrz{picTank, "txtSklonSvahuNadrz"};
-    CheckBox chkPredUsaz{picTank, "chkPredUsaz", "Předsazené usazování"};
+    CheckBox chkPredUsaz;
     TextBox txtVsakTok{picTank, "txtVsakTok"};
     TextBox txtVypObjNadrz{picTank, "txtVypObjNadrz"};
 
@@ -137,11 +131,19 @@ struct frmCalcControls : platform::Form {
     Button cmdSaveResults{SSTab1.page(kTabResults), "cmdSaveResults", "Uložit jako"};
     Button cmdPrint{SSTab1.page(kTabResults), "cmdPrint", "Tisk"};
 
+    /// The text box of that name. @throws std::logic_error when the window has none
+    [[nodiscard]] TextBox& textBox(const std::string& name) const;
+
   private:
     void addMembers();
-    void addPanelFields();
     void addSubPanels();
+    void addFields();
+    void addField(std::string_view name, FacilityType type, platform::Control& container,
+                  const std::string& text);
     void setInitialState();
+
+    /// Boxes of the tables that no handler names.
+    std::vector<std::unique_ptr<TextBox>> other_boxes_;
 };
 
 }  // namespace mero::forms

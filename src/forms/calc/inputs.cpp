@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "calc/inflow.h"
+#include "design/quantity.h"
 #include "forms/calc/field_rules.h"
 #include "forms/calc/frm_calc.h"
 #include "platform/numbers/number_text.h"
@@ -12,7 +13,8 @@ namespace mero::forms {
 
 void frmCalc::showInflow() {
     values_->txtOdtokDoVsak = calc::inflow(values_->RedukovanaPlocha, values_->VybranaIntenzita);
-    txtOdtokDoVsak.setText(numbers::fixed(values_->txtOdtokDoVsak, 1));
+    txtOdtokDoVsak.setText(
+        design::boxText(design::Quantity::Inflow, FacilityType::None, values_->txtOdtokDoVsak));
 }
 
 void frmCalc::txtOdvodNepPlocha_Change() {

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "calc/tank.h"
-#include "forms/calc/balances.h"
+#include "design/balances.h"
 #include "forms/calc/rain_table.h"
 #include "picture/balance_chart.h"
 #include "picture/facility_sections.h"
@@ -30,7 +30,7 @@ std::optional<float> shownResult(const TextBox& box) {
 }
 
 /// Pipes are in the trench while their box is ticked.
-picture::PipeValues pipes(const frmCalc& form, int type) {
+picture::PipeValues pipes(const frmCalc& form, FacilityType type) {
     if (!form.chkSelPretok[type].checked()) {
         return {};
     }
@@ -40,7 +40,7 @@ picture::PipeValues pipes(const frmCalc& form, int type) {
             .inner_diameter_mm = values.txtPrumTroubVnit};
 }
 
-picture::TrenchValues trench(const frmCalc& form, int type) {
+picture::TrenchValues trench(const frmCalc& form, FacilityType type) {
     const modPublicVariables& values = form.values();
     return {.length_m = shownResult(form.txtDelkaRyhy[type]),
             .width_m = values.txtSirkaRyhy,
@@ -52,7 +52,7 @@ picture::TrenchValues trench(const frmCalc& form, int type) {
 picture::ShaftValues shaft(const frmCalc& form) {
     const modPublicVariables& values = form.values();
     const bool has_sand_layer = !form.optSelTypPudy5[0].selected();
-    const bool rectangular = form.ShaftShape == 1;
+    const bool rectangular = form.ShaftShape == data::ShaftShape::Rectangular;
     return {.count = values.txtSachtyCount,
             .rectangular = rectangular,
             .inner_width_m = rectangular ? values.shaft_side1_m : values.D_i,
@@ -61,7 +61,7 @@ picture::ShaftValues shaft(const frmCalc& form) {
             .inlet_depth_m = values.txtNezamrzHlPritok,
             .filter_layer_m = values.txtVyskaFiltrVrstvy,
             .sand_layer_m = has_sand_layer ? values.txtVyskaPiskVrstvy : 0.0F,
-            .water_level_m = shownResult(form.txtVyskaVzduti[kShaft]),
+            .water_level_m = shownResult(form.txtVyskaVzduti[FacilityType::Shaft]),
             .depth_m = shownResult(form.txtHloubkaSachty),
             .required_embedding_m = shownResult(form.txtPotrHloubkaZahl),
             .groundwater_depth_m = values.txtHPV};
@@ -73,7 +73,7 @@ picture::TankValues tank(const frmCalc& form) {
             .bottom_width_m = values.txtSirkaDnaNadrz,
             .depth_m = values.txtHloubkaNadrz,
             .slope = values.txtSklonSvahuNadrz,
-            .required_storage_m3 = shownResult(form.txtObjAkum[kTank]),
+            .required_storage_m3 = shownResult(form.txtObjAkum[FacilityType::Tank]),
             .volume_m3 = shownResult(form.txtVypObjNadrz),
             .groundwater_depth_m = values.txtHPV};
 }
@@ -89,58 +89,63 @@ float tankFlow(const modPublicVariables& values) {
 
 }  // namespace
 
-picture::Section facilitySection(const frmCalc& form, int type) {
+picture::Section facilitySection(const frmCalc& form, FacilityType type) {
     const float groundwater = form.values().txtHPV;
     switch (type) {
-        case kSurface:
-            return picture::surfaceSection(
-                {.area_m2 = shownResult(form.txtVsakPlocha[kSurface]), .groundwater_depth_m = groundwater});
-        case kSwale:
-            return picture::swaleSection({.area_m2 = shownResult(form.txtVsakPlocha[kSwale]),
-                                          .ponding_m = shownResult(form.txtVyskaVzduti[kSwale]),
+        case FacilityType::Surface:
+            return picture::surfaceSection({.area_m2 = shownResult(form.txtVsakPlocha[FacilityType::Surface]),
+                                            .groundwater_depth_m = groundwater});
+        case FacilityType::Swale:
+            return picture::swaleSection({.area_m2 = shownResult(form.txtVsakPlocha[FacilityType::Swale]),
+                                          .ponding_m = shownResult(form.txtVyskaVzduti[FacilityType::Swale]),
                                           .groundwater_depth_m = groundwater});
-        case kSwaleTrench:
+        case FacilityType::SwaleTrench:
             return picture::swaleTrenchSection(
-                {.trench = trench(form, kSwaleTrench),
-                 .swale_depth_m = shownResult(form.txtHloubkaPrulehu[kSwaleTrench])});
-        case kTrench:
-            return picture::trenchSection(trench(form, kTrench));
-        case kShaft:
+                {.trench = trench(form, FacilityType::SwaleTrench),
+                 .swale_depth_m = shownResult(form.txtHloubkaPrulehu[FacilityType::SwaleTrench])});
+        case FacilityType::Trench:
+            return picture::trenchSection(trench(form, FacilityType::Trench));
+        case FacilityType::Shaft:
             return picture::shaftSection(shaft(form));
-        case kTank:
+        case FacilityType::Tank:
             return picture::tankSection(tank(form));
-        default:
-            return {};
+        case FacilityType::None:
+            break;
     }
+    return {};
 }
 
-picture::Chart balanceChart(const frmCalc& form, int type) {
+picture::Chart balanceChart(const frmCalc& form, FacilityType type) {
     const modPublicVariables& values = form.values();
     const auto rains = rainTable(values);
     switch (type) {
-        case kSurface:
+        case FacilityType::Surface:
             return picture::surfaceChart({.reduced_area_m2 = values.RedukovanaPlocha,
                                           .filtration_m_s = values.txtSoucFiltrace,
                                           .picked_rain = pickedRain(values)},
-                                         rains, form.txtVsakPlocha[kSurface].text());
-        case kSwale:
-            return picture::swaleChart(swaleBalance(values, values.txtSoucFiltrace), rains,
-                                       form.txtObjAkum[kSwale].text());
-        case kSwaleTrench:
-            return picture::swaleTrenchChart({.swale = swaleBalance(values, values.txtSoucFiltrPruleh),
-                                              .trench = swaleTrenchBalance(values)},
-                                             rains, form.txtObjAkum[kSwaleTrench].text(),
-                                             form.txtDelkaRyhy[kSwaleTrench].text());
-        case kTrench:
-            return picture::trenchChart(trenchBalance(values), rains, form.txtDelkaRyhy[kTrench].text());
-        case kShaft:
-            return picture::shaftChart(shaftBalance(values), rains, form.txtVyskaVzduti[kShaft].text());
-        case kTank:
-            return picture::tankChart(tankBalance(values, tankFlow(values)), rains,
-                                      form.txtObjAkum[kTank].text());
-        default:
-            return {};
+                                         rains, form.txtVsakPlocha[FacilityType::Surface].text());
+        case FacilityType::Swale:
+            return picture::swaleChart(design::swaleBalance(values, values.txtSoucFiltrace), rains,
+                                       form.txtObjAkum[FacilityType::Swale].text());
+        case FacilityType::SwaleTrench:
+            return picture::swaleTrenchChart(
+                {.swale = design::swaleBalance(values, values.txtSoucFiltrPruleh),
+                 .trench = design::swaleTrenchBalance(values)},
+                rains, form.txtObjAkum[FacilityType::SwaleTrench].text(),
+                form.txtDelkaRyhy[FacilityType::SwaleTrench].text());
+        case FacilityType::Trench:
+            return picture::trenchChart(design::trenchBalance(values), rains,
+                                        form.txtDelkaRyhy[FacilityType::Trench].text());
+        case FacilityType::Shaft:
+            return picture::shaftChart(design::shaftBalance(values), rains,
+                                       form.txtVyskaVzduti[FacilityType::Shaft].text());
+        case FacilityType::Tank:
+            return picture::tankChart(design::tankBalance(values, tankFlow(values)), rains,
+                                      form.txtObjAkum[FacilityType::Tank].text());
+        case FacilityType::None:
+            break;
     }
+    return {};
 }
 
 }  // namespace mero::forms

@@ -10,9 +10,9 @@
 namespace mero::forms {
 
 /// Section of the facility on the panel of that type, 1 to 6.
-[[nodiscard]] picture::Section facilitySection(const frmCalc& form, int type);
+[[nodiscard]] picture::Section facilitySection(const frmCalc& form, FacilityType type);
 
 /// Balance of that type over the nine rains.
-[[nodiscard]] picture::Chart balanceChart(const frmCalc& form, int type);
+[[nodiscard]] picture::Chart balanceChart(const frmCalc& form, FacilityType type);
 
 }  // namespace mero::forms

@@ -4,7 +4,6 @@
 
 #include <array>
 
-#include "calc/critical_rain.h"
 #include "calc/rain.h"
 #include "data/mod_public_variables.h"
 
@@ -22,14 +21,6 @@ namespace mero::forms {
 
 [[nodiscard]] inline calc::Rain pickedRain(const data::modPublicVariables& values) {
     return {values.VybranaDoba, values.VybranaIntenzita};
-}
-
-/// The critical rain becomes the picked rain; without one the picked rain stays as it is.
-inline void pick(data::modPublicVariables& values, const calc::CriticalRain& critical) {
-    if (critical.rain) {
-        values.VybranaDoba = critical.rain->duration_min;
-        values.VybranaIntenzita = critical.rain->intensity_l_s_ha;
-    }
 }
 
 }  // namespace mero::forms

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// The tabs of the main window, the report and the description pages.
 /// The report is rebuilt from the current values whenever the results tab is entered.
+#include "design/messages.h"
 #include "forms/calc/frm_calc.h"
 #include "forms/calc/report_data.h"
 #include "report/code_page.h"
@@ -11,21 +12,6 @@
 #include "report/whole_file.h"
 
 namespace mero::forms {
-namespace {
-
-/// Replaces every CR LF pair by a line-break tag.
-std::string withBreakTags(std::string text) {
-    constexpr std::string_view kLineEnd = "\r\n";
-    constexpr std::string_view kTag = "<br>";
-    for (std::size_t at = text.find(kLineEnd); at != std::string::npos;
-         at = text.find(kLineEnd, at + kTag.size())) {
-        text.replace(at, kLineEnd.size(), kTag);
-    }
-    return text;
-}
-
-}  // namespace
-
 void frmCalc::SSTab1_Click(int PreviousTab) {
     switch (SSTab1.position()) {
         case kTabDesign:
@@ -44,16 +30,16 @@ void frmCalc::SSTab1_Click(int PreviousTab) {
 
 void frmCalc::refuseTab(int previous_tab) {
     SSTab1.setPosition(previous_tab);
-    message("Není vybrána technologie", platform::MessageIcon::Exclamation);
+    desk_->showMessage(design::box(design::VerdictId::TechnologyNotChosen));
 }
 
 void frmCalc::enterTechnologyTab(int previous_tab) {
     wbShowPopisTech.hide();
-    if (SelectedType < kSurface) {
+    if (SelectedType == FacilityType::None) {
         refuseTab(previous_tab);
         return;
     }
-    const std::string page = report::descriptionPagePath(folder_, SelectedType);
+    const std::string page = report::descriptionPagePath(folder_, static_cast<int>(SelectedType));
     wbShowPopisTech.navigate(page);
     desk_->navigated(wbShowPopisTech.name(), page);
     wbShowPopisTech.show();
@@ -64,7 +50,7 @@ void frmCalc::enterResultsTab(int previous_tab) {
     cmdSaveResults.hide();
     cmdPrint.hide();
     cmdPrint.setEnabled(true);
-    if (SelectedType < kSurface) {
+    if (SelectedType == FacilityType::None) {
         refuseTab(previous_tab);
         return;
     }
@@ -83,7 +69,7 @@ void frmCalc::BuildResultsHtml() {
         return;
     }
     // The description keeps the tags from now on.
-    values_->txtDetails = withBreakTags(values_->txtDetails);
+    values_->txtDetails = report::withBreakTags(values_->txtDetails);
     const std::string html = report::htmlReport(reportData(*this, clock_->now()));
     const report::WriteResult result = report::writeReport(values_->ResultsFilePath, html);
     if (result == report::WriteResult::PermissionDenied) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// The choice of the infiltration type: group, type list, panels, soil and shaft options, sub-panels.
 /// Selecting by code runs the same handlers; the order of the steps decides what the window shows.
+#include "design/checks.h"
 #include "forms/calc/frm_calc.h"
 
 namespace mero::forms {
@@ -8,7 +9,7 @@ namespace {
 
 constexpr int kCentralised = 1;
 /// The tank is the only entry of the centralised list and the sixth type.
-constexpr int kCentralisedOffset = kTank;
+constexpr int kCentralisedOffset = static_cast<int>(FacilityType::Tank);
 
 /// Tops of the sub-panels in twips when their box is ticked.
 constexpr int kOverflowTop = 3000;
@@ -21,32 +22,31 @@ void frmCalc::hideResultPanels() {
 }
 
 bool frmCalc::refusesMissingInputs() {
-    if (!(values_->RedukovanaPlocha > 0)) {
-        error("Zadejte nepropustnou odvodňovanou plochu");
-        return true;
+    const auto missing = design::checks::missingInput(*values_);
+    if (!missing) {
+        return false;
     }
-    if (!(values_->txtSoucFiltrace > 0)) {
-        error("Zadejte součinitel filtrace podloží");
+    WindowSink(*this, FacilityType::None).tell(*missing);
+    if (*missing == design::VerdictId::FiltrationMissing) {
         txtSoucFiltrace.setFocus();
-        return true;
     }
-    return false;
+    return true;
 }
 
 void frmCalc::optSelType_Click(int Index) {
     cboSelType.clear();
-    SelectedType = kNoType;
+    SelectedType = FacilityType::None;
     CalcInfiltArea();
     if (Index == kCentralised) {
-        cboSelType.add(values_->TypyZasakovani[kTank]);
+        cboSelType.add(values_->TypyZasakovani[index(FacilityType::Tank)]);
         // Nothing is selected yet (position -1); the selection below corrects the number.
-        SelectedType = cboSelType.position() + kCentralisedOffset;
+        SelectedType = static_cast<FacilityType>(cboSelType.position() + kCentralisedOffset);
         if (refusesMissingInputs()) {
             return;
         }
         ClearTypeResults();
     } else {
-        for (std::size_t type = kNoType; type <= kShaft; ++type) {
+        for (std::size_t type = 0; type <= index(FacilityType::Shaft); ++type) {
             cboSelType.add(values_->TypyZasakovani[type]);
         }
     }
@@ -58,20 +58,20 @@ void frmCalc::optSelType_Click(int Index) {
 void frmCalc::cboSelType_Click() {
     const int position = cboSelType.position();
     const bool decentralised = TypeGroup != kCentralised;
-    SelectedType = decentralised ? position : position + kCentralisedOffset;
+    SelectedType = static_cast<FacilityType>(decentralised ? position : position + kCentralisedOffset);
     hideResultPanels();
     if (decentralised) {
         if (position < 1) {
             return;
         }
-        if (SelectedType == kSwale) {
+        if (SelectedType == FacilityType::Swale) {
             optSelTypPudy2[0].setSelected(false);
-        } else if (SelectedType == kSwaleTrench) {
+        } else if (SelectedType == FacilityType::SwaleTrench) {
             optSelTypPudy3[0].setSelected(false);
         }
     }
     Panel& panel = picResults[SelectedType];
-    panel.moveTo(picResults[kSurface].left(), picResults[kSurface].top());
+    panel.moveTo(picResults[FacilityType::Surface].left(), picResults[FacilityType::Surface].top());
     panel.show();
     ClearTypeResults();
 }
@@ -99,7 +99,8 @@ void frmCalc::optSelTypPudy5_Click(int Index) {
 
 void frmCalc::chkSelPretok_Click(int Index) {
     ClearTypeResults();
-    if (Index != kSwaleTrench && Index != kTrench) {
+    const auto type = static_cast<FacilityType>(Index);
+    if (type != FacilityType::SwaleTrench && type != FacilityType::Trench) {
         return;
     }
     if (!chkSelPretok[Index].checked()) {
@@ -107,7 +108,7 @@ void frmCalc::chkSelPretok_Click(int Index) {
         picPretokSkrOdtok[Index].hide();
         return;
     }
-    picPretokSkrOdtok[Index].moveTo(0, Index == kSwaleTrench ? kOverflowTop : kDrainTop);
+    picPretokSkrOdtok[Index].moveTo(0, type == FacilityType::SwaleTrench ? kOverflowTop : kDrainTop);
     picPretokSkrOdtok[Index].show();
     cmdEdit[Index].setEnabled(true);
 }

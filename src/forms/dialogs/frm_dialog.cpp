@@ -3,6 +3,7 @@
 /// The table of entries and its editing stand in a file of their own.
 #include "forms/dialogs/frm_dialog.h"
 
+#include "design/messages.h"
 #include "platform/numbers/checked.h"
 #include "platform/numbers/number_text.h"
 
@@ -97,11 +98,11 @@ void frmDialog::cmdZapsat_Click() {
         values_->TypPovrchu(spare) = description_;
         values_->TypPovrchu.resize(spare + 1);
     } else if (coefficient == 0) {
-        desk().showMessage({"Vyberte odtokový součinitel", platform::MessageIcon::Exclamation, "Chyba"});
+        desk().showMessage(design::box(design::VerdictId::RunoffCoefficientMissing));
         return;
     }
     if (area == 0) {
-        desk().showMessage({"Zadejte dílčí plochu", platform::MessageIcon::Exclamation, "Chyba"});
+        desk().showMessage(design::box(design::VerdictId::PartialAreaMissing));
         return;
     }
     values_->DilciPlocha(spare) = area;

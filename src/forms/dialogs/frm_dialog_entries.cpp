@@ -17,7 +17,8 @@ constexpr int kCoefficientColumn = 2;
 constexpr int kSurfaceColumn = 3;
 constexpr int kChoiceColumn = 4;
 
-/// A text that cannot be converted in the area column ends the program, as it always has.
+/// A text that cannot be converted in the area column ends the program; see the coefficient column, which
+/// ignores it.
 float areaOf(const std::string& text) {
     try {
         return numbers::strictSingle(text);

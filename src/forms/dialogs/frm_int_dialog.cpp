@@ -5,6 +5,9 @@
 
 #include <utility>
 
+#include "design/messages.h"
+#include "design/site.h"
+#include "design/station_rain.h"
 #include "platform/numbers/checked.h"
 #include "platform/numbers/number_text.h"
 
@@ -148,22 +151,21 @@ void frmIntDialog::txtSChange_Change() {
     }
 }
 
-bool frmIntDialog::noIntensities() const {
-    // The running total is a 16-bit Integer, so values below 0.5 never add up.
-    std::int16_t sum = 0;
-    for (const float intensity : values_->IntenzitaDeste) {
-        sum = numbers::toInteger(static_cast<double>(sum) + static_cast<double>(intensity));
-    }
-    return sum == 0;
+void frmIntDialog::ReadStationTable(std::int16_t station_number, const std::string& database_path) {
+    const data::StationTable table = database_->read(station_number, database_path);
+    lblDemo.setVisible(table.demonstration);
+    design::readStation(table, values_->IntenzitaStanice, values_->DobaStanice);
 }
 
 void frmIntDialog::cmdOK_Click() {
-    if (noIntensities()) {
-        desk().showMessage(
-            {"Nejsou zadány žádné intenzity deště. Vyberte dešťoměrnou stanici, nebo zadejte "
-             "hodnoty ručně.",
-             platform::MessageIcon::Critical});
-        return;
+    switch (design::confirmRain(rains())) {
+        case design::RainConfirmation::Accepted:
+            break;
+        case design::RainConfirmation::NoIntensities:
+            desk().showMessage(design::box(design::VerdictId::RainIntensitiesMissing));
+            return;
+        case design::RainConfirmation::Overflow:
+            throw RuntimeError(ErrorNumber::Overflow);
     }
     if (values_->VybranaIntenzita > 0) {
         target_.txtSelIntDeste.setText(numbers::general(values_->VybranaIntenzita));

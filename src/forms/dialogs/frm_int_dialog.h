@@ -64,7 +64,6 @@ class frmIntDialog : public Dialog {
     void ReadStationTable(std::int16_t station_number, const std::string& database_path);
     /// Clears the grid and fills it from DobaTrvani and IntenzitaDeste.
     void buildGrid();
-    [[nodiscard]] bool noIntensities() const;
 
     data::modPublicVariables* values_;
     data::RainDatabase* database_;

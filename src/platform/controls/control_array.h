@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "platform/controls/control.h"
@@ -36,6 +37,13 @@ class ControlArray {
         }
         return *found->second;
     }
+
+    /// The same by an enumerator whose number is the index.
+    template <typename Enum>
+    requires std::is_enum_v<Enum>
+    [[nodiscard]] T& operator[](Enum index) const { return (*this)[static_cast<int>(index)]; }
+
+    [[nodiscard]] const std::string& name() const { return name_; }
 
     /// Calls `action(index, member)` for every member in ascending order of the index.
     template <typename Action>

@@ -5,6 +5,25 @@
 
 namespace mero::platform {
 
+AcceptedText acceptedText(std::string_view text, bool multi_line) {
+    AcceptedText accepted;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        const bool line_break = c == '\n' || c == '\r';
+        if (line_break && multi_line) {
+            accepted.text += "\r\n";
+            if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+                ++i;
+            }
+        } else if (static_cast<unsigned char>(c) >= ' ' || (c == '\t' && multi_line)) {
+            accepted.text += c;
+        } else {
+            accepted.dropped = true;
+        }
+    }
+    return accepted;
+}
+
 void TextBox::setText(std::string text) {
     showText(std::move(text));
     if (changed) {
@@ -22,23 +41,6 @@ void TextBox::userEdit(const std::string& text) {
     if (entered != text_) {
         setText(std::move(entered));
     }
-}
-
-std::string TextBox::accepted(const std::string& text) const {
-    std::string entered;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        const bool line_break = c == '\n' || c == '\r';
-        if (line_break && multi_line_) {
-            entered += "\r\n";
-            if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
-                ++i;
-            }
-        } else if (static_cast<unsigned char>(c) >= ' ' || (c == '\t' && multi_line_)) {
-            entered += c;
-        }
-    }
-    return entered;
 }
 
 void TextBox::setGreyed(bool greyed) {

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/controls/control.h"
@@ -13,6 +14,14 @@ namespace mero::platform {
 
 /// Keys that handlers know, with their character codes.
 enum class Key { Enter = 13, Escape = 27 };
+
+/// What of a text a box takes when a user enters it.
+struct AcceptedText {
+    std::string text;      ///< line breaks are "\r\n"; a single-line box takes no control characters
+    bool dropped = false;  ///< some characters were not taken
+};
+
+[[nodiscard]] AcceptedText acceptedText(std::string_view text, bool multi_line);
 
 class TextBox : public Control {
   public:
@@ -28,8 +37,9 @@ class TextBox : public Control {
     /// The user makes the text `text`: the change handler runs when it differs. Line breaks become "\r\n";
     /// a single-line box takes no control characters.
     void userEdit(const std::string& text);
-    /// What of `text` the box takes when a user enters it.
-    [[nodiscard]] std::string accepted(const std::string& text) const;
+    [[nodiscard]] std::string accepted(const std::string& text) const {
+        return acceptedText(text, multi_line_).text;
+    }
 
     [[nodiscard]] bool multiLine() const { return multi_line_; }
     /// Set while the form is built.

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "design/messages.h"
 #include "forms/calc/layout/concerned_field.h"
 #include "forms/calc/layout/design_page.h"
 #include "forms/calc/layout/documents_pages.h"
@@ -33,9 +34,13 @@ CalcWindow::CalcWindow(qt::WidgetKit& kit, frmCalc& form, qt::DocumentServices s
 
 CalcWindow::~CalcWindow() = default;
 
-void CalcWindow::returnToField(const std::string& message) {
-    qt::later(*this, [this, message] {
-        const platform::Control* control = concernedControl(*form_, message);
+void CalcWindow::returnToField(const platform::Message& message) {
+    const auto id = design::verdictId(message.id);
+    if (!id) {
+        return;
+    }
+    qt::later(*this, [this, id = *id] {
+        const platform::Control* control = concernedControl(*form_, id);
         QWidget* widget = control == nullptr ? nullptr : kit().find(*control);
         if (widget != nullptr) {
             qt::leadTo(*widget);

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "forms/calc/frm_calc.h"
 #include "qt/document_view.h"
@@ -22,7 +21,7 @@ class CalcWindow : public qt::FormWindow {
     CalcWindow& operator=(CalcWindow&&) = delete;
 
     /// After a message was closed: puts the focus into the field that it is about, once the event is over.
-    void returnToField(const std::string& message);
+    void returnToField(const platform::Message& message);
 
   protected:
     void build(QWidget& content) override;

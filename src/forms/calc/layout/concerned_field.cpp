@@ -1,109 +1,117 @@
 // SPDX-License-Identifier: MIT
-/// The messages by their first words, and their fields.
-/// A list of missing inputs leads to the first of them.
+/// The fields of each message. A list of failed input checks leads to the first of them.
 #include "forms/calc/layout/concerned_field.h"
 
 #include <algorithm>
 #include <vector>
 
+#include "design/input.h"
+
 namespace mero::forms {
 namespace {
 
+using design::Input;
+using design::VerdictId;
 using platform::Control;
+using Fields = std::vector<Control*>;
 
-struct Concern {
-    std::string_view begins;
-    std::vector<Control*> fields;  ///< the first that can be reached counts
-};
-
-std::vector<Concern> concernsOfDialogs(frmCalc& form) {
-    return {
-        {"Vyberte odtokový součinitel", {&form.areaDialog.txtSoucinitel}},
-        {"Zadejte dílčí plochu", {&form.areaDialog.txtPlocha}},
-        {"Nejsou zadány žádné intenzity deště", {&form.intDialog.cboSelStanice}},
-    };
-}
-
-std::vector<Concern> concernsOfInputs(frmCalc& form) {
-    return {
-        {"Zadejte nepropustnou odvodňovanou plochu", {&form.cmdEdit[1]}},
-        {"Není zadána odvodňovaná plocha", {&form.cmdEdit[1]}},
-        {"Zadejte součinitel filtrace podloží", {&form.txtSoucFiltrace}},
-        {"Intenzita návrhového deště není zadána", {&form.cmdEdit[0]}},
-        {"Není vybrána technologie", {&form.cboSelType, &form.optSelType[0]}},
-    };
-}
-
-std::vector<Concern> concernsOfTrenches(frmCalc& form, int type) {
-    const std::string_view insufficient = "Navržená vsakovací plocha je nedostatečná";
-    std::vector<Concern> concerns{
-        {"Součinitel bezpečnosti", {&form.txtSoucBezp[type]}},
-        {"Pórovitost výplně", {&form.txtPorVyplne[type]}},
-        {"Výška rýhy", {&form.txtVyskaRyhy[type]}},
-        {"Šířka rýhy", {&form.txtSirkaRyhy[type]}},
-    };
-    if (type == kSwaleTrench) {
-        concerns.push_back({"Součinitel filtrace průlehu", {&form.txtSoucFiltrPruleh[type]}});
-        concerns.push_back({insufficient, {&form.txtSirkaRyhy[type]}});
-    } else {
-        concerns.push_back(
-            {"Není splněna podmínka výstupního odtoku", {&form.txtVystupPlocha[type], &form.cmdEdit[type]}});
-    }
-    return concerns;
-}
-
-std::vector<Concern> concernsOfShafts(frmCalc& form) {
-    const std::vector<Control*> size{&form.txtPrumerSachtyVnit, &form.cboTypSachty, &form.txtSachtyCount};
-    const std::vector<Control*> outer{&form.txtPrumerSachtyVnej, &form.txtTloustkaSteny, &form.cboTypSachty};
-    return {
-        {"Součinitel bezpečnosti", {&form.txtSoucBezp[kShaft]}},
-        {"Nezámrzná hloubka přítoku", {&form.txtNezamrzHlPritok}},
-        {"Výška filtrační vrstvy", {&form.txtVyskaFiltrVrstvy}},
-        {"Vnitřní průměr šachty", size},
-        {"Vnější průměr šachty", outer},
-        {"Minimální průsaková dráha", {&form.txtMinPrusakDraha}},
-        {"Výška pískové vrstvy", {&form.txtVyskaPiskVrstvy}},
-        {"Min. hloubka maximální hladiny podzemní vody je překročena", size},
-        {"Dno šachty je vzdáleno méně než", {&form.txtVyskaFiltrVrstvy}},
-        {"Potřebná propustnost filtru je příliš vysoká", size},
-    };
-}
-
-std::vector<Concern> concernsOfTanks(frmCalc& form) {
-    return {
-        {"Specifická vsakovací intenzita", {&form.txtSpecMeroIntenz}},
-        {"Délka dna nádrže", {&form.txtDelkaDnaNadrz}},
-        {"Šířka dna nádrže", {&form.txtSirkaDnaNadrz}},
-        {"Hloubka nádrže", {&form.txtHloubkaNadrz}},
-        {"Sklon svahů nádrže", {&form.txtSklonSvahuNadrz}},
-        {"Vypočítaný objem nádrže je menší", {&form.txtDelkaDnaNadrz}},
-        {"Vsakovací tok přesahuje", {&form.txtSpecMeroIntenz}},
-    };
-}
-
-std::vector<Concern> concernsOfPanels(frmCalc& form) {
-    for (const int type : {kSwaleTrench, kTrench}) {
-        if (form.picResults[type].onScreen()) {
-            return concernsOfTrenches(form, type);
+/// The box of the input on the panel that is shown.
+Fields boxOf(frmCalc& form, Input input) {
+    for (const FacilityType type : data::kFacilityTypes) {
+        const auto panel = design::panelInputs(type);
+        const bool on_panel = std::ranges::find(panel, input, &design::PanelInput::input) != panel.end();
+        if (on_panel && form.picResults[type].onScreen()) {
+            return {form.find(design::controlName(info(input).box, type))};
         }
     }
-    return form.picResults[kShaft].onScreen() ? concernsOfShafts(form) : concernsOfTanks(form);
+    return {};
+}
+
+/// In the order in which they are tried: the first that can be reached counts.
+Fields fieldsOf(frmCalc& form, VerdictId id) {
+    const Fields area{&form.cmdEdit[1]};
+    const Fields shaft_size{&form.txtPrumerSachtyVnit, &form.cboTypSachty, &form.txtSachtyCount};
+    const Fields shaft_outside{&form.txtPrumerSachtyVnej, &form.txtTloustkaSteny, &form.cboTypSachty};
+    switch (id) {
+        case VerdictId::RainIntensitiesMissing:
+            return {&form.intDialog.cboSelStanice};
+        case VerdictId::RunoffCoefficientMissing:
+            return {&form.areaDialog.txtSoucinitel};
+        case VerdictId::PartialAreaMissing:
+            return {&form.areaDialog.txtPlocha};
+        case VerdictId::DrainedAreaMissing:
+        case VerdictId::InfiltrationAreaMissing:
+            return area;
+        case VerdictId::FiltrationMissing:
+            return {&form.txtSoucFiltrace};
+        case VerdictId::DesignRainMissing:
+            return {&form.cmdEdit[0]};
+        case VerdictId::TechnologyNotChosen:
+            return {&form.cboSelType, &form.optSelType[0]};
+        case VerdictId::SwaleFiltrationNotPositive:
+            return boxOf(form, Input::SwaleFiltration);
+        case VerdictId::SafetyFactorNotPositive:
+            return boxOf(form, Input::SafetyFactor);
+        case VerdictId::FillPorosityNotPositive:
+            return boxOf(form, Input::FillPorosity);
+        case VerdictId::TrenchHeightNotPositive:
+            return boxOf(form, Input::TrenchHeight);
+        case VerdictId::TrenchWidthNotPositive:
+        case VerdictId::SwaleTrenchAreaInsufficient:
+            return boxOf(form, Input::TrenchWidth);
+        case VerdictId::DrainOutflowNotMet:
+            return {&form.txtVystupPlocha[FacilityType::Trench], &form.cmdEdit[FacilityType::Trench]};
+        case VerdictId::InletDepthNotPositive:
+            return boxOf(form, Input::InletDepth);
+        case VerdictId::FilterLayerNotPositive:
+        case VerdictId::ShaftBottomTooClose:
+            return boxOf(form, Input::FilterLayer);
+        case VerdictId::SeepagePathNotPositive:
+            return boxOf(form, Input::SeepagePath);
+        case VerdictId::SandLayerNotPositive:
+            return boxOf(form, Input::SandLayer);
+        case VerdictId::InnerDiameterNotPositive:
+        case VerdictId::ShaftGroundwaterTooHigh:
+        case VerdictId::ShaftFilterTooPermeable:
+            return shaft_size;
+        case VerdictId::OuterDiameterNotPositive:
+        case VerdictId::ShaftOuterDiameterTooSmall:
+            return shaft_outside;
+        case VerdictId::SpecificInfiltrationNotPositive:
+        case VerdictId::TankInfiltrationExceeded:
+            return boxOf(form, Input::SpecificInfiltration);
+        case VerdictId::BottomLengthNotPositive:
+        case VerdictId::TankVolumeTooSmall:
+            return boxOf(form, Input::BottomLength);
+        case VerdictId::BottomWidthNotPositive:
+            return boxOf(form, Input::BottomWidth);
+        case VerdictId::TankDepthNotPositive:
+            return boxOf(form, Input::TankDepth);
+        case VerdictId::SideSlopeNegative:
+            return boxOf(form, Input::SideSlope);
+        // Nothing to mend, or no field in which to do it.
+        case VerdictId::SwaleTrenchAreaSufficient:
+        case VerdictId::DrainOutflowMet:
+        case VerdictId::ShaftFilterSufficient:
+        case VerdictId::TankVolumeSufficient:
+        case VerdictId::TankInfiltrationProven:
+        case VerdictId::ErrorInvalidCall:
+        case VerdictId::ErrorOverflow:
+        case VerdictId::ErrorSubscript:
+        case VerdictId::ErrorDivisionByZero:
+            break;
+    }
+    return {};
 }
 
 }  // namespace
 
-Control* concernedControl(frmCalc& form, std::string_view message) {
-    for (const auto& concerns : {concernsOfDialogs(form), concernsOfInputs(form), concernsOfPanels(form)}) {
-        for (const Concern& concern : concerns) {
-            if (!message.starts_with(concern.begins)) {
-                continue;
-            }
-            const auto found = std::ranges::find_if(
-                concern.fields, [](const Control* field) { return field->onScreen() && field->reachable(); });
-            return found == concern.fields.end() ? nullptr : *found;
-        }
-    }
-    return nullptr;
+Control* concernedControl(frmCalc& form, design::VerdictId id) {
+    const Fields fields = fieldsOf(form, id);
+    const auto found = std::ranges::find_if(fields, [](const Control* field) {
+        return field != nullptr && field->onScreen() && field->reachable();
+    });
+    return found == fields.end() ? nullptr : *found;
 }
 
 }  // namespace mero::forms

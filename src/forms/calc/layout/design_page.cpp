@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of the design tab.
+/// Lays out the design tab.
 /// All panels share one place; the form shows one of them at a time.
 #include "forms/calc/layout/design_page.h"
 
@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "design/input.h"
 #include "forms/calc/layout/result_panels.h"
 #include "qt/buttons.h"
 #include "qt/drop_list_box.h"
@@ -32,7 +33,7 @@ QWidget& buildChoice(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent)
     row->addWidget(&options, 0, side);
     QComboBox& types = qt::makeDropList(kit, form.cboSelType, frame);
     types.setMinimumContentsLength(32);
-    qt::describe(types, QStringLiteral("Typ vsakování"));
+    qt::describe(types, QString::fromUtf8(info(design::Input::Type).caption));
     row->addWidget(&types, 0, side);
     if (!narrow) {
         row->addStretch(1);
@@ -48,7 +49,7 @@ void buildDesignPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page) {
     column->addWidget(&buildChoice(kit, form, content));
     form.picResults.forEach([&](int type, platform::Panel& panel) {
         QWidget& widget = qt::makePanel(kit, panel, content);
-        buildResultPanel(kit, form, type, widget);
+        buildResultPanel(kit, form, static_cast<FacilityType>(type), widget);
         column->addWidget(&widget, 1);
     });
     column->addStretch(0);

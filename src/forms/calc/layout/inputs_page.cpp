@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of the inputs tab: the form on the left, the guide on the right.
-/// The captions stand as they have always stood, slips of the pen included.
+/// Lays out the inputs tab: the form on the left, the guide on the right.
 #include "forms/calc/layout/inputs_page.h"
 
 #include <QGroupBox>
 #include <QVBoxLayout>
 
+#include "design/input.h"
+#include "design/quantity.h"
+#include "design/text_input.h"
 #include "forms/calc/layout/selection_guide.h"
 #include "qt/buttons.h"
 #include "qt/field_grid.h"
@@ -16,37 +18,51 @@
 namespace mero::forms {
 namespace {
 
+using design::Input;
+using design::Quantity;
+using design::TextInput;
+
 void addButton(qt::WidgetKit& kit, qt::FieldGrid& fields, platform::Button& button, const QString& of) {
     QPushButton& push = qt::makeButton(kit, button, fields.parent());
     push.setAccessibleName(push.text() + QLatin1String(": ") + of);
     fields.beside(push);
 }
 
+void addText(qt::FieldGrid& fields, const frmCalcControls& form, TextInput text) {
+    fields.text(form.textBox(info(text).box), QString::fromUtf8(info(text).caption));
+}
+
+void addNumber(qt::FieldGrid& fields, const frmCalcControls& form, Input input) {
+    fields.input(form.textBox(info(input).box), QString::fromUtf8(info(input).caption),
+                 QString::fromUtf8(info(input).unit));
+}
+
 QWidget& buildFields(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent) {
     QGroupBox& frame = qt::makeFrame(kit, form.fraVstup, parent);
     qt::FieldGrid fields(kit, frame);
-    fields.text(form.txtProjName, QStringLiteral("Název projektu:"));
-    fields.text(form.txtProjektant, QStringLiteral("Řešitel projektu:"));
-    fields.text(form.txtMistoAkce, QStringLiteral("Místo akce:"));
-    fields.text(form.txtInvestor, QStringLiteral("Investor:"));
-    fields.area(form.txtDetails, QStringLiteral("Detilní popis:"));
+    for (const TextInput text :
+         {TextInput::ProjectName, TextInput::Designer, TextInput::Place, TextInput::Investor}) {
+        addText(fields, form, text);
+    }
+    fields.area(form.txtDetails, QString::fromUtf8(info(TextInput::Description).caption));
     fields.space();
 
-    const QString area = QStringLiteral("Celková odvodňovaná plocha");
+    const QString area = QString::fromUtf8(info(Quantity::ReducedArea).caption);
     const QString rain = QStringLiteral("Intenzita trvání deště");
-    const QString soil = QStringLiteral("Součinitel filtrace (kf) podloží");
-    fields.result(form.txtOdvodNepPlocha, area, QStringLiteral("m²"));
+    const QString soil = QString::fromUtf8(info(Input::Filtration).caption);
+    fields.result(form.txtOdvodNepPlocha, area, QString::fromUtf8(info(Quantity::ReducedArea).unit));
     addButton(kit, fields, form.cmdEdit[1], area);
-    fields.result(form.txtSelIntDeste, rain, QStringLiteral("l/(s.ha)"));
+    fields.result(form.txtSelIntDeste, rain, QString::fromUtf8(info(Quantity::CriticalIntensity).unit));
     addButton(kit, fields, form.cmdEdit[0], rain);
-    fields.result(form.txtSelDTrvDeste, QStringLiteral("Doba trvání deště"), QStringLiteral("min"));
-    fields.result(form.txtOdtokDoVsak, QStringLiteral("Odtok do vsakovacího zařízení"),
-                  QStringLiteral("l/s"));
+    fields.result(form.txtSelDTrvDeste, QString::fromUtf8(info(Input::DesignDuration).caption),
+                  QString::fromUtf8(info(Input::DesignDuration).unit));
+    fields.result(form.txtOdtokDoVsak, QString::fromUtf8(info(Quantity::Inflow).caption),
+                  QString::fromUtf8(info(Quantity::Inflow).unit));
     fields.space();
-    fields.input(form.txtSoucFiltrace, soil, QStringLiteral("m/s"));
+    addNumber(fields, form, Input::Filtration);
     addButton(kit, fields, form.cmdEdit[2], soil);
-    fields.text(form.txtTypPudyPodlozi, QStringLiteral("Typ nesoudržné horniny"));
-    fields.input(form.txtHPV, QStringLiteral("Hladina podzemní vody (pod povrchem)"), QStringLiteral("m"));
+    addText(fields, form, TextInput::Subsoil);
+    addNumber(fields, form, Input::Groundwater);
     fields.end();
     return frame;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of the pictures: beside each other where there is room, below each other where there is not.
+/// Lays out the pictures: beside each other where there is room, below each other where there is not.
 #include "forms/calc/layout/picture_pane.h"
 
 #include <QBoxLayout>
@@ -29,7 +29,7 @@ constexpr QSize kLeastChart{26, 7};
 
 class PicturePane : public QGroupBox {
   public:
-    PicturePane(frmCalc& form, int type, QWidget& parent)
+    PicturePane(frmCalc& form, FacilityType type, QWidget& parent)
         : QGroupBox(QStringLiteral("Řez a bilance dešťů"), &parent),
           layout_(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
         auto& section =
@@ -107,7 +107,7 @@ class PicturePane : public QGroupBox {
 
 }  // namespace
 
-QWidget& makePicturePane(frmCalc& form, int type, QWidget& parent) {
+QWidget& makePicturePane(frmCalc& form, FacilityType type, QWidget& parent) {
     return *new PicturePane(form, type, parent);
 }
 

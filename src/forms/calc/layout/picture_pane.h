@@ -9,6 +9,6 @@
 namespace mero::forms {
 
 /// Both pictures of the panel of that type, 1 to 6. They follow every change of the window and its dialogs.
-QWidget& makePicturePane(frmCalc& form, int type, QWidget& parent);
+QWidget& makePicturePane(frmCalc& form, FacilityType type, QWidget& parent);
 
 }  // namespace mero::forms

@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: MIT
-/// The panels of surface infiltration, swales, the combined object and trenches, and what all panels share.
+/// Lays out the panels. Numbers are fields in the order of the tables; choices, the count with its arrows and
+/// the pipes' sub-panel have widgets of their own.
 #include "forms/calc/layout/result_panels.h"
 
 #include <QGroupBox>
 #include <QVBoxLayout>
+#include <set>
 
+#include "design/input.h"
+#include "design/quantity.h"
 #include "forms/calc/layout/picture_pane.h"
 #include "qt/buttons.h"
+#include "qt/drop_list_box.h"
+#include "qt/field_grid.h"
+#include "qt/field_keys.h"
 #include "qt/look.h"
 #include "qt/page_layout.h"
 #include "qt/panels.h"
@@ -14,127 +21,121 @@
 namespace mero::forms {
 namespace {
 
+using design::Input;
 using qt::FieldGrid;
-
-const QString kMetres = QStringLiteral("m");
-const QString kSquareMetres = QStringLiteral("m²");
-const QString kCubicMetres = QStringLiteral("m³");
-const QString kHours = QStringLiteral("h");
-const QString kMetresPerSecond = QStringLiteral("m/s");
-const QString kMillimetres = QStringLiteral("mm");
 
 /// In a very wide window the results stay near the inputs [characters].
 constexpr int kWidestPanel = 260;
 
-void addArea(frmCalcControls& form, int type, FieldGrid& results) {
-    results.result(form.txtVsakPlocha[type], QStringLiteral("Plocha potřebná pro vsakování"), kSquareMetres);
-}
+/// Fills the box of inputs of one panel.
+class InputRows {
+  public:
+    InputRows(qt::WidgetKit& kit, frmCalcControls& form, FacilityType type, FieldGrid& fields)
+        : kit_(&kit), form_(&form), type_(type), fields_(&fields) {}
 
-void fillSwalePanel(qt::WidgetKit& kit, frmCalcControls& form, const PanelGrids& grids) {
-    grids.inputs.widget(QStringLiteral("Typ půdy"),
-                        buildOptions(kit, form.optSelTypPudy2, grids.inputs.parent()));
-    addSafetyFactor(form, kSwale, grids.inputs);
-    addArea(form, kSwale, grids.results);
-    grids.results.result(form.txtObjAkum[kSwale], QStringLiteral("Objem akumulace průlehu"), kCubicMetres);
-    grids.results.result(form.txtVyskaVzduti[kSwale], QStringLiteral("Výška vzdutí"), kMetres);
-    grids.results.result(form.txtDobaPrazdneni[kSwale], QStringLiteral("Doba prázdnění průlehu"), kHours);
-}
-
-void addTrenchSection(frmCalcControls& form, int type, FieldGrid& inputs) {
-    inputs.input(form.txtPorVyplne[type], QStringLiteral("Pórovitost výplně rýhy"));
-    inputs.input(form.txtSirkaRyhy[type], QStringLiteral("Šířka rýhy (střední)"), kMetres);
-    inputs.input(form.txtVyskaRyhy[type], QStringLiteral("Výška rýhy"), kMetres);
-}
-
-/// The pipes of the overflow or the drain, shown while their box is ticked and not yet confirmed.
-void addPipes(qt::WidgetKit& kit, frmCalcControls& form, int type, FieldGrid& inputs) {
-    QWidget& row = qt::makeRow(inputs.parent());
-    row.layout()->addWidget(&qt::makeCheckBox(kit, form.chkSelPretok[type], row));
-    QPushButton& edit = qt::makeButton(kit, form.cmdEdit[type], row);
-    row.layout()->addWidget(&edit);
-    inputs.line(row);
-    const QString heading = QString::fromStdString(form.chkSelPretok[type].text());
-    edit.setAccessibleName(edit.text() + QLatin1String(": ") + heading);
-
-    QGroupBox& box = qt::makeFramedPanel(kit, form.picPretokSkrOdtok[type], heading, inputs.parent());
-    FieldGrid pipes(kit, box);
-    pipes.input(form.txtPocetPotrubi[type], QStringLiteral("Počet potrubí"));
-    pipes.input(form.txtPrumTroubVnej[type], QStringLiteral("Vnější průměr vsakovací trouby"), kMillimetres);
-    pipes.input(form.txtPrumTroubVnit[type], QStringLiteral("Vnitřní průměr vsakovací trouby"), kMillimetres);
-    if (type == kSwaleTrench) {
-        pipes.input(form.txtSpecDrenOdtok[type], QStringLiteral("Škrcená odtoková intenzita"),
-                    QStringLiteral("l/(s.ha)"));
-    } else {
-        pipes.input(form.txtVystupPlocha[type], QStringLiteral("Výstupní plocha"), QStringLiteral("cm²/m"));
-        pipes.input(form.txtVystupRychlost[type], QStringLiteral("Výstupní rychlost"), kMetresPerSecond);
+    void build() {
+        for (const design::PanelInput& row : design::panelInputs(type_)) {
+            if (!design::isOfSubPanel(row.input)) {
+                addInput(row);
+            }
+        }
+        if (type_ == FacilityType::SwaleTrench || type_ == FacilityType::Trench) {
+            addPipes();
+        }
     }
-    pipes.line(qt::makeButton(kit, form.cmdOK[type], box));
-    inputs.wide(box);
-}
 
-void fillSwaleTrenchPanel(qt::WidgetKit& kit, frmCalcControls& form, const PanelGrids& grids) {
-    grids.inputs.widget(QStringLiteral("Typ půdy:"),
-                        buildOptions(kit, form.optSelTypPudy3, grids.inputs.parent()));
-    grids.inputs.input(form.txtSoucFiltrPruleh[kSwaleTrench],
-                       QStringLiteral("Součinitel filtrace (kf) průlehu"), kMetresPerSecond);
-    addSafetyFactor(form, kSwaleTrench, grids.inputs);
-    addTrenchSection(form, kSwaleTrench, grids.inputs);
-    addPipes(kit, form, kSwaleTrench, grids.inputs);
+  private:
+    void addInput(const design::PanelInput& row) {
+        const QString caption =
+            QString::fromUtf8(row.caption == nullptr ? info(row.input).caption : row.caption);
+        switch (row.input) {
+            case Input::Soil:
+                addOptions(caption,
+                           type_ == FacilityType::Swale ? form_->optSelTypPudy2 : form_->optSelTypPudy3);
+                break;
+            case Input::Shape:
+                addOptions(caption, form_->optSelTypSachty);
+                break;
+            case Input::Variant:
+                addOptions(caption, form_->optSelTypPudy5);
+                break;
+            case Input::CatalogueShaft: {
+                constexpr int kWidestDesignation = 20;
+                QComboBox& rings = qt::makeDropList(*kit_, form_->cboTypSachty, fields_->parent());
+                rings.setMinimumContentsLength(kWidestDesignation);
+                fields_->widget(caption, rings);
+                break;
+            }
+            case Input::ShaftCount: {
+                QLineEdit& count = fields_->input(form_->txtSachtyCount, caption);
+                fields_->besideField(qt::makeUpDown(*kit_, form_->updSacht, caption, fields_->parent()));
+                qt::spinByKeys(*kit_, form_->updSacht, count);
+                break;
+            }
+            case Input::UpstreamSettling:
+                fields_->line(qt::makeCheckBox(*kit_, form_->chkPredUsaz, fields_->parent()));
+                break;
+            default:
+                addNumber(*fields_, row.input, caption);
+        }
+    }
 
-    addArea(form, kSwaleTrench, grids.results);
-    FieldGrid& results = grids.results;
-    results.result(form.txtObjAkum[kSwaleTrench], QStringLiteral("Objem akumulace průlehu"), kCubicMetres);
-    results.result(form.txtDelkaRyhy[kSwaleTrench], QStringLiteral("Délka vsakovací rýhy"), kMetres);
-    results.result(form.txtSirkaPrulehu[kSwaleTrench], QStringLiteral("Šířka průlehu"), kMetres);
-    results.result(form.txtHloubkaPrulehu[kSwaleTrench], QStringLiteral("Hloubka průlehu (výška vzdutí)"),
-                   kMetres);
-    results.result(form.txtDobaPrazdneni[kSwaleTrench], QStringLiteral("Doba prázdnění průlehu"), kHours);
-}
+    void addOptions(const QString& caption, const platform::ControlArray<platform::OptionButton>& options) {
+        fields_->widget(caption, buildOptions(*kit_, options, fields_->parent()));
+    }
 
-void fillTrenchPanel(qt::WidgetKit& kit, frmCalcControls& form, const PanelGrids& grids) {
-    addSafetyFactor(form, kTrench, grids.inputs);
-    addTrenchSection(form, kTrench, grids.inputs);
-    addPipes(kit, form, kTrench, grids.inputs);
+    /// Two inputs of one box make one field.
+    void addNumber(FieldGrid& fields, Input input, const QString& caption) {
+        const std::string name = design::controlName(info(input).box, type_);
+        if (added_.insert(name).second) {
+            fields.input(form_->textBox(name), caption, QString::fromUtf8(info(input).unit));
+        }
+    }
 
-    FieldGrid& results = grids.results;
-    results.result(form.txtSoucAkum[kTrench],
-                   QStringLiteral("Celkový součinitel akumulace vsakovací rýhy (vč. příp. trouby)"));
-    results.result(form.txtDelkaRyhy[kTrench], QStringLiteral("Délka vsakovací rýhy"), kMetres);
-    addArea(form, kTrench, results);
-    results.result(form.txtObjAkum[kTrench], QStringLiteral("Objem akumulace"), kCubicMetres);
-}
+    /// The pipes of the overflow or the drain, shown while their box is ticked and not yet confirmed.
+    void addPipes() {
+        QWidget& row = qt::makeRow(fields_->parent());
+        row.layout()->addWidget(&qt::makeCheckBox(*kit_, form_->chkSelPretok[type_], row));
+        QPushButton& edit = qt::makeButton(*kit_, form_->cmdEdit[type_], row);
+        row.layout()->addWidget(&edit);
+        fields_->line(row);
+        const QString heading = QString::fromStdString(form_->chkSelPretok[type_].text());
+        edit.setAccessibleName(edit.text() + QLatin1String(": ") + heading);
 
-void fill(qt::WidgetKit& kit, frmCalcControls& form, int type, const PanelGrids& grids) {
-    switch (type) {
-        case kSurface:
-            addSafetyFactor(form, kSurface, grids.inputs);
-            addArea(form, kSurface, grids.results);
-            break;
-        case kSwale:
-            fillSwalePanel(kit, form, grids);
-            break;
-        case kSwaleTrench:
-            fillSwaleTrenchPanel(kit, form, grids);
-            break;
-        case kTrench:
-            fillTrenchPanel(kit, form, grids);
-            break;
-        case kShaft:
-            fillShaftPanel(kit, form, grids);
-            break;
-        case kTank:
-            fillTankPanel(kit, form, grids);
-            break;
-        default:
-            break;
+        QGroupBox& box =
+            qt::makeFramedPanel(*kit_, form_->picPretokSkrOdtok[type_], heading, fields_->parent());
+        FieldGrid pipes(*kit_, box);
+        for (const design::PanelInput& input : design::panelInputs(type_)) {
+            if (design::isOfSubPanel(input.input)) {
+                addNumber(pipes, input.input, QString::fromUtf8(info(input.input).caption));
+            }
+        }
+        pipes.line(qt::makeButton(*kit_, form_->cmdOK[type_], box));
+        fields_->wide(box);
+    }
+
+    qt::WidgetKit* kit_;
+    frmCalcControls* form_;
+    FacilityType type_;
+    FieldGrid* fields_;
+    std::set<std::string> added_;
+};
+
+void buildResults(const frmCalcControls& form, FacilityType type, FieldGrid& fields) {
+    for (const design::ResultBox& row : design::resultBoxes(type)) {
+        fields.result(form.textBox(design::controlName(row.box, type)),
+                      QString::fromUtf8(design::captionOf(row.quantity, type)),
+                      QString::fromUtf8(info(row.quantity).unit));
+    }
+    if (type == FacilityType::Tank) {
+        fields.space();
+        auto& warning = *new QLabel(QStringLiteral("Nutno ověřit dlouhodobou simulací!"), &fields.parent());
+        qt::showAsWarning(warning);
+        fields.line(warning);
     }
 }
 
 }  // namespace
-
-void addSafetyFactor(frmCalcControls& form, int type, FieldGrid& inputs) {
-    inputs.input(form.txtSoucBezp[type], QStringLiteral("Součinitel bezpečnosti"));
-}
 
 QWidget& buildOptions(qt::WidgetKit& kit, const platform::ControlArray<platform::OptionButton>& options,
                       QWidget& parent) {
@@ -146,7 +147,7 @@ QWidget& buildOptions(qt::WidgetKit& kit, const platform::ControlArray<platform:
     return row;
 }
 
-void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, int type, QWidget& panel) {
+void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWidget& panel) {
     auto* whole = new QVBoxLayout(&panel);
     whole->setContentsMargins(0, 0, 0, 0);
     auto* columns = new qt::FlowPair(panel);
@@ -164,7 +165,8 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, int type, QWidget& pane
 
     FieldGrid inputs(kit, inputs_box);
     FieldGrid results(kit, results_box);
-    fill(kit, form, type, {inputs, results});
+    InputRows(kit, form, type, inputs).build();
+    buildResults(form, type, results);
 
     QPushButton& calculate = qt::makeButton(kit, form.cmdCalcul[type], inputs_box);
     QFont font = calculate.font();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// What each design's balance depends on, out of the shared values: the same for the calculation and for the
-/// pictures that show it.
+/// What the balance of each type depends on, taken from the stored numbers: the calculation and the charts
+/// that show it use the same values.
 #pragma once
 
 #include "calc/shaft.h"
@@ -8,12 +8,12 @@
 #include "calc/swale_trench.h"
 #include "calc/tank.h"
 #include "calc/trench.h"
-#include "data/mod_public_variables.h"
+#include "data/design_numbers.h"
 
-namespace mero::forms {
+namespace mero::design {
 
 /// @param filtration_m_s coefficient of the layer that the swale soaks into
-[[nodiscard]] inline calc::swale::Balance swaleBalance(const data::modPublicVariables& values,
+[[nodiscard]] inline calc::swale::Balance swaleBalance(const data::DesignNumbers& values,
                                                        float filtration_m_s) {
     return {.reduced_area_m2 = values.RedukovanaPlocha,
             .infiltration_area_m2 = values.txtVsakPlocha,
@@ -21,14 +21,14 @@ namespace mero::forms {
             .safety_factor = values.txtSoucBezp};
 }
 
-[[nodiscard]] inline calc::TrenchSection trenchSection(const data::modPublicVariables& values) {
+[[nodiscard]] inline calc::TrenchSection trenchSection(const data::DesignNumbers& values) {
     return {.width_m = values.txtSirkaRyhy,
             .height_m = values.txtVyskaRyhy,
             .storage_coefficient = values.s_RR,
             .filtration_m_s = values.txtSoucFiltrace};
 }
 
-[[nodiscard]] inline calc::swale_trench::Balance swaleTrenchBalance(const data::modPublicVariables& values) {
+[[nodiscard]] inline calc::swale_trench::Balance swaleTrenchBalance(const data::DesignNumbers& values) {
     return {.reduced_area_m2 = values.RedukovanaPlocha,
             .infiltration_area_m2 = values.txtVsakPlocha,
             .throttled_m3_s = values.Q_dr,
@@ -37,13 +37,13 @@ namespace mero::forms {
             .trench = trenchSection(values)};
 }
 
-[[nodiscard]] inline calc::trench::Balance trenchBalance(const data::modPublicVariables& values) {
+[[nodiscard]] inline calc::trench::Balance trenchBalance(const data::DesignNumbers& values) {
     return {.reduced_area_m2 = values.RedukovanaPlocha,
             .safety_factor = values.txtSoucBezp,
             .section = trenchSection(values)};
 }
 
-[[nodiscard]] inline calc::shaft::Balance shaftBalance(const data::modPublicVariables& values) {
+[[nodiscard]] inline calc::shaft::Balance shaftBalance(const data::DesignNumbers& values) {
     return {
         .reduced_area_m2 = values.RedukovanaPlocha,
         .filtration_m_s = values.txtSoucFiltrace,
@@ -53,11 +53,11 @@ namespace mero::forms {
 }
 
 /// @param infiltration_flow_m3_s what calc::tank::infiltrationFlow gives
-[[nodiscard]] inline calc::tank::Balance tankBalance(const data::modPublicVariables& values,
+[[nodiscard]] inline calc::tank::Balance tankBalance(const data::DesignNumbers& values,
                                                      float infiltration_flow_m3_s) {
     return {.reduced_area_m2 = values.RedukovanaPlocha,
             .infiltration_flow_m3_s = infiltration_flow_m3_s,
             .safety_factor = values.txtSoucBezp};
 }
 
-}  // namespace mero::forms
+}  // namespace mero::design

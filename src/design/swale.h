@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+/// Swales: the starting area follows from the soil, the design from the storage volume.
+#pragma once
+
+#include "design/balances.h"
+#include "design/sink.h"
+#include "platform/numbers/checked.h"
+
+namespace mero::design::swale {
+
+/// Storage volume, ponding depth, emptying time.
+/// @throws RuntimeError DivisionByZero when there is no infiltration area, Overflow
+template <Sink S>
+void design(S& sink) {
+    data::DesignNumbers& numbers = sink.numbers();
+    const auto rains = sink.rains();
+    const calc::CriticalRain volume =
+        calc::swale::storageVolume(swaleBalance(numbers, numbers.txtSoucFiltrace), rains);
+    pick(numbers, volume);
+    sink.show(Quantity::StorageVolume, numbers::toSingle(volume.maximum));
+    sink.show(Quantity::WaterDepth, calc::swale::pondingDepth(numbers.txtObjAkum, numbers.txtVsakPlocha));
+    if (numbers.txtSoucFiltrace > 0.0F) {
+        sink.show(Quantity::EmptyingTime,
+                  calc::swale::emptyingTimeHours(numbers.txtVyskaVzduti, numbers.txtSoucFiltrace));
+    }
+    sink.complete();
+}
+
+/// The starting area, then the design. Without a drained area nothing changes.
+template <Sink S>
+void calculate(S& sink) {
+    data::DesignNumbers& numbers = sink.numbers();
+    if (numbers.RedukovanaPlocha <= 0.0F) {
+        return;
+    }
+    numbers.txtVsakPlocha =
+        calc::swale::startingArea(numbers.RedukovanaPlocha, sink.soilOption(), numbers.txtVsakPlocha);
+    sink.clear(Quantity::StorageVolume);
+    sink.show(Quantity::InfiltrationArea, numbers.txtVsakPlocha);
+    design(sink);
+}
+
+}  // namespace mero::design::swale

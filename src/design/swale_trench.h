@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+/// Combined object of a swale and a trench.
+/// The swale's starting area is live; the design follows the calculate button.
+#pragma once
+
+#include "design/balances.h"
+#include "design/sink.h"
+#include "platform/numbers/checked.h"
+
+namespace mero::design::swale_trench {
+
+/// The starting area; the other results are cleared. Without a drained area nothing changes.
+template <Sink S>
+void calculateArea(S& sink) {
+    data::DesignNumbers& numbers = sink.numbers();
+    if (numbers.RedukovanaPlocha <= 0.0F) {
+        return;
+    }
+    numbers.txtVsakPlocha =
+        calc::swale::startingArea(numbers.RedukovanaPlocha, sink.soilOption(), numbers.txtVsakPlocha);
+    sink.clear(Quantity::StorageVolume);
+    sink.clear(Quantity::TrenchLength);
+    sink.clear(Quantity::SwaleWidth);
+    sink.clear(Quantity::SwaleDepth);
+    sink.clear(Quantity::EmptyingTime);
+    sink.show(Quantity::InfiltrationArea, numbers.txtVsakPlocha);
+}
+
+/// Does the trench fit into the area of the swale?
+template <Sink S>
+void judgeArea(S& sink) {
+    const data::DesignNumbers& numbers = sink.numbers();
+    const double designed_m2 =
+        calc::swale_trench::designedArea(numbers.txtDelkaRyhy, numbers.txtSirkaPrulehu);
+    switch (calc::swale_trench::judgeArea(designed_m2, numbers.txtVsakPlocha)) {
+        case calc::swale_trench::AreaVerdict::Sufficient:
+            sink.tell(VerdictId::SwaleTrenchAreaSufficient);
+            break;
+        case calc::swale_trench::AreaVerdict::Insufficient:
+            sink.tell(VerdictId::SwaleTrenchAreaInsufficient);
+            break;
+    }
+}
+
+/// The swale's volume first, then the trench that takes what the swale does not hold.
+/// @throws RuntimeError DivisionByZero when the trench takes nothing or has no width, Overflow
+template <Sink S>
+void design(S& sink) {
+    data::DesignNumbers& numbers = sink.numbers();
+    const auto rains = sink.rains();
+    if (!sink.pipesTicked()) {
+        sink.show(Quantity::ThrottledOutflow, 0.0F);
+        sink.show(Quantity::StorageCoefficient, numbers.txtPorVyplne);
+    }
+    const calc::CriticalRain volume =
+        calc::swale::storageVolume(swaleBalance(numbers, numbers.txtSoucFiltrPruleh), rains);
+    pick(numbers, volume);
+    sink.show(Quantity::StorageVolume, numbers::toSingle(volume.maximum));
+    if (numbers.txtVsakPlocha <= 0.0F) {
+        sink.tell(VerdictId::InfiltrationAreaMissing);
+    } else {
+        sink.show(Quantity::WaterDepth, calc::swale::pondingDepth(numbers.txtObjAkum, numbers.txtVsakPlocha));
+    }
+
+    const calc::CriticalRain length = calc::swale_trench::trenchLength(swaleTrenchBalance(numbers), rains);
+    pick(numbers, length);
+    sink.show(Quantity::TrenchLength, numbers::toSingle(length.maximum));
+
+    numbers.txtSirkaPrulehu = numbers.txtSirkaRyhy;
+    if (numbers.txtDelkaRyhy > 0.0F) {
+        sink.show(Quantity::SwaleDepth,
+                  calc::swale_trench::swaleDepth(numbers.txtObjAkum, numbers.txtDelkaRyhy,
+                                                 numbers.txtSirkaPrulehu));
+        sink.show(Quantity::SwaleWidth, numbers.txtSirkaPrulehu);
+        judgeArea(sink);
+    }
+    sink.show(Quantity::EmptyingTime,
+              calc::swale::emptyingTimeHours(numbers.txtHloubkaPrulehu, numbers.txtSoucFiltrPruleh));
+    sink.complete();
+}
+
+}  // namespace mero::design::swale_trench
