@@ -62,40 +62,40 @@ std::vector<float> numbersOf(const project::Inputs& inputs) {
                                inputs.filtration_m_s,
                                inputs.groundwater_depth_m,
                                static_cast<float>(facility.type),
-                               facility.safety_factor,
+                               facility.txtSoucBezp,
                                static_cast<float>(facility.soil_option),
-                               facility.swale_filtration_m_s,
-                               facility.fill_porosity,
-                               facility.trench_width_m,
-                               facility.trench_height_m,
+                               facility.txtSoucFiltrPruleh,
+                               facility.txtPorVyplne,
+                               facility.txtSirkaRyhy,
+                               facility.txtVyskaRyhy,
                                static_cast<float>(facility.overflow.given),
-                               facility.overflow.count,
-                               facility.overflow.outer_diameter_mm,
-                               facility.overflow.inner_diameter_mm,
-                               facility.throttled_outflow_l_s_ha,
+                               facility.overflow.txtPocetPotrubi,
+                               facility.overflow.txtPrumTroubVnej,
+                               facility.overflow.txtPrumTroubVnit,
+                               facility.overflow.txtSpecDrenOdtok,
                                static_cast<float>(facility.drain.given),
-                               facility.drain.count,
-                               facility.drain.outer_diameter_mm,
-                               facility.drain.inner_diameter_mm,
-                               facility.outlet_area_cm2_m,
-                               facility.outlet_velocity_m_s,
+                               facility.drain.txtPocetPotrubi,
+                               facility.drain.txtPrumTroubVnej,
+                               facility.drain.txtPrumTroubVnit,
+                               facility.drain.txtVystupPlocha,
+                               facility.drain.txtVystupRychlost,
                                static_cast<float>(facility.catalogue_row),
                                static_cast<float>(facility.shape),
                                static_cast<float>(facility.sand_layer),
-                               static_cast<float>(facility.shaft_count),
+                               static_cast<float>(facility.txtSachtyCount),
                                facility.inner_diameter_m,
                                facility.inner_width_m,
-                               facility.inner_length_m,
-                               facility.wall_thickness_m,
-                               facility.seepage_path_m,
-                               facility.inlet_depth_m,
-                               facility.filter_layer_m,
-                               facility.sand_layer_m,
-                               facility.specific_infiltration_l_s_ha,
-                               facility.bottom_length_m,
-                               facility.bottom_width_m,
-                               facility.tank_depth_m,
-                               facility.side_slope,
+                               facility.txtPrumerSachtyVnej,
+                               facility.txtTloustkaSteny,
+                               facility.txtMinPrusakDraha,
+                               facility.txtNezamrzHlPritok,
+                               facility.txtVyskaFiltrVrstvy,
+                               facility.txtVyskaPiskVrstvy,
+                               facility.txtSpecMeroIntenz,
+                               facility.txtDelkaDnaNadrz,
+                               facility.txtSirkaDnaNadrz,
+                               facility.txtHloubkaNadrz,
+                               facility.txtSklonSvahuNadrz,
                                static_cast<float>(facility.upstream_settling)};
     numbers.insert(numbers.end(), rain.durations_min.begin(), rain.durations_min.end());
     numbers.insert(numbers.end(), rain.intensities_l_s_ha.begin(), rain.intensities_l_s_ha.end());
@@ -108,8 +108,8 @@ std::vector<float> numbersOf(const project::Inputs& inputs) {
 
 std::vector<std::string> textsOf(const project::Project& read) {
     std::vector<std::string> texts = read.texts.surfaces;
-    for (const project::TextField& field : project::textFields()) {
-        texts.push_back(read.texts.*(field.text));
+    for (const design::TextInputInfo& field : design::textInputs()) {
+        texts.push_back(read.texts.*(field.stored));
     }
     return texts;
 }
@@ -153,7 +153,8 @@ void requireOutputs(project::Project read, const design::Site& site, const desig
         const std::string html = mero::report::htmlReport(project::reportData(read, site, result, now));
         require(html.starts_with("<html><body>") && html.ends_with("</div></body><html>\r\n"),
                 "the report has its frame");
-        require(html.find(read.texts.name) != std::string::npos, "the project's name stands as it was given");
+        require(html.find(read.texts.txtProjName) != std::string::npos,
+                "the project's name stands as it was given");
     }
     // Without the texts, which may tell of "inf" as they like.
     read.texts = {};

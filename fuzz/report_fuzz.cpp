@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "design/input.h"
+#include "design/quantity.h"
 #include "report/code_page.h"
 #include "report/html_report.h"
 #include "support/require.h"
@@ -16,6 +18,7 @@
 namespace {
 
 using mero::fuzz::require;
+namespace design = mero::design;
 namespace report = mero::report;
 
 /// Takes texts and numbers off the front of the input.
@@ -51,46 +54,43 @@ class Input {
 };
 
 std::array<std::string*, 13> textsOf(report::ReportData& data) {
-    return {&data.project_name,
-            &data.designer,
-            &data.investor,
-            &data.site,
-            &data.description,
-            &data.subsoil,
-            &data.infiltration_type_name,
+    return {&data.texts.txtProjName,
+            &data.texts.txtProjektant,
+            &data.texts.txtInvestor,
+            &data.texts.txtMistoAkce,
+            &data.texts.txtDetails,
+            &data.texts.txtTypPudyPodlozi,
+            &data.type_name,
             &data.rain.station,
             &data.rain.periodicity,
-            &data.shaft.ring,
-            &data.swale.soil_caption,
+            &data.options.ring,
+            &data.options.soil_caption,
             &data.date,
             &data.time};
 }
 
 report::ReportData reportOf(Input& input) {
     report::ReportData data;
-    data.infiltration_type = static_cast<int>(input.byte() % 9) - 1;
+    data.type = static_cast<mero::data::FacilityType>(input.byte() % mero::data::kTypeSlots);
     const unsigned flags = input.byte();
-    data.pipes.drain = (flags & 1U) != 0;
-    data.pipes.throttled_overflow = (flags & 2U) != 0;
-    data.shaft.sand_layer = (flags & 4U) != 0;
-    data.shaft.shape = (flags & 8U) != 0 ? 1 : 0;
-    data.tank.upstream_settling = (flags & 16U) != 0;
+    data.options.drain = (flags & 1U) != 0;
+    data.options.overflow = (flags & 2U) != 0;
+    data.options.sand_layer = (flags & 4U) != 0;
+    data.options.shape = static_cast<mero::data::ShaftShape>((flags & 8U) != 0 ? 1 : 0);
+    data.options.upstream_settling = (flags & 16U) != 0;
     for (std::string* text : textsOf(data)) {
         *text = input.text();
     }
-    for (float* number : {&data.drained_area_m2,       &data.subsoil_filtration_m_s,
-                          &data.groundwater_depth_m,   &data.safety_factor,
-                          &data.infiltration_area_m2,  &data.storage_volume_m3,
-                          &data.water_depth_m,         &data.swale.depth_m,
-                          &data.swale.width_m,         &data.swale.emptying_time_h,
-                          &data.swale.filtration_m_s,  &data.trench.fill_porosity,
-                          &data.trench.width_m,        &data.trench.height_m,
-                          &data.trench.length_m,       &data.shaft.required_depth_m,
-                          &data.shaft.side1_m,         &data.tank.depth_m,
-                          &data.tank.side_slope,       &data.rain.chosen_duration_min,
-                          &data.rain.durations_min[0], &data.rain.intensities_lsha[8]}) {
-        *number = input.number();
+    for (const design::QuantityInfo& quantity : design::quantities()) {
+        data.numbers.*quantity.stored = input.number();
     }
+    for (const design::InputInfo& field : design::inputs()) {
+        if (field.stored != nullptr) {
+            data.numbers.*field.stored = input.number();
+        }
+    }
+    data.rain.rows[0].duration_min = input.number();
+    data.rain.rows[8].intensity_l_s_ha = input.number();
     for (unsigned entries = input.byte() % 5; entries > 0; --entries) {
         const float area = input.number();
         const float coefficient = input.number();
@@ -103,8 +103,9 @@ void checkReport(const report::ReportData& data) {
     const std::string html = report::htmlReport(data);
     require(html.starts_with("<html><body>") && html.ends_with("</div></body><html>\r\n"),
             "the document has its frame");
-    require(html.find(data.project_name) != std::string::npos, "the project's name stands as it was typed");
-    require(data.description.empty() || html.find(data.description) != std::string::npos,
+    require(html.find(data.texts.txtProjName) != std::string::npos,
+            "the project's name stands as it was typed");
+    require(data.texts.txtDetails.empty() || html.find(data.texts.txtDetails) != std::string::npos,
             "the description stands as it was typed");
     const std::string stored = report::toWindows1250(html);
     require(stored.size() <= html.size(), "one byte for a character");

@@ -31,26 +31,32 @@ inline std::array<Project, calc::bench::kSites> makeProjects(FacilityType type) 
         site.groundwater_depth_m = 6.0F;
         Facility& facility = projects[n].facility;
         facility.type = type;
-        facility.safety_factor = from.safety_factor;
+        facility.txtSoucBezp = from.safety_factor;
         facility.soil_option = static_cast<int>(n % 2);
-        facility.swale_filtration_m_s = from.filtration_m_s;
-        facility.trench_width_m = from.width_m;
-        facility.trench_height_m = from.height_m;
-        facility.overflow = {true, 1.0F, 350.0F, 300.0F};
-        facility.throttled_outflow_l_s_ha = 2.0F;
-        facility.drain = {true, 1.0F, 160.0F, 145.0F};
-        facility.outlet_area_cm2_m = 50.0F;
-        facility.outlet_velocity_m_s = 0.1F;
+        facility.txtSoucFiltrPruleh = from.filtration_m_s;
+        facility.txtSirkaRyhy = from.width_m;
+        facility.txtVyskaRyhy = from.height_m;
+        facility.overflow = {{.txtPocetPotrubi = 1.0F,
+                              .txtPrumTroubVnej = 350.0F,
+                              .txtPrumTroubVnit = 300.0F,
+                              .txtSpecDrenOdtok = 2.0F},
+                             true};
+        facility.drain = {{.txtPocetPotrubi = 1.0F,
+                           .txtPrumTroubVnej = 160.0F,
+                           .txtPrumTroubVnit = 145.0F,
+                           .txtVystupPlocha = 50.0F,
+                           .txtVystupRychlost = 0.1F},
+                          true};
         facility.inner_diameter_m = 1.0F + from.width_m;
-        facility.wall_thickness_m = 0.15F;
-        facility.shaft_count = 2;
-        facility.inlet_depth_m = 0.8F;
-        facility.filter_layer_m = 0.5F;
-        facility.specific_infiltration_l_s_ha = 5.0F;
-        facility.bottom_length_m = 10.0F * from.height_m;
-        facility.bottom_width_m = 10.0F;
-        facility.tank_depth_m = from.width_m;
-        facility.side_slope = 2.0F;
+        facility.txtTloustkaSteny = 0.15F;
+        facility.txtSachtyCount = 2;
+        facility.txtNezamrzHlPritok = 0.8F;
+        facility.txtVyskaFiltrVrstvy = 0.5F;
+        facility.txtSpecMeroIntenz = 5.0F;
+        facility.txtDelkaDnaNadrz = 10.0F * from.height_m;
+        facility.txtSirkaDnaNadrz = 10.0F;
+        facility.txtHloubkaNadrz = from.width_m;
+        facility.txtSklonSvahuNadrz = 2.0F;
     }
     return projects;
 }

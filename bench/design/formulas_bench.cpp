@@ -48,7 +48,7 @@ void Swale(benchmark::State& state) {
         const float volume = toSingle(calc::swale::storageVolume({.reduced_area_m2 = site.reduced_area_m2,
                                                                   .infiltration_area_m2 = area,
                                                                   .filtration_m_s = site.filtration_m_s,
-                                                                  .safety_factor = facility.safety_factor},
+                                                                  .safety_factor = facility.txtSoucBezp},
                                                                  site.rains)
                                           .maximum);
         return calc::swale::emptyingTimeHours(calc::swale::pondingDepth(volume, area), site.filtration_m_s);
@@ -57,11 +57,11 @@ void Swale(benchmark::State& state) {
 BENCHMARK(Swale)->Name("Formulas/Swale");
 
 calc::TrenchSection sectionOf(const Site& site, const Facility& facility, const Pipes& pipes) {
-    return {.width_m = facility.trench_width_m,
-            .height_m = facility.trench_height_m,
+    return {.width_m = facility.txtSirkaRyhy,
+            .height_m = facility.txtVyskaRyhy,
             .storage_coefficient = calc::drain::storageCoefficient(
-                {pipes.inner_diameter_mm, pipes.outer_diameter_mm, pipes.count}, facility.fill_porosity,
-                facility.trench_width_m, facility.trench_height_m),
+                {pipes.txtPrumTroubVnit, pipes.txtPrumTroubVnej, pipes.txtPocetPotrubi},
+                facility.txtPorVyplne, facility.txtSirkaRyhy, facility.txtVyskaRyhy),
             .filtration_m_s = site.filtration_m_s};
 }
 
@@ -71,25 +71,25 @@ void SwaleTrench(benchmark::State& state) {
         const float volume =
             toSingle(calc::swale::storageVolume({.reduced_area_m2 = site.reduced_area_m2,
                                                  .infiltration_area_m2 = area,
-                                                 .filtration_m_s = facility.swale_filtration_m_s,
-                                                 .safety_factor = facility.safety_factor},
+                                                 .filtration_m_s = facility.txtSoucFiltrPruleh,
+                                                 .safety_factor = facility.txtSoucBezp},
                                                 site.rains)
                          .maximum);
         const float length = toSingle(
             calc::swale_trench::trenchLength({.reduced_area_m2 = site.reduced_area_m2,
                                               .infiltration_area_m2 = area,
                                               .throttled_m3_s = calc::drain::throttledOutflow(
-                                                  site.reduced_area_m2, facility.throttled_outflow_l_s_ha),
+                                                  site.reduced_area_m2, facility.overflow.txtSpecDrenOdtok),
                                               .swale_volume_m3 = volume,
-                                              .safety_factor = facility.safety_factor,
+                                              .safety_factor = facility.txtSoucBezp,
                                               .trench = sectionOf(site, facility, facility.overflow)},
                                              site.rains)
                 .maximum);
         if (!(length > 0.0F)) {  // the swale alone is enough
             return volume;
         }
-        const float depth = calc::swale_trench::swaleDepth(volume, length, facility.trench_width_m);
-        return calc::swale::emptyingTimeHours(depth, facility.swale_filtration_m_s);
+        const float depth = calc::swale_trench::swaleDepth(volume, length, facility.txtSirkaRyhy);
+        return calc::swale::emptyingTimeHours(depth, facility.txtSoucFiltrPruleh);
     });
 }
 BENCHMARK(SwaleTrench)->Name("Formulas/SwaleTrench");
@@ -97,17 +97,19 @@ BENCHMARK(SwaleTrench)->Name("Formulas/SwaleTrench");
 void Trench(benchmark::State& state) {
     run(state, FacilityType::Trench, [](const Site& site, const Facility& facility) {
         const calc::trench::Balance balance{.reduced_area_m2 = site.reduced_area_m2,
-                                            .safety_factor = facility.safety_factor,
+                                            .safety_factor = facility.txtSoucBezp,
                                             .section = sectionOf(site, facility, facility.drain)};
         const calc::CriticalRain critical = calc::trench::requiredLength(balance, site.rains);
         const float length = toSingle(critical.maximum);
         const calc::Rain rain = critical.rain.value_or(site.rains[2]);
         const float volume = calc::trench::storageVolume(balance, length, rain);
         const float inflow = calc::inflow(site.reduced_area_m2, rain.intensity_l_s_ha);
-        const float outflow = calc::trench::drainOutflow(
-            {facility.outlet_area_cm2_m, facility.drain.count, facility.outlet_velocity_m_s}, length);
+        const float outflow =
+            calc::trench::drainOutflow({facility.drain.txtVystupPlocha, facility.drain.txtPocetPotrubi,
+                                        facility.drain.txtVystupRychlost},
+                                       length);
         return volume + inflow + outflow +
-               calc::trench::infiltrationArea(facility.trench_height_m, facility.trench_width_m, length);
+               calc::trench::infiltrationArea(facility.txtVyskaRyhy, facility.txtSirkaRyhy, length);
     });
 }
 BENCHMARK(Trench)->Name("Formulas/Trench");
@@ -117,10 +119,10 @@ void Shaft(benchmark::State& state) {
         const calc::shaft::Balance balance{
             .reduced_area_m2 = site.reduced_area_m2,
             .filtration_m_s = site.filtration_m_s,
-            .safety_factor = facility.safety_factor,
-            .shafts = {.count = facility.shaft_count,
+            .safety_factor = facility.txtSoucBezp,
+            .shafts = {.count = facility.txtSachtyCount,
                        .outer_diameter_m = calc::shaft_geometry::roundOuterDiameter(
-                           facility.inner_diameter_m, facility.wall_thickness_m),
+                           facility.inner_diameter_m, facility.txtTloustkaSteny),
                        .inner_diameter_m = facility.inner_diameter_m}};
         const calc::CriticalRain critical = calc::shaft::waterLevel(balance, site.rains);
         const float level = toSingle(critical.maximum);
@@ -133,21 +135,20 @@ BENCHMARK(Shaft)->Name("Formulas/Shaft");
 
 void Tank(benchmark::State& state) {
     run(state, FacilityType::Tank, [](const Site& site, const Facility& facility) {
-        const float flow =
-            calc::tank::infiltrationFlow(facility.specific_infiltration_l_s_ha, site.reduced_area_m2);
+        const float flow = calc::tank::infiltrationFlow(facility.txtSpecMeroIntenz, site.reduced_area_m2);
         const float storage = toSingle(calc::tank::requiredStorage({.reduced_area_m2 = site.reduced_area_m2,
                                                                     .infiltration_flow_m3_s = flow,
-                                                                    .safety_factor = facility.safety_factor},
+                                                                    .safety_factor = facility.txtSoucBezp},
                                                                    site.rains)
                                            .maximum);
         const calc::tank::Shape shape{
-            .bottom_length_m = facility.bottom_length_m,
-            .bottom_width_m = facility.bottom_width_m,
-            .top_length_m =
-                calc::tank::topSide(facility.bottom_length_m, facility.tank_depth_m, facility.side_slope),
-            .top_width_m =
-                calc::tank::topSide(facility.bottom_width_m, facility.tank_depth_m, facility.side_slope),
-            .depth_m = facility.tank_depth_m};
+            .bottom_length_m = facility.txtDelkaDnaNadrz,
+            .bottom_width_m = facility.txtSirkaDnaNadrz,
+            .top_length_m = calc::tank::topSide(facility.txtDelkaDnaNadrz, facility.txtHloubkaNadrz,
+                                                facility.txtSklonSvahuNadrz),
+            .top_width_m = calc::tank::topSide(facility.txtSirkaDnaNadrz, facility.txtHloubkaNadrz,
+                                               facility.txtSklonSvahuNadrz),
+            .depth_m = facility.txtHloubkaNadrz};
         const double mean = calc::tank::meanInfiltrationFlow(
             shape, calc::tank::effectiveFiltration(site.filtration_m_s, facility.upstream_settling));
         return static_cast<double>(storage) + static_cast<double>(calc::tank::volume(shape)) + mean;

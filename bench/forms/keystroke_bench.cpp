@@ -68,8 +68,8 @@ struct Site {
         window.areaDialog.cmdZapsat.userClick();
         window.areaDialog.OKButton.userClick();
         window.txtSoucFiltrace.userEdit("1e-4");
-        window.optSelType[type == forms::kTank ? 1 : 0].userClick();
-        window.cboSelType.userSelect(type == forms::kTank ? 0 : type);
+        window.optSelType[type == data::FacilityType::Tank ? 1 : 0].userClick();
+        window.cboSelType.userSelect(type == data::FacilityType::Tank ? 0 : type);
     }
 };
 
@@ -100,7 +100,7 @@ void registerFields(Site& site, int type) {
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     std::vector<std::unique_ptr<Site>> sites;
-    for (int type = forms::kSurface; type <= forms::kTank; ++type) {
+    for (int type = data::FacilityType::Surface; type <= data::FacilityType::Tank; ++type) {
         sites.push_back(std::make_unique<Site>(type));
         registerFields(*sites.back(), type);
     }

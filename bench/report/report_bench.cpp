@@ -14,6 +14,8 @@ void enterResults(benchmark::State& state) {
         tab.enter();
     }
 }
-BENCHMARK(enterResults)->DenseRange(mero::forms::kSurface, mero::forms::kTank)->Unit(benchmark::kMillisecond);
+BENCHMARK(enterResults)
+    ->DenseRange(mero::data::FacilityType::Surface, mero::data::FacilityType::Tank)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

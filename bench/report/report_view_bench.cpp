@@ -27,7 +27,9 @@ void enterAndPaint(benchmark::State& state) {
     }
     window.hide();
 }
-BENCHMARK(enterAndPaint)->DenseRange(forms::kSurface, forms::kTank)->Unit(benchmark::kMillisecond);
+BENCHMARK(enterAndPaint)
+    ->DenseRange(data::FacilityType::Surface, data::FacilityType::Tank)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

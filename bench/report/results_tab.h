@@ -89,8 +89,8 @@ struct ResultsTab {
         }
         window.areaDialog.OKButton.userClick();
         window.txtSoucFiltrace.userEdit("1e-4");
-        window.optSelType[type == forms::kTank ? 1 : 0].userClick();
-        if (type != forms::kTank) {
+        window.optSelType[type == data::FacilityType::Tank ? 1 : 0].userClick();
+        if (type != data::FacilityType::Tank) {
             window.cboSelType.userSelect(type);
         }
     }

@@ -38,8 +38,11 @@ class VerdictList {
     std::array<Verdict, kMost> verdicts_;
 };
 
-class DesignResult {  // NOLINT(cppcoreguidelines-pro-type-member-init): written_ is read where shown_ says so
+class DesignResult {
   public:
+    // What was written is read only where it is shown, so nothing is set beforehand.
+    DesignResult() {}  // NOLINT(cppcoreguidelines-pro-type-member-init,modernize-use-equals-default)
+
     /// The stored value; 0 where nothing was stored.
     [[nodiscard]] float value(Quantity quantity) const { return numbers.*info(quantity).stored; }
     /// Is there a result: does its box show a number?

@@ -24,38 +24,48 @@ TEST(DesignResult, NothingIsThereAtFirst) {
 TEST(DesignResult, EveryBoxIsOnItsOwn) {
     DesignResult result;
     for (const QuantityInfo& quantity : quantities()) {
-        result.show(quantity.quantity, static_cast<float>(quantity.quantity) + 1.0F);
+        result.show(quantity.quantity);
     }
     result.clear(Quantity::StorageVolume);
     for (const QuantityInfo& quantity : quantities()) {
         EXPECT_EQ(result.has(quantity.quantity), quantity.quantity != Quantity::StorageVolume)
             << quantity.name;
-        EXPECT_EQ(result.value(quantity.quantity), static_cast<float>(quantity.quantity) + 1.0F);
     }
 }
 
 TEST(DesignResult, ABoxMayStoreBackAnotherNumberThanItWasGiven) {
     DesignResult result;
-    result.show(Quantity::InfiltrationArea, 428.57144F, 428.6F);
+    result.numbers.txtVsakPlocha = 428.6F;
+    result.show(Quantity::InfiltrationArea, 428.57144F);
     EXPECT_EQ(result.written(Quantity::InfiltrationArea), 428.57144F);
     EXPECT_EQ(result.value(Quantity::InfiltrationArea), 428.6F);
-    // An emptied box keeps what is stored; storing shows nothing.
+    // An emptied box keeps what is stored.
     result.clear(Quantity::InfiltrationArea);
     EXPECT_EQ(result.value(Quantity::InfiltrationArea), 428.6F);
-    result.store(Quantity::InfiltrationArea, 0.0F);
-    EXPECT_EQ(result.value(Quantity::InfiltrationArea), 0.0F);
     EXPECT_FALSE(result.has(Quantity::InfiltrationArea));
+    EXPECT_EQ(result.written(Quantity::InfiltrationArea), 428.6F);
 }
 
 TEST(DesignResult, TheFirstOfTheErrorsCounts) {
     DesignResult result;
-    result.verdicts.add(Verdict::DrainedAreaMissing);
+    const auto add = [&](VerdictId id) { result.verdicts.add({.id = id, .values = {}}); };
+    add(VerdictId::DrainedAreaMissing);
     EXPECT_FALSE(result.firstError().has_value());
-    result.verdicts.add(Verdict::ErrorDivisionByZero);
-    result.verdicts.add(Verdict::ErrorOverflow);
+    add(VerdictId::ErrorDivisionByZero);
+    add(VerdictId::ErrorOverflow);
     EXPECT_EQ(result.firstError(), ErrorNumber::DivisionByZero);
-    EXPECT_THAT(result.verdicts.all(), ElementsAre(Verdict::DrainedAreaMissing, Verdict::ErrorDivisionByZero,
-                                                   Verdict::ErrorOverflow));
+    EXPECT_THAT(result.verdicts.all(), ElementsAre(VerdictId::DrainedAreaMissing,
+                                                   VerdictId::ErrorDivisionByZero, VerdictId::ErrorOverflow));
+}
+
+TEST(DesignResult, AListThatIsFullRefusesOneMore) {
+    VerdictList list;
+    const Verdict verdict{.id = VerdictId::ErrorOverflow, .values = {}};
+    for (std::size_t n = 0; n < VerdictList::kMost; ++n) {
+        list.add(verdict);
+    }
+    EXPECT_THROW(list.add(verdict), std::length_error);
+    EXPECT_EQ(list.all().size(), VerdictList::kMost);
 }
 
 }  // namespace

@@ -24,8 +24,12 @@ Site oneRain() {
     return site;
 }
 
-std::vector<Verdict> told(const DesignResult& result) {
-    return {result.verdicts.all().begin(), result.verdicts.all().end()};
+std::vector<VerdictId> told(const DesignResult& result) {
+    std::vector<VerdictId> ids;
+    for (const Verdict& verdict : result.verdicts.all()) {
+        ids.push_back(verdict.id);
+    }
+    return ids;
 }
 
 TEST(Design, ASurfaceIsStoredAsItsFieldShowsIt) {
@@ -47,7 +51,7 @@ TEST(Design, ASurfaceWithoutPickedRainLosesItsType) {
     Site site = oneRain();
     site.picked_row = -1;
     const DesignResult result = design(site, Facility{});
-    EXPECT_THAT(told(result), ElementsAre(Verdict::DesignRainMissing));
+    EXPECT_THAT(told(result), ElementsAre(VerdictId::DesignRainMissing));
     EXPECT_FALSE(result.type_chosen);
     EXPECT_FALSE(result.has(Quantity::Inflow));
 }
@@ -66,27 +70,27 @@ TEST(Design, MissingAreaIsToldAndOnlyTheTankStops) {
     site.reduced_area_m2 = 0.0F;
     Facility facility;
     facility.type = FacilityType::Trench;
-    facility.trench_width_m = 1.0F;
-    facility.trench_height_m = 1.0F;
+    facility.txtSirkaRyhy = 1.0F;
+    facility.txtVyskaRyhy = 1.0F;
     const DesignResult trench = design(site, facility);
-    EXPECT_THAT(told(trench), ElementsAre(Verdict::DrainedAreaMissing));
+    EXPECT_THAT(told(trench), ElementsAre(VerdictId::DrainedAreaMissing));
     EXPECT_TRUE(trench.has(Quantity::TrenchLength));
 
     facility.type = FacilityType::Tank;
     const DesignResult tank = design(site, facility);
-    EXPECT_THAT(told(tank), ElementsAre(Verdict::DrainedAreaMissing));
+    EXPECT_THAT(told(tank), ElementsAre(VerdictId::DrainedAreaMissing));
     EXPECT_FALSE(tank.type_chosen);
 }
 
 TEST(Design, FailedChecksOfAPageShareOneMessage) {
     Facility facility;
     facility.type = FacilityType::Trench;
-    facility.fill_porosity = -1.0F;
-    facility.trench_width_m = 1.0F;
+    facility.txtPorVyplne = -1.0F;
+    facility.txtSirkaRyhy = 1.0F;
     const DesignResult result = design(oneRain(), facility);
     EXPECT_THAT(told(result),
-                ElementsAre(Verdict::TrenchHeightNotPositive, Verdict::FillPorosityNotPositive));
-    const std::vector<Message> boxes = messages(result);
+                ElementsAre(VerdictId::TrenchHeightNotPositive, VerdictId::FillPorosityNotPositive));
+    const std::vector<Message> boxes = messages(result.verdicts.all());
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].text,
               "Výška rýhy je menší nebo rovna nule.\r\nPórovitost výplně je menší nebo rovna nule.\r\n");
@@ -96,27 +100,28 @@ TEST(Design, FailedChecksOfAPageShareOneMessage) {
 TEST(Design, ATankWithVerticalSides) {
     Facility facility;
     facility.type = FacilityType::Tank;
-    facility.specific_infiltration_l_s_ha = 10.0F;
-    facility.bottom_length_m = 10.0F;
-    facility.bottom_width_m = 5.0F;
-    facility.tank_depth_m = 2.0F;
+    facility.txtSpecMeroIntenz = 10.0F;
+    facility.txtDelkaDnaNadrz = 10.0F;
+    facility.txtSirkaDnaNadrz = 5.0F;
+    facility.txtHloubkaNadrz = 2.0F;
     facility.upstream_settling = true;
     const DesignResult result = design(oneRain(), facility);
     EXPECT_EQ(result.value(Quantity::TankVolume), 100.0F);
     // (1e-4 * 150 - 1e-7 * 10 * 1000) * 15 * 60 * 1.2 = 0.014 * 1080
     EXPECT_FLOAT_EQ(result.value(Quantity::StorageVolume), 15.12F);
     // 50 m2 * 1e-4 / 2 = 0.0025 m3/s against 0.001 m3/s
-    EXPECT_THAT(told(result), ElementsAre(Verdict::TankVolumeSufficient, Verdict::TankInfiltrationProven));
+    EXPECT_THAT(told(result),
+                ElementsAre(VerdictId::TankVolumeSufficient, VerdictId::TankInfiltrationProven));
 }
 
 TEST(Design, ARingsWallIsStoredWithTwoDecimals) {
     Facility facility;
     facility.type = FacilityType::Shaft;
     facility.catalogue_row = 3;  // 1.2 m, wall 0.135 m: its box shows 0.14
-    facility.inlet_depth_m = 1.0F;
-    facility.filter_layer_m = 0.5F;
+    facility.txtNezamrzHlPritok = 1.0F;
+    facility.txtVyskaFiltrVrstvy = 0.5F;
     const DesignResult result = design(oneRain(), facility);
-    EXPECT_EQ(result.shaft_wall_m, 0.14F);
+    EXPECT_EQ(result.numbers.txtTloustkaSteny, 0.14F);
     EXPECT_FLOAT_EQ(result.value(Quantity::ShaftOuterDiameter), 1.48F);
 }
 

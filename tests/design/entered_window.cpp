@@ -20,10 +20,10 @@ class RecordingDesk : public platform::Desk {
         const Severity severity = message.icon == platform::MessageIcon::Information   ? Severity::Information
                                   : message.icon == platform::MessageIcon::Exclamation ? Severity::Warning
                                                                                        : Severity::Refusal;
-        told.push_back({message.text, severity, message.title == "Chyba"});
+        told.push_back({message.text, severity, message.title == "Chyba", 0, *verdictId(message.id)});
     }
     void reportError(const RuntimeError& error) override {
-        told.push_back({error.description(), Severity::Refusal, false, error.number()});
+        told.push_back({error.description(), Severity::Refusal, false, error.number(), verdictOf(error)});
     }
     void openAddress(const std::string&) override {}
     void formOpened(const std::string&) override {}
@@ -98,32 +98,32 @@ struct EnteredWindow::Parts {
 
     void enterTexts(const project::Texts& texts) {
         forms::frmCalc& form = window();
-        enter(form.txtProjName, texts.name);
-        enter(form.txtProjektant, texts.designer);
-        enter(form.txtMistoAkce, texts.site);
-        enter(form.txtInvestor, texts.investor);
-        enter(form.txtDetails, texts.description);
-        enter(form.txtTypPudyPodlozi, texts.subsoil);
+        enter(form.txtProjName, texts.txtProjName);
+        enter(form.txtProjektant, texts.txtProjektant);
+        enter(form.txtMistoAkce, texts.txtMistoAkce);
+        enter(form.txtInvestor, texts.txtInvestor);
+        enter(form.txtDetails, texts.txtDetails);
+        enter(form.txtTypPudyPodlozi, texts.txtTypPudyPodlozi);
     }
     void enterRain(const project::RainChoice& rain);
     void enterAreas(const project::Project& project);
     void chooseType(FacilityType type);
     void enterFacility(const Facility& facility);
     void enterSafetyFactor(const Facility& facility) {
-        enter(window().txtSoucBezp[static_cast<int>(facility.type)], facility.safety_factor);
+        enter(window().txtSoucBezp[facility.type], facility.txtSoucBezp);
     }
     void enterPipes(const Pipes& pipes, int type) {
         forms::frmCalc& form = window();
         click(form.chkSelPretok[type]);
-        enter(form.txtPocetPotrubi[type], pipes.count);
-        enter(form.txtPrumTroubVnej[type], pipes.outer_diameter_mm);
-        enter(form.txtPrumTroubVnit[type], pipes.inner_diameter_mm);
+        enter(form.txtPocetPotrubi[type], pipes.txtPocetPotrubi);
+        enter(form.txtPrumTroubVnej[type], pipes.txtPrumTroubVnej);
+        enter(form.txtPrumTroubVnit[type], pipes.txtPrumTroubVnit);
     }
     void enterTrench(const Facility& facility, int type) {
         forms::frmCalc& form = window();
-        enter(form.txtPorVyplne[type], facility.fill_porosity);
-        enter(form.txtSirkaRyhy[type], facility.trench_width_m);
-        enter(form.txtVyskaRyhy[type], facility.trench_height_m);
+        enter(form.txtPorVyplne[type], facility.txtPorVyplne);
+        enter(form.txtSirkaRyhy[type], facility.txtSirkaRyhy);
+        enter(form.txtVyskaRyhy[type], facility.txtVyskaRyhy);
     }
     void enterShaft(const Facility& facility);
     void enterTank(const Facility& facility);
@@ -202,22 +202,22 @@ void EnteredWindow::Parts::enterShaft(const Facility& facility) {
     if (facility.sand_layer) {
         click(form.optSelTypPudy5[1]);
     }
-    enter(form.txtSachtyCount, static_cast<float>(facility.shaft_count));
+    enter(form.txtSachtyCount, static_cast<float>(facility.txtSachtyCount));
     if (ring >= 0) {
         select(form.cboTypSachty, ring);
     } else if (shape == ShaftShape::Round) {
         enter(form.txtPrumerSachtyVnit, facility.inner_diameter_m);
-        enter(form.txtTloustkaSteny, facility.wall_thickness_m);
+        enter(form.txtTloustkaSteny, facility.txtTloustkaSteny);
     } else {
         enter(form.txtPrumerSachtyVnit, facility.inner_width_m);
-        enter(form.txtPrumerSachtyVnej, facility.inner_length_m);
-        enter(form.txtTloustkaSteny, facility.wall_thickness_m);
+        enter(form.txtPrumerSachtyVnej, facility.txtPrumerSachtyVnej);
+        enter(form.txtTloustkaSteny, facility.txtTloustkaSteny);
     }
-    enter(form.txtMinPrusakDraha, facility.seepage_path_m);
-    enter(form.txtNezamrzHlPritok, facility.inlet_depth_m);
-    enter(form.txtVyskaFiltrVrstvy, facility.filter_layer_m);
+    enter(form.txtMinPrusakDraha, facility.txtMinPrusakDraha);
+    enter(form.txtNezamrzHlPritok, facility.txtNezamrzHlPritok);
+    enter(form.txtVyskaFiltrVrstvy, facility.txtVyskaFiltrVrstvy);
     if (facility.sand_layer) {
-        enter(form.txtVyskaPiskVrstvy, facility.sand_layer_m);
+        enter(form.txtVyskaPiskVrstvy, facility.txtVyskaPiskVrstvy);
     }
     enterSafetyFactor(facility);
     click(form.cmdCalcul[5]);
@@ -225,11 +225,11 @@ void EnteredWindow::Parts::enterShaft(const Facility& facility) {
 
 void EnteredWindow::Parts::enterTank(const Facility& facility) {
     forms::frmCalc& form = window();
-    enter(form.txtSpecMeroIntenz, facility.specific_infiltration_l_s_ha);
-    enter(form.txtDelkaDnaNadrz, facility.bottom_length_m);
-    enter(form.txtSirkaDnaNadrz, facility.bottom_width_m);
-    enter(form.txtHloubkaNadrz, facility.tank_depth_m);
-    enter(form.txtSklonSvahuNadrz, facility.side_slope);
+    enter(form.txtSpecMeroIntenz, facility.txtSpecMeroIntenz);
+    enter(form.txtDelkaDnaNadrz, facility.txtDelkaDnaNadrz);
+    enter(form.txtSirkaDnaNadrz, facility.txtSirkaDnaNadrz);
+    enter(form.txtHloubkaNadrz, facility.txtHloubkaNadrz);
+    enter(form.txtSklonSvahuNadrz, facility.txtSklonSvahuNadrz);
     if (facility.upstream_settling) {
         click(form.chkPredUsaz);
     }
@@ -240,6 +240,8 @@ void EnteredWindow::Parts::enterTank(const Facility& facility) {
 void EnteredWindow::Parts::enterFacility(const Facility& facility) {
     forms::frmCalc& form = window();
     switch (facility.type) {
+        case FacilityType::None:
+            break;
         case FacilityType::Surface:
             enterSafetyFactor(facility);
             break;
@@ -253,13 +255,13 @@ void EnteredWindow::Parts::enterFacility(const Facility& facility) {
             if (facility.soil_option == 1) {
                 click(form.optSelTypPudy3[1]);
             }
-            enter(form.txtSoucFiltrPruleh[3], facility.swale_filtration_m_s);
+            enter(form.txtSoucFiltrPruleh[3], facility.txtSoucFiltrPruleh);
             leave(form.txtSoucFiltrPruleh[3]);
             enterTrench(facility, 3);
             enterSafetyFactor(facility);
             if (facility.overflow.given) {
                 enterPipes(facility.overflow, 3);
-                enter(form.txtSpecDrenOdtok[3], facility.throttled_outflow_l_s_ha);
+                enter(form.txtSpecDrenOdtok[3], facility.overflow.txtSpecDrenOdtok);
                 click(form.cmdOK[3]);
             }
             click(form.cmdCalcul[3]);
@@ -269,8 +271,8 @@ void EnteredWindow::Parts::enterFacility(const Facility& facility) {
             enterSafetyFactor(facility);
             if (facility.drain.given) {
                 enterPipes(facility.drain, 4);
-                enter(form.txtVystupPlocha[4], facility.outlet_area_cm2_m);
-                enter(form.txtVystupRychlost[4], facility.outlet_velocity_m_s);
+                enter(form.txtVystupPlocha[4], facility.drain.txtVystupPlocha);
+                enter(form.txtVystupRychlost[4], facility.drain.txtVystupRychlost);
                 click(form.cmdOK[4]);
             }
             click(form.cmdCalcul[4]);
@@ -294,7 +296,7 @@ EnteredWindow::EnteredWindow(const project::Project& project) : parts_(std::make
     parts_->leave(parts_->window().txtSoucFiltrace);
     parts_->chooseType(project.inputs.facility.type);
     // Where the choice was refused there is no panel to fill in.
-    if (parts_->window().picResults[static_cast<int>(project.inputs.facility.type)].onScreen()) {
+    if (parts_->window().picResults[project.inputs.facility.type].onScreen()) {
         parts_->enterFacility(project.inputs.facility);
     }
 }
@@ -315,11 +317,8 @@ forms::frmCalc& EnteredWindow::window() {
 
 std::string EnteredWindow::report() {
     report::ReportData data = forms::reportData(window(), kMoment);
-    // The results tab puts break tags in the place of line ends before it writes.
-    for (std::size_t at = data.description.find("\r\n"); at != std::string::npos;
-         at = data.description.find("\r\n")) {
-        data.description.replace(at, 2, "<br>");
-    }
+    // As the results tab does before it writes.
+    data.texts.txtDetails = report::withBreakTags(data.texts.txtDetails);
     return report::htmlReport(data);
 }
 

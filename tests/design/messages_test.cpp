@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The message boxes of a design: numbers in texts, checks that share a box, errors with their number.
+/// The message boxes of verdicts: checks that share a box, errors with their number, ids.
 #include "design/messages.h"
 
 #include <gmock/gmock.h>
@@ -11,65 +11,60 @@ namespace {
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-DesignResult told(std::initializer_list<Verdict> verdicts) {
-    DesignResult result;
-    for (const Verdict verdict : verdicts) {
-        result.verdicts.add(verdict);
+std::vector<Message> boxesOf(std::initializer_list<VerdictId> ids) {
+    std::vector<Verdict> verdicts;
+    for (const VerdictId id : ids) {
+        verdicts.push_back({.id = id, .values = {}});
     }
-    return result;
+    return messages(verdicts);
 }
 
-TEST(Messages, NothingToldIsNoBox) {
-    EXPECT_THAT(messages(DesignResult()), IsEmpty());
-}
-
-TEST(Messages, TheAreasAreComparedWithTwoDecimals) {
-    DesignResult result;
-    result.store(Quantity::TrenchLength, 100.0F);
-    result.store(Quantity::SwaleWidth, 12.5F);
-    result.store(Quantity::InfiltrationArea, 1300.0F);
-    EXPECT_EQ(verdictText(result, Verdict::SwaleTrenchAreaSufficient),
-              "Navržená vsakovací plocha je dostatečná ( 1 250.00 < 1 300.00 ).");
-    EXPECT_EQ(verdictText(result, Verdict::SwaleTrenchAreaInsufficient),
-              "Navržená vsakovací plocha je nedostatečná ( 1 250.00 > 1 300.00 ).");
-}
-
-TEST(Messages, TheOutflowsAreComparedWithoutAFullStop) {
-    DesignResult result;
-    result.store(Quantity::DrainOutflow, 12.345F);
-    result.store(Quantity::DrainInflow, 15.0F);
-    EXPECT_EQ(verdictText(result, Verdict::DrainOutflowNotMet),
-              "Není splněna podmínka výstupního odtoku. ( 12.35 < 15.00 )");
-    EXPECT_EQ(verdictText(result, Verdict::DrainOutflowMet),
-              "Podmínka výstupního odtoku je splněna. ( 12.35 > 15.00 )");
+TEST(Messages, NoVerdictIsNoBox) {
+    EXPECT_THAT(boxesOf({}), IsEmpty());
 }
 
 TEST(Messages, ChecksThatFollowEachOtherShareABox) {
-    const auto boxes = messages(told({Verdict::SafetyFactorNotPositive, Verdict::TrenchWidthNotPositive,
-                                      Verdict::ShaftOuterDiameterTooSmall, Verdict::SideSlopeNegative}));
+    const auto boxes = boxesOf({VerdictId::SafetyFactorNotPositive, VerdictId::TrenchWidthNotPositive,
+                                VerdictId::ShaftOuterDiameterTooSmall, VerdictId::SideSlopeNegative});
     ASSERT_THAT(boxes, SizeIs(3));
     EXPECT_EQ(boxes[0].text,
               "Součinitel bezpečnosti je menší nebo roven nule.\r\nŠířka rýhy je menší nebo rovna nule.\r\n");
     EXPECT_EQ(boxes[0].severity, Severity::Refusal);
-    EXPECT_EQ(boxes[1].text, info(Verdict::ShaftOuterDiameterTooSmall).text);
-    EXPECT_EQ(boxes[2].text, std::string(info(Verdict::SideSlopeNegative).text) + "\r\n");
+    EXPECT_EQ(boxes[1].text, info(VerdictId::ShaftOuterDiameterTooSmall).text);
+    EXPECT_EQ(boxes[2].text, std::string(info(VerdictId::SideSlopeNegative).text) + "\r\n");
 }
 
 TEST(Messages, EachVerdictHasItsIconAndTitle) {
-    const auto boxes = messages(told({Verdict::DesignRainMissing, Verdict::DrainedAreaMissing}));
+    const auto boxes = boxesOf({VerdictId::DesignRainMissing, VerdictId::DrainedAreaMissing});
     ASSERT_THAT(boxes, SizeIs(2));
-    EXPECT_EQ(boxes[0], (Message{"Intenzita návrhového deště není zadána", Severity::Warning, true, 0}));
-    EXPECT_EQ(boxes[1], (Message{"Zadejte nepropustnou odvodňovanou plochu", Severity::Refusal, false, 0}));
+    EXPECT_EQ(box(boxes[0]), (platform::Message{"Intenzita návrhového deště není zadána",
+                                                platform::MessageIcon::Exclamation, "Chyba"}));
+    EXPECT_EQ(box(boxes[1]), (platform::Message{"Zadejte nepropustnou odvodňovanou plochu",
+                                                platform::MessageIcon::Critical}));
 }
 
 TEST(Messages, ARuntimeErrorCarriesItsNumber) {
-    const auto boxes = messages(told({Verdict::ErrorDivisionByZero, Verdict::ErrorOverflow}));
+    const auto boxes = boxesOf({VerdictId::ErrorDivisionByZero, VerdictId::ErrorOverflow});
     ASSERT_THAT(boxes, SizeIs(2));
     EXPECT_EQ(boxes[0].text, "Dělení nulou");
     EXPECT_EQ(boxes[0].error_number, 11);
     EXPECT_EQ(boxes[1].text, "Přetečení: hodnota je mimo rozsah");
     EXPECT_EQ(boxes[1].error_number, 6);
     EXPECT_EQ(boxes[1].severity, Severity::Refusal);
+}
+
+TEST(Messages, AnIdGoesThroughTheDeskAndBack) {
+    for (const VerdictInfo& verdict : verdicts()) {
+        EXPECT_EQ(verdictId(box(verdict.id).id), verdict.id) << verdict.code;
+    }
+    EXPECT_FALSE(verdictId(platform::MessageId::None).has_value());
+    EXPECT_FALSE(verdictId(static_cast<platform::MessageId>(kVerdictCount + 1)).has_value());
+}
+
+TEST(Messages, ABoxOfSeveralChecksHasTheIdOfTheFirst) {
+    const auto boxes = boxesOf({VerdictId::TrenchHeightNotPositive, VerdictId::TrenchWidthNotPositive});
+    ASSERT_THAT(boxes, SizeIs(1));
+    EXPECT_EQ(boxes[0].id, VerdictId::TrenchHeightNotPositive);
 }
 
 }  // namespace

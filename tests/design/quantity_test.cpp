@@ -43,9 +43,34 @@ TEST(Quantities, BelongToTheirTypes) {
     EXPECT_TRUE(belongsTo(Quantity::TankVolume, FacilityType::Tank));
     EXPECT_FALSE(belongsTo(Quantity::TankVolume, FacilityType::Shaft));
     EXPECT_FALSE(belongsTo(Quantity::StorageVolume, FacilityType::Surface));
-    for (const FacilityType type : kFacilityTypes) {
+    for (const FacilityType type : data::kFacilityTypes) {
         EXPECT_TRUE(belongsTo(Quantity::ReducedArea, type));
     }
+}
+
+TEST(Quantities, AreCalledAsOnTheirPanel) {
+    EXPECT_STREQ(captionOf(Quantity::StorageVolume, FacilityType::Swale), "Objem akumulace průlehu");
+    EXPECT_STREQ(captionOf(Quantity::StorageVolume, FacilityType::Tank), "Potřebný objem akumulace");
+    EXPECT_STREQ(captionOf(Quantity::InfiltrationArea, FacilityType::Shaft), "Vsakovací plocha šachty");
+    EXPECT_STREQ(captionOf(Quantity::TankVolume, FacilityType::Tank), "Objem dle rozměrů nádrže");
+    EXPECT_STREQ(captionOf(Quantity::ShaftDepth, FacilityType::Shaft), "Potřebná hloubka šachty");
+}
+
+TEST(Quantities, AreLabelledAsTheReportHasIt) {
+    EXPECT_STREQ(reportLabel(Quantity::InfiltrationArea, FacilityType::Shaft), "Vsakovací plocha");
+    EXPECT_STREQ(reportLabel(Quantity::StorageVolume, FacilityType::Trench), "Objem akumulace průlehu");
+    EXPECT_STREQ(reportLabel(Quantity::StorageVolume, FacilityType::Tank), "Potřebný objem akumulace");
+}
+
+TEST(Quantities, EachBoxOfAPanelBelongsToItsType) {
+    for (const FacilityType type : data::kFacilityTypes) {
+        for (const ResultBox& box : resultBoxes(type)) {
+            EXPECT_TRUE(belongsTo(box.quantity, type)) << box.box;
+            EXPECT_EQ(resultBox(box.quantity, type), &box) << box.box;
+        }
+    }
+    EXPECT_EQ(controlName("txtVsakPlocha(#)", FacilityType::Shaft), "txtVsakPlocha(5)");
+    EXPECT_EQ(controlName("txtVsakTok", FacilityType::Tank), "txtVsakTok");
 }
 
 }  // namespace

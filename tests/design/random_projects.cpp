@@ -78,9 +78,9 @@ project::RainChoice RandomProjects::rain() {
 Pipes RandomProjects::pipes() {
     Pipes pipes;
     pipes.given = !oneIn(3);
-    pipes.count = static_cast<float>(oneIn(8) ? below(5) : 1 + below(3));
-    pipes.outer_diameter_mm = number(100.0, 500.0);
-    pipes.inner_diameter_mm = oneIn(10) ? 0.0F : number(90.0, 480.0);
+    pipes.txtPocetPotrubi = static_cast<float>(oneIn(8) ? below(5) : 1 + below(3));
+    pipes.txtPrumTroubVnej = number(100.0, 500.0);
+    pipes.txtPrumTroubVnit = oneIn(10) ? 0.0F : number(90.0, 480.0);
     return pipes;
 }
 
@@ -88,47 +88,47 @@ void RandomProjects::shaft(Facility& facility) {
     facility.catalogue_row = oneIn(2) ? below(static_cast<int>(shaftCatalogue().size())) : -1;
     facility.shape = oneIn(2) ? ShaftShape::Round : ShaftShape::Rectangular;
     facility.sand_layer = oneIn(2);
-    facility.shaft_count = static_cast<std::int16_t>(oneIn(20) ? below(7) - 3 : 1 + below(4));
+    facility.txtSachtyCount = static_cast<std::int16_t>(oneIn(20) ? below(7) - 3 : 1 + below(4));
     facility.inner_diameter_m = number(0.8, 3.0);
     facility.inner_width_m = number(0.8, 3.0);
-    facility.inner_length_m = number(0.8, 6.0);
-    facility.wall_thickness_m = number(0.05, 0.3);
-    facility.seepage_path_m = oneIn(2) ? 1.5F : number(0.5, 4.0);
-    facility.inlet_depth_m = number(0.5, 1.5);
-    facility.filter_layer_m = number(0.2, 1.0);
-    facility.sand_layer_m = number(0.1, 0.6);
+    facility.txtPrumerSachtyVnej = number(0.8, 6.0);
+    facility.txtTloustkaSteny = number(0.05, 0.3);
+    facility.txtMinPrusakDraha = oneIn(2) ? 1.5F : number(0.5, 4.0);
+    facility.txtNezamrzHlPritok = number(0.5, 1.5);
+    facility.txtVyskaFiltrVrstvy = number(0.2, 1.0);
+    facility.txtVyskaPiskVrstvy = number(0.1, 0.6);
 }
 
 Facility RandomProjects::facility() {
     Facility facility;
     facility.type = kFacilityTypes[static_cast<std::size_t>(below(6))];
-    facility.safety_factor = oneIn(2) ? 1.2F : number(0.9, 2.0);
+    facility.txtSoucBezp = oneIn(2) ? 1.2F : number(0.9, 2.0);
     facility.soil_option = below(2);
-    facility.swale_filtration_m_s = filtration();
-    facility.fill_porosity = oneIn(3) ? 0.35F : number(0.2, 0.95);
-    facility.trench_width_m = number(0.4, 3.0);
-    facility.trench_height_m = number(0.5, 3.0);
+    facility.txtSoucFiltrPruleh = filtration();
+    facility.txtPorVyplne = oneIn(3) ? 0.35F : number(0.2, 0.95);
+    facility.txtSirkaRyhy = number(0.4, 3.0);
+    facility.txtVyskaRyhy = number(0.5, 3.0);
     facility.overflow = pipes();
-    facility.throttled_outflow_l_s_ha = oneIn(8) ? 0.0F : number(0.5, 20.0);
+    facility.overflow.txtSpecDrenOdtok = oneIn(8) ? 0.0F : number(0.5, 20.0);
     facility.drain = pipes();
-    facility.outlet_area_cm2_m = number(10.0, 200.0);
-    facility.outlet_velocity_m_s = number(0.05, 1.0);
+    facility.drain.txtVystupPlocha = number(10.0, 200.0);
+    facility.drain.txtVystupRychlost = number(0.05, 1.0);
     shaft(facility);
-    facility.specific_infiltration_l_s_ha = number(0.5, 20.0);
-    facility.bottom_length_m = number(3.0, 60.0);
-    facility.bottom_width_m = number(2.0, 30.0);
-    facility.tank_depth_m = number(0.3, 4.0);
-    facility.side_slope = oneIn(3) ? 0.0F : number(0.5, 4.0);
+    facility.txtSpecMeroIntenz = number(0.5, 20.0);
+    facility.txtDelkaDnaNadrz = number(3.0, 60.0);
+    facility.txtSirkaDnaNadrz = number(2.0, 30.0);
+    facility.txtHloubkaNadrz = number(0.3, 4.0);
+    facility.txtSklonSvahuNadrz = oneIn(3) ? 0.0F : number(0.5, 4.0);
     facility.upstream_settling = oneIn(2);
     return facility;
 }
 
 project::Project RandomProjects::next() {
     project::Project project;
-    project.texts.name = "Projekt " + std::string(static_cast<std::size_t>(below(4)), 'x');
-    project.texts.designer = "Ing. Nováková";
-    project.texts.description = oneIn(2) ? "první řádek\r\ndruhý <b>řádek</b>" : "";
-    project.texts.subsoil = oneIn(2) ? "Písčitý štěrk" : "";
+    project.texts.txtProjName = "Projekt " + std::string(static_cast<std::size_t>(below(4)), 'x');
+    project.texts.txtProjektant = "Ing. Nováková";
+    project.texts.txtDetails = oneIn(2) ? "první řádek\r\ndruhý <b>řádek</b>" : "";
+    project.texts.txtTypPudyPodlozi = oneIn(2) ? "Písčitý štěrk" : "";
     project.inputs.rain = rain();
     for (int areas = oneIn(25) ? 0 : 1 + below(4); areas > 0; --areas) {
         float area = number(20.0, 5000.0);

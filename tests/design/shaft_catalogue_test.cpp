@@ -14,7 +14,7 @@ TEST(ShaftCatalogue, EightRoundRowsComeBeforeTenRectangularOnes) {
     ASSERT_EQ(shafts.size(), 18U);
     std::set<std::string> designations;
     for (std::size_t row = 0; row < shafts.size(); ++row) {
-        EXPECT_EQ(shafts[row].shape, row < 8 ? ShaftShape::Round : ShaftShape::Rectangular);
+        EXPECT_EQ(shafts[row].shape, row < 8 ? data::ShaftShape::Round : data::ShaftShape::Rectangular);
         EXPECT_TRUE(designations.insert(shafts[row].designation).second) << shafts[row].designation;
     }
 }

@@ -201,7 +201,7 @@ void Generator::planSoil() {
 void Generator::planType(forms::Program& program) {
     add("tab 1");
     const int type = 1 + random_.below(6);
-    if (type == forms::kTank) {
+    if (type == data::FacilityType::Tank) {
         add("click optSelType(1)");
     } else {
         add("click optSelType(0)");
@@ -224,14 +224,14 @@ void Generator::planInputs(int type) {
         addNumber("txtSoucBezp" + member);
     }
     switch (type) {
-        case forms::kSwale:
+        case data::FacilityType::Swale:
             add("click optSelTypPudy2(" + text(random_.below(2)) + ")");
             break;
-        case forms::kSwaleTrench:
+        case data::FacilityType::SwaleTrench:
             add("click optSelTypPudy3(" + text(random_.below(2)) + ")");
             addNumber("txtSoucFiltrPruleh(3)");
             [[fallthrough]];
-        case forms::kTrench:
+        case data::FacilityType::Trench:
             addNumber("txtPorVyplne" + member);
             addNumber("txtSirkaRyhy" + member);
             addNumber("txtVyskaRyhy" + member);
@@ -239,13 +239,13 @@ void Generator::planInputs(int type) {
                 add("click chkSelPretok" + member);
                 addNumber("txtPrumTroubVnej" + member);
                 addNumber("txtPrumTroubVnit" + member);
-                add(type == forms::kTrench ? "set txtVystupPlocha(4) \"50\""
-                                           : "set txtSpecDrenOdtok(3) \"2\"");
+                add(type == data::FacilityType::Trench ? "set txtVystupPlocha(4) \"50\""
+                                                       : "set txtSpecDrenOdtok(3) \"2\"");
                 add("set txtVystupRychlost(4) \"0.2\"");
                 add("click cmdOK" + member);
             }
             break;
-        case forms::kShaft:
+        case data::FacilityType::Shaft:
             add("click optSelTypSachty(" + text(random_.below(2)) + ")");
             add("select cboTypSachty " + text(random_.below(8)));
             add("click optSelTypPudy5(" + text(random_.below(2)) + ")");
@@ -254,7 +254,7 @@ void Generator::planInputs(int type) {
             addNumber("txtVyskaPiskVrstvy");
             add("spin updSacht " + std::string(random_.percent(70) ? "up" : "down"));
             break;
-        case forms::kTank:
+        case data::FacilityType::Tank:
             for (const char* field : {"txtSpecMeroIntenz", "txtDelkaDnaNadrz", "txtSirkaDnaNadrz",
                                       "txtHloubkaNadrz", "txtSklonSvahuNadrz"}) {
                 addNumber(field);

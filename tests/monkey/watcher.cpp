@@ -178,7 +178,8 @@ std::string Watcher::checkPanels(const Words& words) {
     const bool refused = words.front().text == "click" && target_ == "frmCalc.optSelType(1)" &&
                          std::any_of(messages.begin(), messages.end(), isRefusal);
     // A refused "Centralizované" leaves the panels as they were and the type at 5.
-    kept_panel_ = (kept_panel_ || refused) && visible == panels_ && window.SelectedType == forms::kShaft;
+    kept_panel_ =
+        (kept_panel_ || refused) && visible == panels_ && window.SelectedType == data::FacilityType::Shaft;
     panels_ = visible;
     if (visible.size() > 1) {
         return "panels: more than one shows";

@@ -32,46 +32,47 @@ const std::vector<Place>& places() {
         {"rain.design_duration_min", [](const Inputs& in) { return in.rain.design_duration_min; }},
         {"subsoil.filtration_coefficient_m_s", [](const Inputs& in) { return in.filtration_m_s; }},
         {"subsoil.groundwater_depth_m", [](const Inputs& in) { return in.groundwater_depth_m; }},
-        {"facility.safety_factor", [](const Inputs& in) { return in.facility.safety_factor; }},
+        {"facility.txtSoucBezp", [](const Inputs& in) { return in.facility.txtSoucBezp; }},
         {"facility.soil", [](const Inputs& in) { return static_cast<float>(in.facility.soil_option); }},
         {"facility.swale_filtration_coefficient_m_s",
-         [](const Inputs& in) { return in.facility.swale_filtration_m_s; }},
-        {"facility.fill_porosity", [](const Inputs& in) { return in.facility.fill_porosity; }},
-        {"facility.trench_width_m", [](const Inputs& in) { return in.facility.trench_width_m; }},
-        {"facility.trench_height_m", [](const Inputs& in) { return in.facility.trench_height_m; }},
-        {"facility.overflow.pipe_count", [](const Inputs& in) { return in.facility.overflow.count; }},
+         [](const Inputs& in) { return in.facility.txtSoucFiltrPruleh; }},
+        {"facility.txtPorVyplne", [](const Inputs& in) { return in.facility.txtPorVyplne; }},
+        {"facility.txtSirkaRyhy", [](const Inputs& in) { return in.facility.txtSirkaRyhy; }},
+        {"facility.txtVyskaRyhy", [](const Inputs& in) { return in.facility.txtVyskaRyhy; }},
+        {"facility.overflow.pipe_count",
+         [](const Inputs& in) { return in.facility.overflow.txtPocetPotrubi; }},
         {"facility.overflow.pipe_outer_diameter_mm",
-         [](const Inputs& in) { return in.facility.overflow.outer_diameter_mm; }},
+         [](const Inputs& in) { return in.facility.overflow.txtPrumTroubVnej; }},
         {"facility.overflow.pipe_inner_diameter_mm",
-         [](const Inputs& in) { return in.facility.overflow.inner_diameter_mm; }},
+         [](const Inputs& in) { return in.facility.overflow.txtPrumTroubVnit; }},
         {"facility.overflow.throttled_outflow_l_s_ha",
-         [](const Inputs& in) { return in.facility.throttled_outflow_l_s_ha; }},
-        {"facility.drain.pipe_count", [](const Inputs& in) { return in.facility.drain.count; }},
+         [](const Inputs& in) { return in.facility.overflow.txtSpecDrenOdtok; }},
+        {"facility.drain.pipe_count", [](const Inputs& in) { return in.facility.drain.txtPocetPotrubi; }},
         {"facility.drain.pipe_outer_diameter_mm",
-         [](const Inputs& in) { return in.facility.drain.outer_diameter_mm; }},
+         [](const Inputs& in) { return in.facility.drain.txtPrumTroubVnej; }},
         {"facility.drain.pipe_inner_diameter_mm",
-         [](const Inputs& in) { return in.facility.drain.inner_diameter_mm; }},
-        {"facility.drain.outlet_area_cm2_m", [](const Inputs& in) { return in.facility.outlet_area_cm2_m; }},
+         [](const Inputs& in) { return in.facility.drain.txtPrumTroubVnit; }},
+        {"facility.drain.outlet_area_cm2_m",
+         [](const Inputs& in) { return in.facility.drain.txtVystupPlocha; }},
         {"facility.drain.outlet_velocity_m_s",
-         [](const Inputs& in) { return in.facility.outlet_velocity_m_s; }},
+         [](const Inputs& in) { return in.facility.drain.txtVystupRychlost; }},
         {"facility.catalogue_shaft",
          [](const Inputs& in) { return static_cast<float>(in.facility.catalogue_row); }},
-        {"facility.shaft_count",
-         [](const Inputs& in) { return static_cast<float>(in.facility.shaft_count); }},
+        {"facility.txtSachtyCount",
+         [](const Inputs& in) { return static_cast<float>(in.facility.txtSachtyCount); }},
         {"facility.inner_diameter_m", [](const Inputs& in) { return in.facility.inner_diameter_m; }},
         {"facility.inner_width_m", [](const Inputs& in) { return in.facility.inner_width_m; }},
-        {"facility.inner_length_m", [](const Inputs& in) { return in.facility.inner_length_m; }},
-        {"facility.wall_thickness_m", [](const Inputs& in) { return in.facility.wall_thickness_m; }},
-        {"facility.seepage_path_m", [](const Inputs& in) { return in.facility.seepage_path_m; }},
-        {"facility.inlet_frost_depth_m", [](const Inputs& in) { return in.facility.inlet_depth_m; }},
-        {"facility.filter_layer_m", [](const Inputs& in) { return in.facility.filter_layer_m; }},
-        {"facility.sand_layer_m", [](const Inputs& in) { return in.facility.sand_layer_m; }},
-        {"facility.specific_infiltration_l_s_ha",
-         [](const Inputs& in) { return in.facility.specific_infiltration_l_s_ha; }},
-        {"facility.bottom_length_m", [](const Inputs& in) { return in.facility.bottom_length_m; }},
-        {"facility.bottom_width_m", [](const Inputs& in) { return in.facility.bottom_width_m; }},
-        {"facility.tank_depth_m", [](const Inputs& in) { return in.facility.tank_depth_m; }},
-        {"facility.side_slope", [](const Inputs& in) { return in.facility.side_slope; }},
+        {"facility.txtPrumerSachtyVnej", [](const Inputs& in) { return in.facility.txtPrumerSachtyVnej; }},
+        {"facility.txtTloustkaSteny", [](const Inputs& in) { return in.facility.txtTloustkaSteny; }},
+        {"facility.txtMinPrusakDraha", [](const Inputs& in) { return in.facility.txtMinPrusakDraha; }},
+        {"facility.inlet_frost_depth_m", [](const Inputs& in) { return in.facility.txtNezamrzHlPritok; }},
+        {"facility.txtVyskaFiltrVrstvy", [](const Inputs& in) { return in.facility.txtVyskaFiltrVrstvy; }},
+        {"facility.txtVyskaPiskVrstvy", [](const Inputs& in) { return in.facility.txtVyskaPiskVrstvy; }},
+        {"facility.txtSpecMeroIntenz", [](const Inputs& in) { return in.facility.txtSpecMeroIntenz; }},
+        {"facility.txtDelkaDnaNadrz", [](const Inputs& in) { return in.facility.txtDelkaDnaNadrz; }},
+        {"facility.txtSirkaDnaNadrz", [](const Inputs& in) { return in.facility.txtSirkaDnaNadrz; }},
+        {"facility.txtHloubkaNadrz", [](const Inputs& in) { return in.facility.txtHloubkaNadrz; }},
+        {"facility.txtSklonSvahuNadrz", [](const Inputs& in) { return in.facility.txtSklonSvahuNadrz; }},
         // Not numbers; only whether there is one.
         {"facility.type", [](const Inputs& in) { return static_cast<float>(in.facility.type); }},
         {"facility.shape", [](const Inputs& in) { return static_cast<float>(in.facility.shape); }},
@@ -92,7 +93,7 @@ TEST(Fields, EveryValueGoesToItsOwnPlace) {
             std::string(place.path) == "facility.type") {
             continue;
         }
-        field->store(inputs, value++);
+        store(*field, inputs, value++);
     }
     // Read back only now: a value that went to another's place is found there, or has been written over.
     value = 11.0F;
@@ -104,12 +105,14 @@ TEST(Fields, EveryValueGoesToItsOwnPlace) {
         }
     }
     EXPECT_TRUE(inputs.rain.picks_row);
-    EXPECT_EQ(places().size(), fields().size());
+    EXPECT_EQ(places().size(), design::inputs().size());
 }
 
 TEST(Fields, ChoicesAndTruthsAreStoredByTheirPosition) {
     Inputs inputs;
-    const auto store = [&](const char* path, float value) { findField(path)->store(inputs, value); };
+    const auto store = [&](const char* path, float value) {
+        project::store(*findField(path), inputs, value);
+    };
     store("facility.type", 0.0F);
     EXPECT_EQ(inputs.facility.type, FacilityType::Surface);
     store("facility.type", 5.0F);
@@ -134,7 +137,7 @@ TEST(Fields, AreFoundByTheirWholePathOnly) {
     EXPECT_EQ(findField("trench_width_m"), nullptr);
     EXPECT_EQ(findField("facility"), nullptr);
     EXPECT_EQ(findField(""), nullptr);
-    EXPECT_THAT(choices(*findField("facility.trench_width_m")), IsEmpty());
+    EXPECT_THAT(choices(*findField("facility.txtSirkaRyhy")), IsEmpty());
 }
 
 TEST(Fields, NamesAreThoseRightInTheObject) {
@@ -197,35 +200,36 @@ TEST(MissingValue, EveryTypeNeedsWhatHasNoOpeningValue) {
     EXPECT_THAT(askedFor(facilityOf(FacilityType::Surface)), IsEmpty());
     EXPECT_THAT(askedFor(facilityOf(FacilityType::Swale)), IsEmpty());
     EXPECT_THAT(askedFor(facilityOf(FacilityType::SwaleTrench)),
-                ElementsAre("facility.swale_filtration_coefficient_m_s", "facility.trench_width_m",
-                            "facility.trench_height_m"));
+                ElementsAre("facility.swale_filtration_coefficient_m_s", "facility.txtSirkaRyhy",
+                            "facility.txtVyskaRyhy"));
     EXPECT_THAT(askedFor(facilityOf(FacilityType::Trench)),
-                ElementsAre("facility.trench_width_m", "facility.trench_height_m"));
-    EXPECT_THAT(askedFor(facilityOf(FacilityType::Tank)),
-                ElementsAre("facility.specific_infiltration_l_s_ha", "facility.bottom_length_m",
-                            "facility.bottom_width_m", "facility.tank_depth_m", "facility.side_slope"));
+                ElementsAre("facility.txtSirkaRyhy", "facility.txtVyskaRyhy"));
+    EXPECT_THAT(
+        askedFor(facilityOf(FacilityType::Tank)),
+        ElementsAre("facility.txtSpecMeroIntenz", "facility.txtDelkaDnaNadrz", "facility.txtSirkaDnaNadrz",
+                    "facility.txtHloubkaNadrz", "facility.txtSklonSvahuNadrz"));
 }
 
 TEST(MissingValue, AShaftNeedsTheDimensionsOfItsShape) {
     Facility shaft = facilityOf(FacilityType::Shaft);
     EXPECT_THAT(askedFor(shaft),
-                ElementsAre("facility.inlet_frost_depth_m", "facility.filter_layer_m", "facility.shape",
-                            "facility.wall_thickness_m", "facility.inner_diameter_m"));
+                ElementsAre("facility.inlet_frost_depth_m", "facility.txtVyskaFiltrVrstvy", "facility.shape",
+                            "facility.txtTloustkaSteny", "facility.inner_diameter_m"));
     shaft.shape = ShaftShape::Rectangular;
     shaft.sand_layer = true;
     EXPECT_THAT(askedFor(shaft),
-                ElementsAre("facility.inlet_frost_depth_m", "facility.filter_layer_m",
-                            "facility.sand_layer_m", "facility.shape", "facility.wall_thickness_m",
-                            "facility.inner_width_m", "facility.inner_length_m"));
+                ElementsAre("facility.inlet_frost_depth_m", "facility.txtVyskaFiltrVrstvy",
+                            "facility.txtVyskaPiskVrstvy", "facility.shape", "facility.txtTloustkaSteny",
+                            "facility.inner_width_m", "facility.txtPrumerSachtyVnej"));
 }
 
 TEST(MissingValue, ARingOfTheCatalogueBringsItsDimensions) {
     Facility shaft = facilityOf(FacilityType::Shaft);
     shaft.catalogue_row = 0;
-    EXPECT_THAT(askedFor(shaft), ElementsAre("facility.inlet_frost_depth_m", "facility.filter_layer_m"));
+    EXPECT_THAT(askedFor(shaft), ElementsAre("facility.inlet_frost_depth_m", "facility.txtVyskaFiltrVrstvy"));
     shaft.sand_layer = true;
-    EXPECT_THAT(askedFor(shaft, {"facility.filter_layer_m"}),
-                ElementsAre("facility.inlet_frost_depth_m", "facility.sand_layer_m"));
+    EXPECT_THAT(askedFor(shaft, {"facility.txtVyskaFiltrVrstvy"}),
+                ElementsAre("facility.inlet_frost_depth_m", "facility.txtVyskaPiskVrstvy"));
 }
 
 }  // namespace

@@ -30,8 +30,8 @@ TEST(ReadProject, ValuesTextsAndDefaults) {
     EXPECT_EQ(project.inputs.areas[0].area_m2, 800.0F);
     EXPECT_EQ(project.inputs.filtration_m_s, 1e-4F);
     EXPECT_EQ(project.inputs.facility.type, design::FacilityType::Trench);
-    EXPECT_EQ(project.inputs.facility.fill_porosity, 0.35F);
-    EXPECT_EQ(project.inputs.facility.safety_factor, 1.2F);
+    EXPECT_EQ(project.inputs.facility.txtPorVyplne, 0.35F);
+    EXPECT_EQ(project.inputs.facility.txtSoucBezp, 1.2F);
     EXPECT_FALSE(project.inputs.facility.drain.given);
 }
 
@@ -84,14 +84,14 @@ TEST(ReadProject, UnknownNamesSuggestTheNearest) {
 
 TEST(ReadProject, WrongTypesAreToldWithWhatWasExpected) {
     EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "trench_width_m": "1.2")")),
-              "p.json: facility.trench_width_m: expected a number [m], not \"1.2\"");
+              "p.json: facility.txtSirkaRyhy: expected a number [m], not \"1.2\"");
     EXPECT_EQ(
         errorOf(withFacility(R"("type": 4)")),
         "p.json: facility.type: expected one of: surface, swale, swale_trench, trench, shaft, tank, not 4");
     EXPECT_EQ(errorOf(withFacility(R"("type": "tank", "upstream_settling": 1)")),
               "p.json: facility.upstream_settling: expected true or false, not 1");
     EXPECT_EQ(errorOf(withFacility(R"("type": "shaft", "shaft_count": 1.5)")),
-              "p.json: facility.shaft_count: expected a whole number from -32768 to 32767, not \"1.5\"");
+              "p.json: facility.txtSachtyCount: expected a whole number from -32768 to 32767, not \"1.5\"");
     EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "drain": true)")),
               "p.json: facility.drain: expected an object, not true");
     EXPECT_EQ(errorOf("[]"), "p.json: the document: expected an object, not a list");
@@ -101,7 +101,7 @@ TEST(ReadProject, WrongTypesAreToldWithWhatWasExpected) {
 
 TEST(ReadProject, MissingValuesOfTheChosenTypeAreTold) {
     EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "trench_width_m": 1)")),
-              "p.json: facility.trench_height_m: is missing: expected a number [m]");
+              "p.json: facility.txtVyskaRyhy: is missing: expected a number [m]");
     EXPECT_EQ(
         errorOf(withFacility(R"("safety_factor": 1)")),
         "p.json: facility.type: is missing: expected one of: surface, swale, swale_trench, trench, shaft, "
@@ -114,7 +114,7 @@ TEST(ReadProject, MissingValuesOfTheChosenTypeAreTold) {
     EXPECT_THAT(errorOf(withFacility(shaft)), StartsWith("p.json: facility.shape: is missing"));
     EXPECT_THAT(
         errorOf(withFacility(shaft + R"(, "variant": "type_b", "catalogue_shaft": "RSB - Q 160/200")")),
-        StartsWith("p.json: facility.sand_layer_m: is missing"));
+        StartsWith("p.json: facility.txtVyskaPiskVrstvy: is missing"));
     EXPECT_EQ(errorOf(withFacility(shaft + R"(, "catalogue_shaft": "RSB - Q 160/200")")), "");
 }
 
@@ -122,7 +122,7 @@ TEST(ReadProject, ARingHasItsOwnDimensions) {
     EXPECT_EQ(errorOf(withFacility(
                   R"("type": "shaft", "catalogue_shaft": "RSB - Q 160/200", "inlet_frost_depth_m": 1,
                                       "filter_layer_m": 1, "wall_thickness_m": 1)")),
-              "p.json: facility.wall_thickness_m: does not go with \"catalogue_shaft\", which has its own "
+              "p.json: facility.txtTloustkaSteny: does not go with \"catalogue_shaft\", which has its own "
               "dimensions");
 }
 
@@ -172,8 +172,8 @@ TEST(ReadProject, TextsAreTakenAsTheBoxesTakeThem) {
     const Project project = readProject(
         "{\"project\": {\"name\": \"Dvůr <A>\", \"description\": \"a\\nb\\r\\nc\"}," + document().substr(1),
         "p.json");
-    EXPECT_EQ(project.texts.name, "Dvůr <A>");
-    EXPECT_EQ(project.texts.description, "a\r\nb\r\nc");
+    EXPECT_EQ(project.texts.txtProjName, "Dvůr <A>");
+    EXPECT_EQ(project.texts.txtDetails, "a\r\nb\r\nc");
     EXPECT_EQ(errorOf("{\"project\": {\"name\": \"a\\nb\"}," + document().substr(1)),
               "p.json: project.name: expected a text on one line");
 }
@@ -196,7 +196,7 @@ TEST(ReadProject, EveryKindOfLineEndIsALineEnd) {
     const auto description = [](const std::string& text) {
         return readProject("{\"project\": {\"description\": \"" + text + "\"}," + document().substr(1),
                            "p.json")
-            .texts.description;
+            .texts.txtDetails;
     };
     EXPECT_EQ(description("a\\rb\\n\\nc"), "a\r\nb\r\n\r\nc");
     EXPECT_EQ(description("a\\r"), "a\r\n");
@@ -218,7 +218,7 @@ TEST(ReadProject, LongAndNestedValuesAreNotRepeatedInTheMessage) {
     EXPECT_THAT(errorOf(withFacility("\"type\": \"trench\", \"trench_width_m\": \"" + longest + "\"")),
                 HasSubstr("not \"" + longest + "\""));
     EXPECT_EQ(errorOf(withFacility("\"type\": \"trench\", \"trench_width_m\": \"" + longest + "x\"")),
-              "p.json: facility.trench_width_m: expected a number [m], not a longer text");
+              "p.json: facility.txtSirkaRyhy: expected a number [m], not a longer text");
     EXPECT_EQ(errorOf(document(R"("rain": {"intensities_l_s_ha": {}, "periodicity": 1})")),
               "p.json: rain.intensities_l_s_ha: expected a list of nine numbers, not an object");
     EXPECT_EQ(errorOf(document(R"("rain": {"intensities_l_s_ha": 3, "periodicity": 1})")),
@@ -247,8 +247,8 @@ TEST(ReadProject, TheSubPanelsOfPipesAreThereWhenTheirObjectIs) {
             R"("type": "trench", "trench_width_m": 1, "trench_height_m": 1, "drain": {"pipe_count": 2})"),
         "p.json");
     EXPECT_TRUE(project.inputs.facility.drain.given);
-    EXPECT_EQ(project.inputs.facility.drain.count, 2.0F);
-    EXPECT_EQ(project.inputs.facility.drain.inner_diameter_mm, 0.0F);
+    EXPECT_EQ(project.inputs.facility.drain.txtPocetPotrubi, 2.0F);
+    EXPECT_EQ(project.inputs.facility.drain.txtPrumTroubVnit, 0.0F);
 }
 
 }  // namespace

@@ -57,7 +57,7 @@ TEST(ProjectSchema, KnowsTheNamesOfTheReader) {
 TEST(ProjectSchema, OffersTheSameChoices) {
     const json schema = json::parse(contentOf(MERO_DOCS "/project-file.schema.json"));
     int compared = 0;
-    for (const Field& field : fields()) {
+    for (const Field& field : design::inputs()) {
         const auto words = choices(field);
         if (!words.empty()) {
             const std::string name = std::string(field.path).substr(std::string("facility.").size());

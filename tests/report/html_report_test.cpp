@@ -51,8 +51,8 @@ TEST(HtmlReport, WithoutATypeHasNoTypeSection) {
 
 TEST(HtmlReport, OutsideTheTypesHasNoTypeSectionEither) {
     ReportData data = sampleProject(6);
-    for (const int type : {-1, 7, 1000}) {
-        data.infiltration_type = type;
+    for (const int type : {7, 100, 255}) {
+        data.type = static_cast<data::FacilityType>(type);
         EXPECT_EQ(count(htmlReport(data), "Celková odvodňovaná plocha"), 0U) << type;
     }
 }
@@ -64,9 +64,9 @@ TEST(HtmlReport, Surface) {
 TEST(HtmlReport, WithoutAreasHasAnEmptyTable) {
     ReportData data = sampleProject(1);
     data.partial_areas.clear();
-    data.subsoil.clear();
-    data.subsoil_filtration_m_s = 0.00005F;
-    data.rain.chosen_duration_min = 0;
+    data.texts.txtTypPudyPodlozi.clear();
+    data.numbers.txtSoucFiltrace = 0.00005F;
+    data.numbers.VybranaDoba = 0;
     expectGolden("surface_without_areas", data);
     EXPECT_NE(htmlReport(data).find("Dílčí typ povrchu</th></tr>\r\n</table><br>\r\n"), std::string::npos);
 }
@@ -77,34 +77,34 @@ TEST(HtmlReport, Swale) {
 
 TEST(HtmlReport, TypedTextsGoInAsTheyAre) {
     ReportData data = sampleProject(2);
-    data.project_name = "A<B>\"C\" \xF0\x9F\x92\xA7 \xFF";  // a drop and a stray byte: "?" each
-    data.description = "První řádek<br>druhý & \"třetí\" <i>řádek</i>";
+    data.texts.txtProjName = "A<B>\"C\" \xF0\x9F\x92\xA7 \xFF";  // a drop and a stray byte: "?" each
+    data.texts.txtDetails = "První řádek<br>druhý & \"třetí\" <i>řádek</i>";
     expectGolden("swale_described", data);
 }
 
 TEST(HtmlReport, Combined) {
     ReportData data = sampleProject(3);
-    data.rain.chosen_duration_min = 5;
-    data.pipes.drain = true;  // the trench page's option is none of this type's
+    data.numbers.VybranaDoba = 5;
+    data.options.drain = true;  // the trench page's option is none of this type's
     expectGolden("combined", data);
 }
 
 TEST(HtmlReport, CombinedWithThrottledOverflow) {
     ReportData data = sampleProject(3);
-    data.rain.chosen_duration_min = 120;
-    data.pipes.throttled_overflow = true;
+    data.numbers.VybranaDoba = 120;
+    data.options.overflow = true;
     expectGolden("combined_overflow", data);
 }
 
 TEST(HtmlReport, Trench) {
     ReportData data = sampleProject(4);
-    data.pipes.throttled_overflow = true;  // the combined page's option is none of this type's
+    data.options.overflow = true;  // the combined page's option is none of this type's
     expectGolden("trench", data);
 }
 
 TEST(HtmlReport, TrenchWithDrain) {
     ReportData data = sampleProject(4);
-    data.pipes.drain = true;
+    data.options.drain = true;
     expectGolden("trench_drain", data);
 }
 
@@ -114,18 +114,18 @@ TEST(HtmlReport, RoundShaft) {
 
 TEST(HtmlReport, RectangularShaftWithSandLayer) {
     ReportData data = sampleProject(5);
-    data.shaft.shape = 1;
-    data.shaft.ring = "RSD 240/190/..";
-    data.shaft.wall_thickness_m = 0.1F;
-    data.shaft.sand_layer = true;
+    data.options.shape = data::ShaftShape::Rectangular;
+    data.options.ring = "RSD 240/190/..";
+    data.numbers.txtTloustkaSteny = 0.1F;
+    data.options.sand_layer = true;
     expectGolden("shaft_rectangular_sand", data);
 }
 
 TEST(HtmlReport, ShaftOfNoKnownShapeHasNoCrossSection) {
     ReportData data = sampleProject(5);
-    data.shaft.shape = -1;
-    data.shaft.ring.clear();
-    data.shaft.wall_thickness_m = 0.1F;
+    data.options.shape = static_cast<data::ShaftShape>(7);
+    data.options.ring.clear();
+    data.numbers.txtTloustkaSteny = 0.1F;
     expectGolden("shaft_without_shape", data);
 }
 
@@ -135,7 +135,7 @@ TEST(HtmlReport, Tank) {
 
 TEST(HtmlReport, TankWithUpstreamSettling) {
     ReportData data = sampleProject(6);
-    data.tank.upstream_settling = true;
+    data.options.upstream_settling = true;
     expectGolden("tank_settling", data);
 }
 
@@ -146,21 +146,21 @@ TEST(HtmlReport, MarksExactlyTheRowOfTheChosenDuration) {
     EXPECT_EQ(count(htmlReport(data), third), 1U);
     EXPECT_EQ(count(htmlReport(data), "<tr><th width=150 align=center>"), 3U);  // and two headers
     for (const float none : {0.0F, 15.5F, -15.0F}) {
-        data.rain.chosen_duration_min = none;
+        data.numbers.VybranaDoba = none;
         EXPECT_EQ(count(htmlReport(data), "<tr><th width=150 align=center>"), 2U) << none;
     }
 }
 
 TEST(HtmlReport, MarksEveryRowThatHasTheChosenDuration) {
     ReportData data = sampleProject(1);
-    data.rain.durations_min[3] = 15;
+    data.rain.rows[3].duration_min = 15;
     EXPECT_EQ(count(htmlReport(data), "<tr><th width=150 align=center>15</th>"), 2U);
 }
 
 TEST(HtmlReport, EndsEveryLineWithCarriageReturnAndLineFeed) {
     for (int type = 0; type <= 6; ++type) {
         ReportData data = sampleProject(type);
-        data.description = "popis";
+        data.texts.txtDetails = "popis";
         const std::string html = htmlReport(data);
         EXPECT_EQ(count(html, "\r\n"), count(html, "\n"));
         EXPECT_TRUE(html.ends_with("</div></body><html>\r\n"));
@@ -178,9 +178,9 @@ TEST(HtmlReport, OfAnEmptyProjectIsComplete) {
 
 TEST(HtmlReport, WritesNegativeAndLargeResultsInFull) {
     ReportData data = sampleProject(1);
-    data.infiltration_area_m2 = -2000;
+    data.numbers.txtVsakPlocha = -2000;
     EXPECT_NE(htmlReport(data).find(">-2 000.00</TH>"), std::string::npos);
-    data.infiltration_area_m2 = 1e10F;
+    data.numbers.txtVsakPlocha = 1e10F;
     EXPECT_NE(htmlReport(data).find(">10 000 000 000.00</TH>"), std::string::npos);
 }
 

@@ -20,74 +20,86 @@ constexpr std::array<std::string_view, 7> kTypeNames = {
 };
 
 void fillSwaleAndTrench(ReportData& data) {
-    data.swale.soil_caption = data.infiltration_type == 3 ? "Slit a písek, slit" : "Písek střední až jemný";
-    data.swale.filtration_m_s = 1e-4F;
-    data.swale.emptying_time_h = 7.2F;
-    data.swale.width_m = 0.8F;
-    data.swale.depth_m = 0.305F;
-    data.trench = {.fill_porosity = 0.35F, .width_m = 0.8F, .height_m = 1.045F, .length_m = 61.3F};
-    data.pipes.inner_diameter_mm = 188;
-    data.pipes.outer_diameter_mm = 200;
-    data.pipes.count = 2;
-    data.pipes.throttled_outflow_lsha = 1.5F;
-    data.pipes.outlet_area_cm2_per_m = 180;
-    data.pipes.outlet_velocity_m_s = 0.25F;
+    data.options.soil_caption =
+        data.type == data::FacilityType::SwaleTrench ? "Slit a písek, slit" : "Písek střední až jemný";
+    data::DesignNumbers& numbers = data.numbers;
+    numbers.txtSoucFiltrPruleh = data.type == data::FacilityType::Shaft ? 8.3e-5F : 1e-4F;
+    numbers.txtDobaPrazdneni = 7.2F;
+    numbers.txtSirkaPrulehu = 0.8F;
+    numbers.txtHloubkaPrulehu = 0.305F;
+    numbers.txtPorVyplne = 0.35F;
+    numbers.txtSirkaRyhy = 0.8F;
+    numbers.txtVyskaRyhy = 1.045F;
+    numbers.txtDelkaRyhy = 61.3F;
+    numbers.txtPrumTroubVnit = 188;
+    numbers.txtPrumTroubVnej = 200;
+    numbers.txtPocetPotrubi = 2;
+    numbers.txtSpecDrenOdtok = 1.5F;
+    numbers.txtVystupPlocha = 180;
+    numbers.txtVystupRychlost = 0.25F;
 }
 
-void fillShaft(ShaftValues& shaft) {
-    shaft.count = 3;
-    shaft.ring = "RSA - Q.1 120/..";
-    shaft.inflow_depth_m = 0.8F;
-    shaft.inner_diameter_m = 1.2F;
-    shaft.side1_m = 2.4F;
-    shaft.side2_m = 1.9F;
-    shaft.wall_thickness_m = 0.135F;
-    shaft.filter_layer_m = 0.5F;
-    shaft.sand_layer_m = 0.3F;
-    shaft.required_depth_m = 1.56F;
-    shaft.min_groundwater_depth_m = 2.56F;
-    shaft.required_filtration_m_s = 8.3e-5F;
+void fillShaft(ReportData& data) {
+    data.options.ring = "RSA - Q.1 120/..";
+    data::DesignNumbers& numbers = data.numbers;
+    numbers.txtSachtyCount = 3;
+    numbers.txtNezamrzHlPritok = 0.8F;
+    numbers.D_i = 1.2F;
+    numbers.shaft_side1_m = 2.4F;
+    numbers.txtPrumerSachtyVnej = 1.9F;
+    numbers.txtTloustkaSteny = 0.135F;
+    numbers.txtVyskaFiltrVrstvy = 0.5F;
+    numbers.txtVyskaPiskVrstvy = 0.3F;
+    numbers.txtHloubkaSachty = 1.56F;
+    numbers.txtPotrHloubkaZahl = 2.56F;
 }
 
-void fillTank(TankValues& tank) {
-    tank.specific_infiltration_lsha = 2;
-    tank.bottom_length_m = 20;
-    tank.bottom_width_m = 12.5F;
-    tank.depth_m = 1;
-    tank.side_slope = 2.5F;
-    tank.infiltration_flow_m3_s = 0.025F;
-    tank.volume_by_dimensions_m3 = 1234.5F;
+void fillTank(data::DesignNumbers& numbers) {
+    numbers.txtSpecMeroIntenz = 2;
+    numbers.txtDelkaDnaNadrz = 20;
+    numbers.txtSirkaDnaNadrz = 12.5F;
+    numbers.txtHloubkaNadrz = 1;
+    numbers.txtSklonSvahuNadrz = 2.5F;
+    numbers.txtVsakTok = 0.025F;
+    numbers.txtVypObjNadrz = 1234.5F;
 }
 
 }  // namespace
 
 ReportData sampleProject(int infiltration_type) {
     ReportData data;
-    data.project_name = "Nákupní centrum Žďár";
-    data.designer = "Ing. Jiří Šťastný";
-    data.investor = "Město Žďár nad Sázavou";
-    data.site = "Brněnská ulice";
-    data.infiltration_type = infiltration_type;
-    data.infiltration_type_name = kTypeNames.at(static_cast<std::size_t>(infiltration_type));
+    data.texts.txtProjName = "Nákupní centrum Žďár";
+    data.texts.txtProjektant = "Ing. Jiří Šťastný";
+    data.texts.txtInvestor = "Město Žďár nad Sázavou";
+    data.texts.txtMistoAkce = "Brněnská ulice";
+    data.texts.txtTypPudyPodlozi = "Střední písek";
+    data.type = static_cast<data::FacilityType>(infiltration_type);
+    data.type_name = kTypeNames.at(static_cast<std::size_t>(infiltration_type));
     data.rain = {.station = "Telč",
                  .periodicity = "0.2",
-                 .durations_min = {5, 10, 15, 20, 30, 45, 60, 90, 120},
-                 .intensities_lsha = {315, 212, 161.5F, 131.2F, 96.3F, 69, 54.1F, 38.25F, 0.75F},
-                 .chosen_duration_min = 15};
+                 .rows = {{{5, 315},
+                           {10, 212},
+                           {15, 161.5F},
+                           {20, 131.2F},
+                           {30, 96.3F},
+                           {45, 69},
+                           {60, 54.1F},
+                           {90, 38.25F},
+                           {120, 0.75F}}}};
     data.partial_areas = {{850, 0.95F, "kov, sklo, břidlice, vláknocementová krytina"},
                           {120.5F, 0.9F, "asfalt, bezesparý beton"},
                           {1234567, 0.3F, "humusová vrstva > 10 cm"}};
-    data.drained_area_m2 = 1250;
-    data.subsoil_filtration_m_s = 2e-5F;
-    data.subsoil = "Střední písek";
-    data.groundwater_depth_m = 4.5F;
-    data.safety_factor = 1.2F;
-    data.infiltration_area_m2 = 428.6F;
-    data.storage_volume_m3 = 33.7F;
-    data.water_depth_m = 0.26F;
+    data.numbers.VybranaDoba = 15;
+    data.numbers.RedukovanaPlocha = 1250;
+    data.numbers.txtSoucFiltrace = 2e-5F;
+    data.numbers.txtHPV = 4.5F;
+    data.numbers.txtSoucBezp = 1.2F;
+    data.numbers.txtVsakPlocha = 428.6F;
+    data.numbers.txtObjAkum = 33.7F;
+    data.numbers.txtVyskaVzduti = 0.26F;
     fillSwaleAndTrench(data);
-    fillShaft(data.shaft);
-    fillTank(data.tank);
+    fillShaft(data);
+    fillTank(data.numbers);
     data.date = "3.4.2026";
     data.time = "14:05";
     return data;

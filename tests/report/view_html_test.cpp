@@ -102,7 +102,7 @@ std::string content(std::string_view html) {
 TEST(ViewHtml, EveryTypesReportKeepsItsContentInItsOrder) {
     for (int type = 0; type <= 6; ++type) {
         ReportData data = test::sampleProject(type);
-        data.description = "první<br>druhý";
+        data.texts.txtDetails = "první<br>druhý";
         const std::string report = htmlReport(data);
         const std::string shown = arrangedForView(report);
         EXPECT_EQ(content(shown), content(report)) << type;

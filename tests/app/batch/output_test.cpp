@@ -22,7 +22,7 @@ using ::testing::Not;
 
 project::Project shaftProject() {
     project::Project project;
-    project.texts.name = "Dvůr \"A\"";
+    project.texts.txtProjName = "Dvůr \"A\"";
     project.inputs.facility.type = design::FacilityType::Shaft;
     return project;
 }
@@ -31,9 +31,9 @@ design::DesignResult shaftResult() {
     design::DesignResult result;
     result.show(Quantity::WaterDepth, 1.525F);
     result.show(Quantity::InfiltrationArea, 27.0349F, 27.03F);
-    result.verdicts.add(Verdict::InletDepthNotPositive);
-    result.verdicts.add(Verdict::FilterLayerNotPositive);
-    result.verdicts.add(Verdict::ErrorDivisionByZero);
+    result.verdicts.add(VerdictId::InletDepthNotPositive);
+    result.verdicts.add(VerdictId::FilterLayerNotPositive);
+    result.verdicts.add(VerdictId::ErrorDivisionByZero);
     return result;
 }
 
@@ -76,12 +76,12 @@ TEST(ResultJson, IsJsonWithTheStoredNumbers) {
 
 TEST(ResultTable, TheSignTellsHowAMessageIsMeant) {
     design::DesignResult result;
-    result.verdicts.add(Verdict::DesignRainMissing);
-    result.verdicts.add(Verdict::TankVolumeSufficient);
+    result.verdicts.add(VerdictId::DesignRainMissing);
+    result.verdicts.add(VerdictId::TankVolumeSufficient);
     const std::string table = resultTable(shaftProject(), result);
     EXPECT_THAT(table, HasSubstr("  ! Intenzita návrhového deště není zadána\n"));
     EXPECT_THAT(table,
-                HasSubstr(std::string("  + ") + design::info(Verdict::TankVolumeSufficient).text + "\n"));
+                HasSubstr(std::string("  + ") + design::info(VerdictId::TankVolumeSufficient).text + "\n"));
     const nlohmann::json parsed = nlohmann::json::parse(resultJson(shaftProject(), result));
     EXPECT_EQ(parsed["verdicts"][0]["severity"], "warning");
     EXPECT_EQ(parsed["verdicts"][1]["severity"], "information");
@@ -89,7 +89,7 @@ TEST(ResultTable, TheSignTellsHowAMessageIsMeant) {
 
 TEST(ResultTable, AProjectWithoutANameBeginsWithItsType) {
     project::Project project = shaftProject();
-    project.texts.name.clear();
+    project.texts.txtProjName.clear();
     EXPECT_THAT(resultTable(project, design::DesignResult()), ::testing::StartsWith("Šachtové vsakování\n"));
 }
 

@@ -4,11 +4,13 @@
 #include <QTest>
 
 #include "app/mero/main_window.h"
-#include "forms/calc/input_checks.h"
+#include "design/messages.h"
 #include "forms/calc/layout/concerned_field.h"
 
 namespace mero::app {
 namespace {
+
+using design::VerdictId;
 
 class MessageFields : public MainWindow {
   protected:
@@ -29,34 +31,128 @@ class MessageFields : public MainWindow {
         run(std::string("click optSelType(") + group + ")");
         run(std::string("select cboSelType ") + type);
     }
-    [[nodiscard]] std::string concerned(std::string_view message) {
-        const auto* control = forms::concernedControl(program.window(), message);
+    [[nodiscard]] std::string concerned(VerdictId id) {
+        const auto* control = forms::concernedControl(program.window(), id);
         return control == nullptr ? "" : control->name();
     }
-    void close(const std::string& message) {
+    void close(const platform::Message& message) {
         window.returnToField(message);
         QApplication::processEvents();
     }
+    void close(VerdictId id) { close(design::box(id)); }
 };
 
-TEST_F(MessageFields, EachMissingInputOfATypeHasItsField) {
+/// The field that each message leads to on a panel where all of them can be reached.
+struct Lead {
+    VerdictId id;
+    const char* field;
+};
+
+TEST_F(MessageFields, OnTheCombinedPanel) {
     enterSite();
-    const data::modPublicVariables nothing = [] {
-        data::modPublicVariables values;
-        values.txtSklonSvahuNadrz = -1;
-        return values;
-    }();
-    for (const int type : {forms::kSwaleTrench, forms::kTrench, forms::kShaft, forms::kTank}) {
-        type == forms::kTank ? choose("1", "0") : choose("0", std::to_string(type).c_str());
-        if (type == forms::kShaft) {
-            run("click optSelTypPudy5(1)");
-        }
-        std::istringstream lines(forms::failedChecks(type, nothing, true));
-        int count = 0;
-        for (std::string line; std::getline(lines, line); ++count) {
-            EXPECT_NE(concerned(line), "") << line;
-        }
-        EXPECT_GE(count, 3) << "type " << type;
+    choose("0", "3");
+    for (const Lead& lead :
+         {Lead{VerdictId::SwaleFiltrationNotPositive, "txtSoucFiltrPruleh(3)"},
+          Lead{VerdictId::SafetyFactorNotPositive, "txtSoucBezp(3)"},
+          Lead{VerdictId::FillPorosityNotPositive, "txtPorVyplne(3)"},
+          Lead{VerdictId::TrenchHeightNotPositive, "txtVyskaRyhy(3)"},
+          Lead{VerdictId::TrenchWidthNotPositive, "txtSirkaRyhy(3)"},
+          Lead{VerdictId::SwaleTrenchAreaInsufficient, "txtSirkaRyhy(3)"},
+          Lead{VerdictId::InfiltrationAreaMissing, ""}, Lead{VerdictId::SwaleTrenchAreaSufficient, ""}}) {
+        EXPECT_EQ(concerned(lead.id), lead.field) << design::info(lead.id).code;
+    }
+}
+
+TEST_F(MessageFields, OnTheTrenchPanel) {
+    enterSite();
+    choose("0", "4");
+    run("click chkSelPretok(4)");
+    for (const Lead& lead :
+         {Lead{VerdictId::TrenchHeightNotPositive, "txtVyskaRyhy(4)"},
+          Lead{VerdictId::TrenchWidthNotPositive, "txtSirkaRyhy(4)"},
+          Lead{VerdictId::FillPorosityNotPositive, "txtPorVyplne(4)"},
+          Lead{VerdictId::DrainOutflowNotMet, "txtVystupPlocha(4)"}, Lead{VerdictId::DrainOutflowMet, ""}}) {
+        EXPECT_EQ(concerned(lead.id), lead.field) << design::info(lead.id).code;
+    }
+}
+
+TEST_F(MessageFields, OnTheShaftPanel) {
+    enterSite();
+    choose("0", "5");
+    run({"click optSelTypPudy5(1)", "click optSelTypSachty(1)"});
+    for (const Lead& lead : {Lead{VerdictId::SafetyFactorNotPositive, "txtSoucBezp(5)"},
+                             Lead{VerdictId::InletDepthNotPositive, "txtNezamrzHlPritok"},
+                             Lead{VerdictId::FilterLayerNotPositive, "txtVyskaFiltrVrstvy"},
+                             Lead{VerdictId::InnerDiameterNotPositive, "txtPrumerSachtyVnit"},
+                             Lead{VerdictId::OuterDiameterNotPositive, "txtPrumerSachtyVnej"},
+                             Lead{VerdictId::SeepagePathNotPositive, "txtMinPrusakDraha"},
+                             Lead{VerdictId::SandLayerNotPositive, "txtVyskaPiskVrstvy"},
+                             Lead{VerdictId::ShaftOuterDiameterTooSmall, "txtPrumerSachtyVnej"},
+                             Lead{VerdictId::ShaftGroundwaterTooHigh, "txtPrumerSachtyVnit"},
+                             Lead{VerdictId::ShaftBottomTooClose, "txtVyskaFiltrVrstvy"},
+                             Lead{VerdictId::ShaftFilterTooPermeable, "txtPrumerSachtyVnit"},
+                             Lead{VerdictId::ShaftFilterSufficient, ""}}) {
+        EXPECT_EQ(concerned(lead.id), lead.field) << design::info(lead.id).code;
+    }
+    run("click optSelTypSachty(0)");
+    EXPECT_EQ(concerned(VerdictId::OuterDiameterNotPositive), "txtTloustkaSteny") << "the first is disabled";
+}
+
+TEST_F(MessageFields, OnTheTankPanel) {
+    enterSite();
+    choose("1", "0");
+    for (const Lead& lead :
+         {Lead{VerdictId::SpecificInfiltrationNotPositive, "txtSpecMeroIntenz"},
+          Lead{VerdictId::BottomLengthNotPositive, "txtDelkaDnaNadrz"},
+          Lead{VerdictId::BottomWidthNotPositive, "txtSirkaDnaNadrz"},
+          Lead{VerdictId::TankDepthNotPositive, "txtHloubkaNadrz"},
+          Lead{VerdictId::SideSlopeNegative, "txtSklonSvahuNadrz"},
+          Lead{VerdictId::TankVolumeTooSmall, "txtDelkaDnaNadrz"},
+          Lead{VerdictId::TankInfiltrationExceeded, "txtSpecMeroIntenz"},
+          Lead{VerdictId::TankVolumeSufficient, ""}, Lead{VerdictId::TankInfiltrationProven, ""}}) {
+        EXPECT_EQ(concerned(lead.id), lead.field) << design::info(lead.id).code;
+    }
+}
+
+TEST_F(MessageFields, OnTheFirstTab) {
+    for (const Lead& lead : {Lead{VerdictId::DrainedAreaMissing, "cmdEdit(1)"},
+                             Lead{VerdictId::InfiltrationAreaMissing, "cmdEdit(1)"},
+                             Lead{VerdictId::FiltrationMissing, "txtSoucFiltrace"},
+                             Lead{VerdictId::DesignRainMissing, "cmdEdit(0)"},
+                             Lead{VerdictId::ErrorInvalidCall, ""}, Lead{VerdictId::ErrorOverflow, ""},
+                             Lead{VerdictId::ErrorSubscript, ""}, Lead{VerdictId::ErrorDivisionByZero, ""}}) {
+        EXPECT_EQ(concerned(lead.id), lead.field) << design::info(lead.id).code;
+    }
+}
+
+TEST_F(MessageFields, OnTheDesignTabWithoutAType) {
+    run("tab 1");
+    EXPECT_EQ(concerned(VerdictId::TechnologyNotChosen), "optSelType(0)") << "the list is disabled";
+    enterSite();
+    choose("0", "4");
+    EXPECT_EQ(concerned(VerdictId::TechnologyNotChosen), "cboSelType");
+}
+
+TEST_F(MessageFields, InTheDialogs) {
+    run("click cmdEdit(1)");
+    EXPECT_EQ(concerned(VerdictId::RunoffCoefficientMissing), "txtSoucinitel");
+    EXPECT_EQ(concerned(VerdictId::PartialAreaMissing), "txtPlocha");
+    EXPECT_EQ(concerned(VerdictId::FiltrationMissing), "") << "the main window is disabled";
+    run({"click frmDialog.CancelButton", "click cmdEdit(0)"});
+    EXPECT_EQ(concerned(VerdictId::RainIntensitiesMissing), "cboSelStanice");
+}
+
+/// The text is for the reader only: whatever it says, the id leads to the field.
+TEST_F(MessageFields, AChangedTextLeadsToTheSameField) {
+    enterSite();
+    choose("0", "4");
+    for (const VerdictId id : {VerdictId::TrenchHeightNotPositive, VerdictId::TrenchWidthNotPositive,
+                               VerdictId::FillPorosityNotPositive}) {
+        platform::Message message = design::box(id);
+        message.text = "Jiný text.";
+        close(message);
+        EXPECT_EQ(QApplication::focusWidget(), kit.find(*forms::concernedControl(program.window(), id)))
+            << design::info(id).code;
     }
 }
 
@@ -65,7 +161,7 @@ TEST_F(MessageFields, TheFirstMissingInputGetsTheFocusWithItsTextSelected) {
     choose("0", "4");
     run({"set txtPorVyplne(4) 0.35", "set txtSirkaRyhy(4) 0", "set txtVyskaRyhy(4) 1.2"});
     trace.str("");
-    close("Šířka rýhy je menší nebo rovna nule.\r\nPórovitost výplně je menší nebo rovna nule.\r\n");
+    close(VerdictId::TrenchWidthNotPositive);
     auto& line = widget<QLineEdit>("txtSirkaRyhy(4)");
     EXPECT_EQ(QApplication::focusWidget(), &line);
     EXPECT_EQ(line.selectedText(), "0");
@@ -77,7 +173,7 @@ TEST_F(MessageFields, NoHandlerRunsOnTheWay) {
     line.setFocus();
     QTest::keyClicks(&line, "1.26e-4");
     // Leaving the field by oneself would write "1.3E-04".
-    close("Intenzita návrhového deště není zadána");
+    close(VerdictId::DesignRainMissing);
     EXPECT_EQ(QApplication::focusWidget(), kit.find(program.window().cmdEdit[0]));
     EXPECT_EQ(line.text(), "1.26e-4");
 }
@@ -88,29 +184,12 @@ TEST_F(MessageFields, AFieldThatCannotBeReachedDoesNotGetIt) {
     run("click optSelTypPudy5(0)");
     auto& number = widget<QLineEdit>("txtMinPrusakDraha");
     number.setFocus();
-    close("Výška pískové vrstvy je menší nebo rovna nule.");
+    close(VerdictId::SandLayerNotPositive);
     EXPECT_EQ(QApplication::focusWidget(), &number) << "disabled";
-    close("Zadejte součinitel filtrace podloží");
+    close(VerdictId::FiltrationMissing);
     EXPECT_EQ(QApplication::focusWidget(), &number) << "on another tab";
-    close("Potřebná propustnost filtru je dostačující.");
+    close(VerdictId::ShaftFilterSufficient);
     EXPECT_EQ(QApplication::focusWidget(), &number) << "about no field";
-}
-
-TEST_F(MessageFields, InTheDrainedAreaDialog) {
-    run("click cmdEdit(1)");
-    EXPECT_EQ(concerned("Vyberte odtokový součinitel"), "txtSoucinitel");
-    EXPECT_EQ(concerned("Zadejte dílčí plochu"), "txtPlocha");
-    EXPECT_EQ(concerned("Zadejte součinitel filtrace podloží"), "") << "the main window is disabled";
-}
-
-TEST_F(MessageFields, VerdictsLeadToWhatMendsThem) {
-    enterSite();
-    choose("0", "5");
-    EXPECT_EQ(concerned("Dno šachty je vzdáleno méně než 0.5 m od hladiny podzemní vody."),
-              "txtVyskaFiltrVrstvy");
-    choose("0", "4");
-    run("click chkSelPretok(4)");
-    EXPECT_EQ(concerned("Není splněna podmínka výstupního odtoku. ( 1 < 2 )"), "txtVystupPlocha(4)");
 }
 
 }  // namespace

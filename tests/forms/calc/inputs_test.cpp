@@ -284,7 +284,7 @@ TEST_F(InputsTest, EmptyingTheAreaEmptiesTheInflow) {
 
 TEST_F(InputsTest, TheSafetyFactorRecomputesAtEveryNonEmptyText) {
     p.giveSite();
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     int computed = 0;
     w.txtVsakPlocha[1].observe([&](platform::Aspect) { ++computed; });
     p.erase(w.txtSoucBezp[1], 3);

@@ -90,14 +90,14 @@ struct ClearTypeResultsTest : RebuildCalcTest {
 };
 
 TEST_F(ClearTypeResultsTest, SurfaceIsComputedAfresh) {
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     fill(w.txtVsakPlocha[1]);
     w.ClearTypeResults();
     EXPECT_EQ(w.txtVsakPlocha[1].text(), "428.6");
 }
 
 TEST_F(ClearTypeResultsTest, SwaleIsComputedThroughItsSoilOption) {
-    p.chooseType(kSwale);
+    p.chooseType(FacilityType::Swale);
     fill(w.txtVsakPlocha[2], w.txtObjAkum[2], w.txtVyskaVzduti[2], w.txtDobaPrazdneni[2]);
     w.ClearTypeResults();
     EXPECT_EQ(w.txtVsakPlocha[2].text(), "100.0");
@@ -109,7 +109,7 @@ TEST_F(ClearTypeResultsTest, SwaleIsComputedThroughItsSoilOption) {
 
 TEST_F(ClearTypeResultsTest, SwaleWithoutAreaIsLeftEmpty) {
     p.takeAreaAway();
-    p.chooseType(kSwale);
+    p.chooseType(FacilityType::Swale);
     fill(w.txtVsakPlocha[2], w.txtObjAkum[2], w.txtVyskaVzduti[2], w.txtDobaPrazdneni[2]);
     p.desk.take();
     w.ClearTypeResults();
@@ -121,7 +121,7 @@ TEST_F(ClearTypeResultsTest, SwaleWithoutAreaIsLeftEmpty) {
 }
 
 TEST_F(ClearTypeResultsTest, CombinedObjectKeepsOnlyTheStartingArea) {
-    p.chooseType(kSwaleTrench);
+    p.chooseType(FacilityType::SwaleTrench);
     fill(w.txtVsakPlocha[3], w.txtObjAkum[3], w.txtDelkaRyhy[3], w.txtSirkaPrulehu[3], w.txtHloubkaPrulehu[3],
          w.txtDobaPrazdneni[3]);
     w.ClearTypeResults();
@@ -133,7 +133,7 @@ TEST_F(ClearTypeResultsTest, CombinedObjectKeepsOnlyTheStartingArea) {
 }
 
 TEST_F(ClearTypeResultsTest, TrenchIsEmptied) {
-    p.chooseType(kTrench);
+    p.chooseType(FacilityType::Trench);
     fill(w.txtVsakPlocha[4], w.txtObjAkum[4], w.txtDelkaRyhy[4]);
     w.ClearTypeResults();
     for (const auto* box : {&w.txtVsakPlocha[4], &w.txtObjAkum[4], &w.txtDelkaRyhy[4]}) {
@@ -142,7 +142,7 @@ TEST_F(ClearTypeResultsTest, TrenchIsEmptied) {
 }
 
 TEST_F(ClearTypeResultsTest, ShaftReselectsItsVariantAndKeepsItsTexts) {
-    p.chooseType(kShaft);
+    p.chooseType(FacilityType::Shaft);
     fill(w.txtVsakPlocha[5], w.txtObjAkum[5]);
     std::vector<bool> selections;
     w.optSelTypPudy5[0].observe(

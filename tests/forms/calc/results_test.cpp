@@ -17,14 +17,14 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr const char* kNoType = "exclamation: Není vybrána technologie";
+constexpr const char* FacilityType::None = "exclamation: Není vybrána technologie";
 
 struct ResultsTest : testing::Test {
     /// Surface infiltration of a project of that name; the records start behind it.
     void chooseSurface(const std::string& project = "Test") {
         p.giveSite();
         p.paste(w.txtProjName, project);
-        p.chooseType(kSurface);
+        p.chooseType(FacilityType::Surface);
         p.desk.take();
     }
     [[nodiscard]] std::string navigatedTo(const std::string& file) const {
@@ -42,7 +42,7 @@ TEST_F(ResultsTest, WithoutATypeBothTabsAreTakenBack) {
             p.tab(from);
             p.tab(to);
             EXPECT_EQ(w.SSTab1.position(), from) << "to " << to;
-            EXPECT_THAT(p.desk.take(), ElementsAre(kNoType));
+            EXPECT_THAT(p.desk.take(), ElementsAre(FacilityType::None));
         }
     }
     EXPECT_EQ(p.desk.messages[0].title, std::nullopt);
@@ -124,7 +124,7 @@ TEST_F(ResultsTest, ARefusedResultsTabFromTheDesignDeletesTheReportOfBefore) {
     p.paste(w.txtSoucFiltrace, "2e-4");  // re-selects: no type is chosen any more
     p.desk.take();
     p.tab(kTabResults);
-    EXPECT_THAT(p.desk.take(), ElementsAre(kNoType));
+    EXPECT_THAT(p.desk.take(), ElementsAre(FacilityType::None));
     EXPECT_EQ(w.SSTab1.position(), 0);
     EXPECT_FALSE(w.wbShowResults.visible());
     EXPECT_FALSE(w.cmdSaveResults.visible());
@@ -146,7 +146,7 @@ TEST_F(ResultsTest, ANameThatIsNoFileNameShowsTheViewWithoutAFile) {
         TestProgram q;
         q.giveSite();
         q.paste(q.window().txtProjName, name);
-        q.chooseType(kSurface);
+        q.chooseType(FacilityType::Surface);
         q.desk.take();
         q.tab(kTabResults);
         EXPECT_THAT(q.desk.lines, ElementsAre("navigated wbShowResults " + q.folder.file("Mero_" + name)));

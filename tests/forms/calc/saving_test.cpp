@@ -50,8 +50,8 @@ struct SavingTest : testing::Test {
         user.paste(w.txtSoucFiltrace, "1e-4");
         user.paste(w.txtProjName, "Test");
         user.chooseTab(w.SSTab1, kTabDesign);
-        user.click(w.optSelType[type == kTank ? 1 : 0]);
-        if (type != kTank) {
+        user.click(w.optSelType[type == FacilityType::Tank ? 1 : 0]);
+        if (type != FacilityType::Tank) {
             user.select(w.cboSelType, type);
         }
         user.chooseTab(w.SSTab1, kTabResults);
@@ -74,7 +74,7 @@ struct SavingTest : testing::Test {
 };
 
 TEST_F(SavingTest, TheSuffixChoosesPdfInSmallAndLargeLetters) {
-    showResults(kSwale);
+    showResults(FacilityType::Swale);
     for (const char* name : {"zpráva.pdf", "zpráva.PDF"}) {
         save(folder.file(name));
         EXPECT_EQ(folder.read(name), "%PDF");
@@ -88,7 +88,7 @@ TEST_F(SavingTest, TheSuffixChoosesPdfInSmallAndLargeLetters) {
 }
 
 TEST_F(SavingTest, AFailedPdfLeavesTheOldFileAndIsTold) {
-    showResults(kSwale);
+    showResults(FacilityType::Swale);
     folder.write("a.pdf", "starý");
     desk.result = PdfResult::Failed;
     save(folder.file("a.pdf"));
@@ -101,7 +101,7 @@ TEST_F(SavingTest, AFailedPdfLeavesTheOldFileAndIsTold) {
 }
 
 TEST_F(SavingTest, WithoutMeansForPdfTheReasonIsTold) {
-    showResults(kSwale);
+    showResults(FacilityType::Swale);
     desk.result = PdfResult::NoMeans;
     save(folder.file("a.pdf"));
     EXPECT_FALSE(folder.has("a.pdf"));
@@ -110,7 +110,7 @@ TEST_F(SavingTest, WithoutMeansForPdfTheReasonIsTold) {
 }
 
 TEST_F(SavingTest, WhatIsShownIsSavedAndPrintedWhateverBecameOfTheReportsFile) {
-    showResults(kSwale);
+    showResults(FacilityType::Swale);
     save(folder.file("první.html"));
     const std::string expected = folder.read("první.html");
     const std::string report = folder.read("Mero_Test");
@@ -136,7 +136,7 @@ TEST_F(SavingTest, WhatIsShownIsSavedAndPrintedWhateverBecameOfTheReportsFile) {
 }
 
 TEST_F(SavingTest, APdfIsNotMadeOfAnotherProgramsReport) {
-    showResults(kSwale);
+    showResults(FacilityType::Swale);
     std::filesystem::remove(folder.file("Mero_Test"));
     std::filesystem::create_directory(folder.file("Mero_Test"));
     desk.take();
@@ -149,7 +149,7 @@ TEST_F(SavingTest, APdfIsNotMadeOfAnotherProgramsReport) {
 }
 
 TEST_F(SavingTest, AFolderInTheCopysPlaceStays) {
-    showResults(kSwale);
+    showResults(FacilityType::Swale);
     for (const char* name : {"a.pdf", "a.html"}) {
         std::filesystem::create_directory(folder.file(name));
         save(folder.file(name));
@@ -162,7 +162,7 @@ TEST_F(SavingTest, EveryTypesReportIsThereBeforeAnythingWasCalculated) {
     const std::vector<std::string> verdict_rows = {"Vsakovací plocha",        "Objem akumulace průlehu",
                                                    "Délka vsakovací rýhy",    "Délka vsakovací rýhy",
                                                    "Potřebná hloubka šachty", "Potřebný objem akumulace"};
-    for (int type = kSurface; type <= kTank; ++type) {
+    for (int type = FacilityType::Surface; type <= FacilityType::Tank; ++type) {
         showResults(type);
         const std::string report = report::fromWindows1250(folder.read("Mero_Test"));
         EXPECT_THAT(report, HasSubstr("<u>Výsledky</u>")) << type;
@@ -171,7 +171,7 @@ TEST_F(SavingTest, EveryTypesReportIsThereBeforeAnythingWasCalculated) {
 }
 
 TEST_F(SavingTest, TheReportFollowsTheStateOfTheMomentTheTabIsEntered) {
-    showResults(kTank);
+    showResults(FacilityType::Tank);
     EXPECT_THAT(report::fromWindows1250(folder.read("Mero_Test")), HasSubstr("Vsakovací nádrže"));
     EXPECT_THAT(folder.read("Mero_Test"), Not(HasSubstr("17.50")));
     user.chooseTab(w.SSTab1, kTabDesign);

@@ -183,7 +183,7 @@ TEST(Ending, DeletesTheReportButNoSavedCopy) {
     TestProgram p;
     p.giveSite();
     p.paste(p.window().txtProjName, "Test");
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     p.tab(kTabResults);
     ASSERT_TRUE(p.folder.has("Mero_Test"));
     p.desk.save_answer = p.folder.file("kopie.html");
@@ -203,7 +203,7 @@ TEST(Ending, WithoutAReportNothingIsDeleted) {
 TEST(Ending, AnErrorThatEndsTheProgramCleansUpLikeClosing) {
     TestProgram p;
     p.giveSite();
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     p.tab(kTabResults);
     ASSERT_TRUE(p.folder.has("Mero_"));
     p.desk.take();

@@ -20,7 +20,7 @@ struct SurfaceTypeTest : testing::Test {
 
 TEST_F(SurfaceTypeTest, TheAreaIsShownWithOneDecimalAndStoredAsShown) {
     p.giveSite();
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     // 1000 / (1e-4 * 1e7 / 300 - 1) = 1000 * 3 / 7
     EXPECT_EQ(w.txtVsakPlocha[1].text(), "428.6");
     EXPECT_EQ(v.txtVsakPlocha, 428.6F);
@@ -31,7 +31,7 @@ TEST_F(SurfaceTypeTest, ANegativeAreaIsShownAsItStands) {
     p.giveRain("100");
     p.giveArea("1000");
     p.paste(w.txtSoucFiltrace, "1e-5");
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     EXPECT_EQ(w.txtVsakPlocha[1].text(), "-2 000.0");
     EXPECT_EQ(v.txtVsakPlocha, -2000.0F) << "read back through its own field";
 }
@@ -39,14 +39,14 @@ TEST_F(SurfaceTypeTest, ANegativeAreaIsShownAsItStands) {
 TEST_F(SurfaceTypeTest, WithoutAFiltrationTheFormulaIsAppliedAllTheSame) {
     p.giveRain("100");
     p.giveArea("1000");
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     EXPECT_EQ(w.txtVsakPlocha[1].text(), "-1 000.0");
 }
 
 TEST_F(SurfaceTypeTest, WithoutAnAreaItIsZero) {
     p.giveRain("100");
     p.paste(w.txtSoucFiltrace, "1e-4");
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     EXPECT_EQ(w.txtVsakPlocha[1].text(), "0.0");
 }
 
@@ -54,7 +54,7 @@ TEST_F(SurfaceTypeTest, WithoutARainTheTypeIsTakenBack) {
     p.giveArea("1000");
     p.paste(w.txtSoucFiltrace, "1e-4");
     p.desk.take();
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     EXPECT_THAT(p.desk.take(), ElementsAre("exclamation [Chyba]: Intenzita návrhového deště není zadána"));
     EXPECT_EQ(w.SelectedType, 0);
     EXPECT_EQ(w.cboSelType.position(), 0);
@@ -70,19 +70,19 @@ TEST_F(SurfaceTypeTest, AZeroDenominatorIsReportedAndTheProgramGoesOn) {
     p.giveArea("1000");
     p.paste(w.txtSoucFiltrace, "0.0001220703125");
     p.desk.take();
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     EXPECT_THAT(p.desk.take(), ElementsAre("error 11"));
     EXPECT_FALSE(p.program.ended());
     EXPECT_EQ(w.txtVsakPlocha[1].text(), "0") << "what was written before the error stays";
     p.paste(w.txtSoucFiltrace, "1e-3");
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     // 1000 / (1e4 / 1220.703125 - 1) = 139.04...
     EXPECT_EQ(w.txtVsakPlocha[1].text(), "139.0");
 }
 
 TEST_F(SurfaceTypeTest, ChoosingNoTypeStoresNoArea) {
     p.giveSite();
-    p.chooseType(kSurface);
+    p.chooseType(FacilityType::Surface);
     EXPECT_EQ(v.txtVsakPlocha, 428.6F);
     p.click(w.optSelType[0]);
     EXPECT_EQ(v.txtVsakPlocha, 0.0F);

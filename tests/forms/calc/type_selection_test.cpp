@@ -75,7 +75,7 @@ TEST_F(TypeSelectionTest, CentralisedWithoutAreaIsRefusedHalfWay) {
 
 TEST_F(TypeSelectionTest, CentralisedRefusedLeavesThePanelThatWasShown) {
     p.giveSite();
-    p.chooseType(kTrench);
+    p.chooseType(FacilityType::Trench);
     ASSERT_THAT(shownPanels(), ElementsAre(4));
     // The fields' coefficient is emptied without a re-selection.
     p.paste(w.txtSoucFiltrace, "");
@@ -103,7 +103,7 @@ TEST_F(TypeSelectionTest, AfterARefusalDecentralisedWorksAsEver) {
 
 TEST_F(TypeSelectionTest, TheEntryOfARefusedCentralisedChoiceCountsForTheFormerGroup) {
     p.giveSite();
-    p.chooseType(kTrench);
+    p.chooseType(FacilityType::Trench);
     p.paste(w.txtSoucFiltrace, "");
     p.click(w.optSelType[1]);
     p.select(w.cboSelType, 0);
@@ -187,30 +187,30 @@ TEST_F(TypeSelectionTest, EnteringTheListAsksForAreaThenFiltration) {
 }
 
 TEST_F(TypeSelectionTest, NothingElseIsBlockedWithoutAnArea) {
-    p.chooseType(kTrench);
+    p.chooseType(FacilityType::Trench);
     EXPECT_EQ(w.SelectedType, 4);
     EXPECT_THAT(shownPanels(), ElementsAre(4));
 }
 
 TEST_F(TypeSelectionTest, ThreeGroupsShareOneSoilVariant) {
     p.giveSite();
-    p.chooseType(kSwaleTrench);
+    p.chooseType(FacilityType::SwaleTrench);
     EXPECT_TRUE(w.optSelTypPudy3[0].selected()) << "cleared, then selected again as the variant in use";
     p.click(w.optSelTypPudy3[1]);
     EXPECT_EQ(w.SoilVariant, 1);
     EXPECT_EQ(w.txtVsakPlocha[3].text(), "200.0") << "a fifth of 1000 m2";
-    p.select(w.cboSelType, kSwale);
+    p.select(w.cboSelType, FacilityType::Swale);
     EXPECT_EQ(w.SoilVariant, 1) << "not changed by clearing the first option";
     EXPECT_FALSE(w.optSelTypPudy2[0].selected());
     EXPECT_TRUE(w.optSelTypPudy2[1].selected());
-    p.select(w.cboSelType, kShaft);
+    p.select(w.cboSelType, FacilityType::Shaft);
     EXPECT_TRUE(w.optSelTypPudy5[1].selected());
     EXPECT_TRUE(w.txtVyskaPiskVrstvy.enabled());
 }
 
 TEST_F(TypeSelectionTest, ChoosingAGroupKeepsTheSoilVariant) {
     p.giveSite();
-    p.chooseType(kSwale);
+    p.chooseType(FacilityType::Swale);
     p.click(w.optSelTypPudy2[1]);
     p.click(w.optSelType[0]);
     EXPECT_EQ(w.SoilVariant, 1);
@@ -221,7 +221,7 @@ TEST_F(TypeSelectionTest, ChoosingAGroupKeepsTheSoilVariant) {
 
 TEST_F(TypeSelectionTest, SoilOptionOfTheSwaleComputesAtOnce) {
     p.giveSite();
-    p.chooseType(kSwale);
+    p.chooseType(FacilityType::Swale);
     EXPECT_EQ(w.txtVsakPlocha[2].text(), "100.0") << "a tenth of 1000 m2";
     p.click(w.optSelTypPudy2[1]);
     EXPECT_EQ(w.txtVsakPlocha[2].text(), "200.0");
@@ -230,7 +230,7 @@ TEST_F(TypeSelectionTest, SoilOptionOfTheSwaleComputesAtOnce) {
 
 TEST_F(TypeSelectionTest, ShaftVariantSwitchesTheSandLayerAndKeepsItsText) {
     p.giveSite();
-    p.chooseType(kShaft);
+    p.chooseType(FacilityType::Shaft);
     p.click(w.optSelTypPudy5[1]);
     EXPECT_EQ(w.SoilVariant, 1);
     EXPECT_TRUE(w.txtVyskaPiskVrstvy.enabled());
@@ -247,7 +247,7 @@ TEST_F(TypeSelectionTest, ShaftVariantSwitchesTheSandLayerAndKeepsItsText) {
 
 TEST_F(TypeSelectionTest, DrainShowsItsSubPanelHigherThanEditingDoes) {
     p.giveSite();
-    p.chooseType(kTrench);
+    p.chooseType(FacilityType::Trench);
     p.click(w.chkSelPretok[4]);
     EXPECT_TRUE(w.picPretokSkrOdtok[4].visible());
     EXPECT_EQ(w.picPretokSkrOdtok[4].left(), 0);
@@ -267,7 +267,7 @@ TEST_F(TypeSelectionTest, DrainShowsItsSubPanelHigherThanEditingDoes) {
 
 TEST_F(TypeSelectionTest, OverflowShowsItsSubPanelWhereEditingDoes) {
     p.giveSite();
-    p.chooseType(kSwaleTrench);
+    p.chooseType(FacilityType::SwaleTrench);
     p.click(w.chkSelPretok[3]);
     EXPECT_TRUE(w.picPretokSkrOdtok[3].visible());
     EXPECT_EQ(w.picPretokSkrOdtok[3].top(), 3000);
@@ -281,7 +281,7 @@ TEST_F(TypeSelectionTest, OverflowShowsItsSubPanelWhereEditingDoes) {
 
 TEST_F(TypeSelectionTest, TickingClearsTheResultsOfTheType) {
     p.giveSite();
-    p.chooseType(kTrench);
+    p.chooseType(FacilityType::Trench);
     w.txtObjAkum[4].setText("12.0");
     w.txtDelkaRyhy[4].setText("5.0");
     w.txtVsakPlocha[4].setText("7.0");

@@ -136,7 +136,7 @@ std::string Project::pickedRain() const {
 
 int Project::shownType() {
     tab(kTabDesign);
-    int shown = kNoType;
+    int shown = FacilityType::None;
     window().picResults.forEach([&](int type, platform::Panel& panel) {
         if (panel.onScreen()) {
             shown = type;

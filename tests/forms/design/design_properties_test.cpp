@@ -28,8 +28,8 @@ class Typist {
         project_.site(text(site.area_m2), text(site.filtration_m_s), rows, site.picked_row);
         project_.set(window_.txtHPV, text(site.groundwater_m));
         // On the trench's page, where the keystroke computes nothing but an area of 0.
-        project_.choose(kTrench);
-        project_.set(window_.txtSoucBezp[kTrench], text(site.safety_factor));
+        project_.choose(FacilityType::Trench);
+        project_.set(window_.txtSoucBezp[FacilityType::Trench], text(site.safety_factor));
         // What a careless input made the dialogs say is not the design's.
         project_.messages();
         project_.errors();
@@ -37,35 +37,36 @@ class Typist {
 
     Outcome design(InfiltrationType type) {
         switch (type) {
-            case kSurface:
-                project_.choose(kSurface);
+            case FacilityType::Surface:
+                project_.choose(FacilityType::Surface);
                 break;
-            case kSwale:
-                project_.choose(kSwale);
+            case FacilityType::Swale:
+                project_.choose(FacilityType::Swale);
                 chooseSoil(window_.optSelTypPudy2);
                 break;
-            case kSwaleTrench:
-                project_.choose(kSwaleTrench);
+            case FacilityType::SwaleTrench:
+                project_.choose(FacilityType::SwaleTrench);
                 chooseSoil(window_.optSelTypPudy3);
-                project_.set(window_.txtSoucFiltrPruleh[kSwaleTrench], text(site_.swale_filtration_m_s));
-                typeTrench(kSwaleTrench);
+                project_.set(window_.txtSoucFiltrPruleh[FacilityType::SwaleTrench],
+                             text(site_.swale_filtration_m_s));
+                typeTrench(FacilityType::SwaleTrench);
                 break;
-            case kTrench:
-                project_.choose(kTrench);
-                typeTrench(kTrench);
+            case FacilityType::Trench:
+                project_.choose(FacilityType::Trench);
+                typeTrench(FacilityType::Trench);
                 break;
-            case kShaft:
-                project_.choose(kShaft);
+            case FacilityType::Shaft:
+                project_.choose(FacilityType::Shaft);
                 typeShaft();
                 break;
-            case kTank:
+            case FacilityType::Tank:
                 project_.chooseTank();
                 typeTank();
                 break;
-            case kNoType:
+            case FacilityType::None:
                 break;
         }
-        if (type >= kSwaleTrench) {
+        if (type >= FacilityType::SwaleTrench) {
             project_.calculate();
         }
         return look(type);
@@ -89,7 +90,7 @@ class Typist {
         project_.set(window_.txtPrumTroubVnit[type], text(site_.inner_pipe_mm));
         project_.set(window_.txtPrumTroubVnej[type], text(site_.outer_pipe_mm));
         project_.set(window_.txtPocetPotrubi[type], text(site_.pipe_count));
-        if (type == kSwaleTrench) {
+        if (type == FacilityType::SwaleTrench) {
             project_.set(window_.txtSpecDrenOdtok[type], text(site_.throttled_l_s_ha));
         } else {
             project_.set(window_.txtVystupPlocha[type], text(site_.openings_cm2_m));
@@ -155,33 +156,33 @@ void compare(InfiltrationType type, const RandomSite& site) {
 }
 
 RC_GTEST_PROP(RandomDesigns, Surface, ()) {
-    compare(kSurface, randomSite());
+    compare(FacilityType::Surface, randomSite());
 }
 
 RC_GTEST_PROP(RandomDesigns, Swale, ()) {
-    compare(kSwale, randomSite());
+    compare(FacilityType::Swale, randomSite());
 }
 
 RC_GTEST_PROP(RandomDesigns, Combined, ()) {
     const RandomSite site = randomSite();
     // Without infiltration area the swale stores all that comes, and the trench gets what rounding leaves.
     RC_PRE(site.area_m2 >= 0);
-    compare(kSwaleTrench, site);
+    compare(FacilityType::SwaleTrench, site);
 }
 
 RC_GTEST_PROP(RandomDesigns, Trench, ()) {
-    compare(kTrench, randomSite());
+    compare(FacilityType::Trench, randomSite());
 }
 
 RC_GTEST_PROP(RandomDesigns, Shaft, ()) {
-    compare(kShaft, randomSite());
+    compare(FacilityType::Shaft, randomSite());
 }
 
 RC_GTEST_PROP(RandomDesigns, Tank, ()) {
     const RandomSite site = randomSite();
     // Without area or coefficient the tank cannot be chosen.
     RC_PRE(site.area_m2 > 0 && site.filtration_m_s > 0);
-    compare(kTank, site);
+    compare(FacilityType::Tank, site);
 }
 
 }  // namespace

@@ -25,35 +25,35 @@ class Design {
 
     Outcome run(InfiltrationType type) {
         switch (type) {
-            case kSurface:
+            case FacilityType::Surface:
                 event([this] { surface(); });
                 break;
-            case kSwale:
+            case FacilityType::Swale:
                 clear({"txtVsakPlocha(2)", "txtObjAkum(2)", "txtVyskaVzduti(2)", "txtDobaPrazdneni(2)"});
                 event([this] { swale(0.1L); });
                 if (site_.soil_option == 1) {
                     event([this] { swale(0.2L); });
                 }
                 break;
-            case kSwaleTrench:
+            case FacilityType::SwaleTrench:
                 clear({"txtVsakPlocha(3)", "txtObjAkum(3)", "txtDelkaRyhy(3)", "txtHloubkaPrulehu(3)",
                        "txtSirkaPrulehu(3)", "txtDobaPrazdneni(3)"});
                 event([this] { combined(); });
                 break;
-            case kTrench:
+            case FacilityType::Trench:
                 clear({"txtVsakPlocha(4)", "txtObjAkum(4)", "txtDelkaRyhy(4)"});
                 event([this] { trench(); });
                 break;
-            case kShaft:
+            case FacilityType::Shaft:
                 clear({"txtVsakPlocha(5)", "txtVyskaVzduti(5)", "txtHloubkaSachty", "txtPotrHloubkaZahl",
                        "txtObjAkum(5)", "txtSoucFiltrPruleh(5)"});
                 shaft();
                 break;
-            case kTank:
+            case FacilityType::Tank:
                 clear({"txtVsakTok", "txtObjAkum(6)", "txtVypObjNadrz"});
                 event([this] { tank(); });
                 break;
-            case kNoType:
+            case FacilityType::None:
                 break;
         }
         return outcome_;
@@ -149,7 +149,7 @@ class Design {
     /// The confirmation of a sub-panel; false when its box is ticked no more.
     bool confirmDrain(InfiltrationType type) {
         const Exact count = site_.pipe_count;
-        if (type == kSwaleTrench) {
+        if (type == FacilityType::SwaleTrench) {
             throttled_ = store(area_ / 10000 * site_.throttled_l_s_ha / 1000);
             if (throttled_ == 0) {
                 return false;
@@ -162,7 +162,8 @@ class Design {
             divide(((divide(inner * inner * count, porosity_) - outer * outer * count) * kPi / 4 + section) *
                        porosity_,
                    section));
-        return type == kSwaleTrench ? storage_ != 0 : site_.inner_pipe_mm != 0 && site_.outer_pipe_mm != 0;
+        return type == FacilityType::SwaleTrench ? storage_ != 0
+                                                 : site_.inner_pipe_mm != 0 && site_.outer_pipe_mm != 0;
     }
 
     /// Ticks the box, fills the sub-panel, confirms; an error leaves the box ticked.
@@ -187,7 +188,7 @@ class Design {
                 infiltration_area = writeBack("txtVsakPlocha(3)", store(0.2L * area_), 1);
             }
         }
-        const bool drained = openDrain(kSwaleTrench);
+        const bool drained = openDrain(FacilityType::SwaleTrench);
         const Exact kf_swale = site_.swale_filtration_m_s;
         if (refuses(lines({{kf_swale <= 0, "Součinitel filtrace průlehu je menší nebo rovna nule."},
                            {f_ <= 0, "Součinitel bezpečnosti je menší nebo roven nule."},
@@ -236,7 +237,7 @@ class Design {
     }
 
     void trench() {
-        const bool drained = openDrain(kTrench);
+        const bool drained = openDrain(FacilityType::Trench);
         if (refuses(lines({{height_ <= 0, "Výška rýhy je menší nebo rovna nule."},
                            {width_ <= 0, "Šířka rýhy je menší nebo rovna nule."},
                            {porosity_ <= 0, "Pórovitost výplně je menší nebo rovna nule."}}))) {

@@ -13,14 +13,14 @@ class DrainPanels : public DesignTest {
   protected:
     void combined() {
         project.site("500", "1e-5");
-        project.choose(kSwaleTrench);
-        project.set(window.txtSoucFiltrPruleh[kSwaleTrench], "1e-4");
-        section(kSwaleTrench, "0.5", "0.5");
+        project.choose(FacilityType::SwaleTrench);
+        project.set(window.txtSoucFiltrPruleh[FacilityType::SwaleTrench], "1e-4");
+        section(FacilityType::SwaleTrench, "0.5", "0.5");
     }
     void trench() {
         project.site("500", "1e-5");
-        project.choose(kTrench);
-        section(kTrench, "1", "1.5");
+        project.choose(FacilityType::Trench);
+        section(FacilityType::Trench, "1", "1.5");
     }
     void section(int type, const std::string& width, const std::string& height) {
         project.set(window.txtSirkaRyhy[type], width);
@@ -35,46 +35,46 @@ class DrainPanels : public DesignTest {
 
 TEST_F(DrainPanels, TickingOpensAtItsOwnHeightAndEditingAtOne) {
     combined();
-    EXPECT_FALSE(window.cmdEdit[kSwaleTrench].enabled());
-    project.click(window.chkSelPretok[kSwaleTrench]);
-    EXPECT_TRUE(panelShown(kSwaleTrench));
-    EXPECT_EQ(window.picPretokSkrOdtok[kSwaleTrench].left(), 0);
-    EXPECT_EQ(window.picPretokSkrOdtok[kSwaleTrench].top(), 3000);
-    EXPECT_TRUE(window.cmdEdit[kSwaleTrench].enabled());
+    EXPECT_FALSE(window.cmdEdit[FacilityType::SwaleTrench].enabled());
+    project.click(window.chkSelPretok[FacilityType::SwaleTrench]);
+    EXPECT_TRUE(panelShown(FacilityType::SwaleTrench));
+    EXPECT_EQ(window.picPretokSkrOdtok[FacilityType::SwaleTrench].left(), 0);
+    EXPECT_EQ(window.picPretokSkrOdtok[FacilityType::SwaleTrench].top(), 3000);
+    EXPECT_TRUE(window.cmdEdit[FacilityType::SwaleTrench].enabled());
 
     trench();
-    EXPECT_FALSE(window.cmdEdit[kTrench].enabled());
-    project.click(window.chkSelPretok[kTrench]);
-    EXPECT_EQ(window.picPretokSkrOdtok[kTrench].left(), 0);
-    EXPECT_EQ(window.picPretokSkrOdtok[kTrench].top(), 2000);
-    pipe(kTrench, "200", "220");
-    project.click(window.cmdOK[kTrench]);
-    EXPECT_FALSE(panelShown(kTrench));
-    project.click(window.cmdEdit[kTrench]);
-    EXPECT_TRUE(panelShown(kTrench));
-    EXPECT_EQ(window.picPretokSkrOdtok[kTrench].left(), 0);
-    EXPECT_EQ(window.picPretokSkrOdtok[kTrench].top(), 3000);
+    EXPECT_FALSE(window.cmdEdit[FacilityType::Trench].enabled());
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    EXPECT_EQ(window.picPretokSkrOdtok[FacilityType::Trench].left(), 0);
+    EXPECT_EQ(window.picPretokSkrOdtok[FacilityType::Trench].top(), 2000);
+    pipe(FacilityType::Trench, "200", "220");
+    project.click(window.cmdOK[FacilityType::Trench]);
+    EXPECT_FALSE(panelShown(FacilityType::Trench));
+    project.click(window.cmdEdit[FacilityType::Trench]);
+    EXPECT_TRUE(panelShown(FacilityType::Trench));
+    EXPECT_EQ(window.picPretokSkrOdtok[FacilityType::Trench].left(), 0);
+    EXPECT_EQ(window.picPretokSkrOdtok[FacilityType::Trench].top(), 3000);
 }
 
 TEST_F(DrainPanels, UntickingHidesAndClearsTheResults) {
     trench();
     project.calculate();
-    ASSERT_EQ(window.txtDelkaRyhy[kTrench].text(), "25.9");
-    project.click(window.chkSelPretok[kTrench]);
-    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "");
-    EXPECT_EQ(window.txtObjAkum[kTrench].text(), "");
-    EXPECT_EQ(window.txtVsakPlocha[kTrench].text(), "");
-    pipe(kTrench, "200", "220");
-    project.click(window.cmdOK[kTrench]);
+    ASSERT_EQ(window.txtDelkaRyhy[FacilityType::Trench].text(), "25.9");
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    EXPECT_EQ(window.txtDelkaRyhy[FacilityType::Trench].text(), "");
+    EXPECT_EQ(window.txtObjAkum[FacilityType::Trench].text(), "");
+    EXPECT_EQ(window.txtVsakPlocha[FacilityType::Trench].text(), "");
+    pipe(FacilityType::Trench, "200", "220");
+    project.click(window.cmdOK[FacilityType::Trench]);
     project.calculate();
-    ASSERT_EQ(window.txtDelkaRyhy[kTrench].text(), "25.1");
-    project.click(window.chkSelPretok[kTrench]);
-    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "");
-    EXPECT_FALSE(panelShown(kTrench));
-    EXPECT_FALSE(window.cmdEdit[kTrench].enabled());
+    ASSERT_EQ(window.txtDelkaRyhy[FacilityType::Trench].text(), "25.1");
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    EXPECT_EQ(window.txtDelkaRyhy[FacilityType::Trench].text(), "");
+    EXPECT_FALSE(panelShown(FacilityType::Trench));
+    EXPECT_FALSE(window.cmdEdit[FacilityType::Trench].enabled());
     // Without the box the porosity is in force again.
     project.calculate();
-    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "25.9");
+    EXPECT_EQ(window.txtDelkaRyhy[FacilityType::Trench].text(), "25.9");
     EXPECT_EQ(values.s_RR, 0.35F);
 }
 
@@ -82,38 +82,38 @@ TEST_F(DrainPanels, ThrottledOutflowShortensTheTrench) {
     combined();
     project.calculate();
     project.messages();
-    project.click(window.chkSelPretok[kSwaleTrench]);
-    pipe(kSwaleTrench, "200", "220");
-    project.set(window.txtSpecDrenOdtok[kSwaleTrench], "3");
-    project.click(window.cmdOK[kSwaleTrench]);
-    EXPECT_FALSE(panelShown(kSwaleTrench));
+    project.click(window.chkSelPretok[FacilityType::SwaleTrench]);
+    pipe(FacilityType::SwaleTrench, "200", "220");
+    project.set(window.txtSpecDrenOdtok[FacilityType::SwaleTrench], "3");
+    project.click(window.cmdOK[FacilityType::SwaleTrench]);
+    EXPECT_FALSE(panelShown(FacilityType::SwaleTrench));
     // The confirmation clears the results and sizes the area again.
-    EXPECT_EQ(window.txtObjAkum[kSwaleTrench].text(), "");
-    EXPECT_EQ(window.txtVsakPlocha[kSwaleTrench].text(), "50.0");
+    EXPECT_EQ(window.txtObjAkum[FacilityType::SwaleTrench].text(), "");
+    EXPECT_EQ(window.txtVsakPlocha[FacilityType::SwaleTrench].text(), "50.0");
     EXPECT_EQ(values.Q_dr, 0.00015F);
     EXPECT_EQ(values.s_RR, 0.42244512F);
     project.calculate();
-    EXPECT_EQ(window.txtDelkaRyhy[kSwaleTrench].text(), "65.3");
-    EXPECT_EQ(window.txtHloubkaPrulehu[kSwaleTrench].text(), "0.21");
-    EXPECT_EQ(window.txtDobaPrazdneni[kSwaleTrench].text(), "1.2");
+    EXPECT_EQ(window.txtDelkaRyhy[FacilityType::SwaleTrench].text(), "65.3");
+    EXPECT_EQ(window.txtHloubkaPrulehu[FacilityType::SwaleTrench].text(), "0.21");
+    EXPECT_EQ(window.txtDobaPrazdneni[FacilityType::SwaleTrench].text(), "1.2");
     EXPECT_THAT(project.messages(),
                 ElementsAre(information("Navržená vsakovací plocha je dostatečná ( 32.63 < 50.00 ).")));
     // Unticked, there is neither outflow nor pipe.
-    project.click(window.chkSelPretok[kSwaleTrench]);
+    project.click(window.chkSelPretok[FacilityType::SwaleTrench]);
     project.calculate();
     EXPECT_EQ(values.Q_dr, 0.0F);
     EXPECT_EQ(values.s_RR, 0.35F);
-    EXPECT_EQ(window.txtDelkaRyhy[kSwaleTrench].text(), "85.9");
+    EXPECT_EQ(window.txtDelkaRyhy[FacilityType::SwaleTrench].text(), "85.9");
 }
 
 TEST_F(DrainPanels, OverflowWithoutOutflowIsRefused) {
     combined();
-    project.click(window.chkSelPretok[kSwaleTrench]);
-    pipe(kSwaleTrench, "200", "220");
-    project.click(window.cmdOK[kSwaleTrench]);
-    EXPECT_FALSE(window.chkSelPretok[kSwaleTrench].checked());
-    EXPECT_FALSE(panelShown(kSwaleTrench));
-    EXPECT_FALSE(window.cmdEdit[kSwaleTrench].enabled());
+    project.click(window.chkSelPretok[FacilityType::SwaleTrench]);
+    pipe(FacilityType::SwaleTrench, "200", "220");
+    project.click(window.cmdOK[FacilityType::SwaleTrench]);
+    EXPECT_FALSE(window.chkSelPretok[FacilityType::SwaleTrench].checked());
+    EXPECT_FALSE(panelShown(FacilityType::SwaleTrench));
+    EXPECT_FALSE(window.cmdEdit[FacilityType::SwaleTrench].enabled());
     EXPECT_EQ(values.Q_dr, 0.0F);
     // It stopped before the pipe was looked at.
     EXPECT_EQ(values.s_RR, 0.0F);
@@ -122,51 +122,51 @@ TEST_F(DrainPanels, OverflowWithoutOutflowIsRefused) {
 TEST_F(DrainPanels, OverflowNeedsNoPipe) {
     // Without diameters the coefficient is the porosity, which is not 0: accepted.
     combined();
-    project.click(window.chkSelPretok[kSwaleTrench]);
-    project.set(window.txtSpecDrenOdtok[kSwaleTrench], "3");
-    project.click(window.cmdOK[kSwaleTrench]);
-    EXPECT_TRUE(window.chkSelPretok[kSwaleTrench].checked());
-    EXPECT_FALSE(panelShown(kSwaleTrench));
+    project.click(window.chkSelPretok[FacilityType::SwaleTrench]);
+    project.set(window.txtSpecDrenOdtok[FacilityType::SwaleTrench], "3");
+    project.click(window.cmdOK[FacilityType::SwaleTrench]);
+    EXPECT_TRUE(window.chkSelPretok[FacilityType::SwaleTrench].checked());
+    EXPECT_FALSE(panelShown(FacilityType::SwaleTrench));
     EXPECT_EQ(values.s_RR, 0.35F);
     project.calculate();
-    EXPECT_EQ(window.txtDelkaRyhy[kSwaleTrench].text(), "75.1");
+    EXPECT_EQ(window.txtDelkaRyhy[FacilityType::SwaleTrench].text(), "75.1");
 }
 
 TEST_F(DrainPanels, DrainNeedsBothDiametersButKeepsTheCoefficient) {
     trench();
-    project.click(window.chkSelPretok[kTrench]);
-    pipe(kTrench, "200", "");
-    project.click(window.cmdOK[kTrench]);
-    EXPECT_FALSE(window.chkSelPretok[kTrench].checked());
-    EXPECT_FALSE(panelShown(kTrench));
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    pipe(FacilityType::Trench, "200", "");
+    project.click(window.cmdOK[FacilityType::Trench]);
+    EXPECT_FALSE(window.chkSelPretok[FacilityType::Trench].checked());
+    EXPECT_FALSE(panelShown(FacilityType::Trench));
     // ((0.2^2 / 0.35) pi/4 + 1.5) 0.35 / 1.5 = 0.370944
     EXPECT_EQ(values.s_RR, 0.37094393F);
 
-    project.click(window.chkSelPretok[kTrench]);
-    pipe(kTrench, "", "220");
-    project.click(window.cmdOK[kTrench]);
-    EXPECT_FALSE(window.chkSelPretok[kTrench].checked());
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    pipe(FacilityType::Trench, "", "220");
+    project.click(window.cmdOK[FacilityType::Trench]);
+    EXPECT_FALSE(window.chkSelPretok[FacilityType::Trench].checked());
     // (-(0.22^2) pi/4 + 1.5) 0.35 / 1.5 = 0.341130
     EXPECT_EQ(values.s_RR, 0.34113023F);
 }
 
 TEST_F(DrainPanels, CoefficientIsThatOfTheConfirmation) {
     trench();
-    project.click(window.chkSelPretok[kTrench]);
-    pipe(kTrench, "200", "220");
-    project.set(window.txtPocetPotrubi[kTrench], "2");
-    project.click(window.cmdOK[kTrench]);
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    pipe(FacilityType::Trench, "200", "220");
+    project.set(window.txtPocetPotrubi[FacilityType::Trench], "2");
+    project.click(window.cmdOK[FacilityType::Trench]);
     const float confirmed = values.s_RR;
     EXPECT_EQ(confirmed, 0.37414837F);
-    project.set(window.txtSirkaRyhy[kTrench], "2");
+    project.set(window.txtSirkaRyhy[FacilityType::Trench], "2");
     project.calculate();
     EXPECT_EQ(values.s_RR, confirmed);
 }
 
 TEST_F(DrainPanels, PipeCountReportsWhatItCannotRead) {
     trench();
-    project.click(window.chkSelPretok[kTrench]);
-    platform::TextBox& count = window.txtPocetPotrubi[kTrench];
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    platform::TextBox& count = window.txtPocetPotrubi[FacilityType::Trench];
     project.clear(count);
     EXPECT_THAT(project.errors(), ElementsAre(13));
     EXPECT_EQ(count.text(), "");
@@ -184,9 +184,9 @@ TEST_F(DrainPanels, PipeCountReportsWhatItCannotRead) {
 TEST_F(DrainPanels, OtherMembersDoNothing) {
     trench();
     project.calculate();
-    window.cmdOK_Click(kShaft);
-    window.cmdOK_Click(kSwale);
-    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "25.9");
+    window.cmdOK_Click(FacilityType::Shaft);
+    window.cmdOK_Click(FacilityType::Swale);
+    EXPECT_EQ(window.txtDelkaRyhy[FacilityType::Trench].text(), "25.9");
     EXPECT_EQ(values.s_RR, 0.35F);
 }
 

@@ -13,7 +13,7 @@ class InputChecks : public DesignTest {
   protected:
     /// A round shaft that passes all checks.
     void shaft() {
-        project.choose(kShaft);
+        project.choose(FacilityType::Shaft);
         project.click(window.optSelTypSachty[0]);
         project.set(window.txtPrumerSachtyVnit, "1");
         project.set(window.txtTloustkaSteny, "0.1");
@@ -30,9 +30,9 @@ class InputChecks : public DesignTest {
 };
 
 TEST_F(InputChecks, CombinedTellsAllFive) {
-    project.choose(kSwaleTrench);
-    project.set(window.txtSoucBezp[kSwaleTrench], "0");
-    project.set(window.txtPorVyplne[kSwaleTrench], "-0.1");
+    project.choose(FacilityType::SwaleTrench);
+    project.set(window.txtSoucBezp[FacilityType::SwaleTrench], "0");
+    project.set(window.txtPorVyplne[FacilityType::SwaleTrench], "-0.1");
     project.calculate();
     EXPECT_THAT(project.messages(),
                 ElementsAre(critical("Součinitel filtrace průlehu je menší nebo rovna nule.\r\n"
@@ -40,27 +40,27 @@ TEST_F(InputChecks, CombinedTellsAllFive) {
                                      "Pórovitost výplně je menší nebo rovna nule.\r\n"
                                      "Výška rýhy je menší nebo rovna nule.\r\n"
                                      "Šířka rýhy je menší nebo rovna nule.\r\n")));
-    EXPECT_EQ(window.txtObjAkum[kSwaleTrench].text(), "");
+    EXPECT_EQ(window.txtObjAkum[FacilityType::SwaleTrench].text(), "");
 }
 
 TEST_F(InputChecks, CombinedTellsOneAlone) {
-    project.choose(kSwaleTrench);
-    project.set(window.txtSoucFiltrPruleh[kSwaleTrench], "1e-4");
-    project.set(window.txtVyskaRyhy[kSwaleTrench], "1");
-    project.set(window.txtSirkaRyhy[kSwaleTrench], "-1");
+    project.choose(FacilityType::SwaleTrench);
+    project.set(window.txtSoucFiltrPruleh[FacilityType::SwaleTrench], "1e-4");
+    project.set(window.txtVyskaRyhy[FacilityType::SwaleTrench], "1");
+    project.set(window.txtSirkaRyhy[FacilityType::SwaleTrench], "-1");
     project.calculate();
     EXPECT_THAT(project.messages(), ElementsAre(critical("Šířka rýhy je menší nebo rovna nule.\r\n")));
 }
 
 TEST_F(InputChecks, TrenchTellsHeightThenPorosity) {
-    project.choose(kTrench);
-    project.set(window.txtVyskaRyhy[kTrench], "0");
-    project.set(window.txtSirkaRyhy[kTrench], "1");
-    project.set(window.txtPorVyplne[kTrench], "-1");
+    project.choose(FacilityType::Trench);
+    project.set(window.txtVyskaRyhy[FacilityType::Trench], "0");
+    project.set(window.txtSirkaRyhy[FacilityType::Trench], "1");
+    project.set(window.txtPorVyplne[FacilityType::Trench], "-1");
     project.calculate();
     EXPECT_THAT(project.messages(), ElementsAre(critical("Výška rýhy je menší nebo rovna nule.\r\n"
                                                          "Pórovitost výplně je menší nebo rovna nule.\r\n")));
-    project.clear(window.txtSirkaRyhy[kTrench]);
+    project.clear(window.txtSirkaRyhy[FacilityType::Trench]);
     project.calculate();
     EXPECT_THAT(project.messages(), ElementsAre(critical("Výška rýhy je menší nebo rovna nule.\r\n"
                                                          "Šířka rýhy je menší nebo rovna nule.\r\n"
@@ -69,19 +69,19 @@ TEST_F(InputChecks, TrenchTellsHeightThenPorosity) {
 
 TEST_F(InputChecks, TrenchDoesNotCheckTheSafetyFactor) {
     project.site("500", "1e-5");
-    project.choose(kTrench);
-    project.set(window.txtVyskaRyhy[kTrench], "1.5");
-    project.set(window.txtSirkaRyhy[kTrench], "1");
-    project.set(window.txtSoucBezp[kTrench], "-1");
+    project.choose(FacilityType::Trench);
+    project.set(window.txtVyskaRyhy[FacilityType::Trench], "1.5");
+    project.set(window.txtSirkaRyhy[FacilityType::Trench], "1");
+    project.set(window.txtSoucBezp[FacilityType::Trench], "-1");
     project.calculate();
     EXPECT_THAT(project.messages(), IsEmpty());
     EXPECT_THAT(project.errors(), IsEmpty());
 }
 
 TEST_F(InputChecks, ShaftTellsAllSeven) {
-    project.choose(kShaft);
+    project.choose(FacilityType::Shaft);
     project.click(window.optSelTypPudy5[1]);
-    project.clear(window.txtSoucBezp[kShaft]);
+    project.clear(window.txtSoucBezp[FacilityType::Shaft]);
     project.clear(window.txtMinPrusakDraha);
     project.calculate();
     EXPECT_THAT(project.messages(),
@@ -112,8 +112,8 @@ TEST_F(InputChecks, ShaftWithoutWallIsToldAlone) {
     project.calculate();
     EXPECT_THAT(project.messages(),
                 ElementsAre(critical("Vnější průměr šachty je menší než vnitřní průměr.")));
-    EXPECT_EQ(window.txtVyskaVzduti[kShaft].text(), "");
-    EXPECT_EQ(window.txtObjAkum[kShaft].text(), "");
+    EXPECT_EQ(window.txtVyskaVzduti[FacilityType::Shaft].text(), "");
+    EXPECT_EQ(window.txtObjAkum[FacilityType::Shaft].text(), "");
 
     project.set(window.txtTloustkaSteny, "-0.1");
     project.calculate();
@@ -163,26 +163,26 @@ TEST_F(InputChecks, ResultsStayWhenACheckFails) {
     tank();
     project.calculate();
     project.messages();
-    const std::string required = window.txtObjAkum[kTank].text();
+    const std::string required = window.txtObjAkum[FacilityType::Tank].text();
     ASSERT_EQ(required, "113.40");
     const std::string picked = project.pickedRain();
     project.set(window.txtHloubkaNadrz, "0");
     project.calculate();
     EXPECT_EQ(project.messages().size(), 1U);
-    EXPECT_EQ(window.txtObjAkum[kTank].text(), required);
+    EXPECT_EQ(window.txtObjAkum[FacilityType::Tank].text(), required);
     EXPECT_EQ(window.txtVypObjNadrz.text(), "200.00");
     EXPECT_EQ(project.pickedRain(), picked);
 }
 
 TEST_F(InputChecks, TypesComputedWhileTypingHaveNothingToPress) {
     project.site("500", "1e-5", kStorm, 3);
-    project.choose(kSurface);
-    EXPECT_FALSE(window.cmdCalcul[kSurface].onScreen());
-    project.choose(kSwale);
-    EXPECT_FALSE(window.cmdCalcul[kSwale].onScreen());
+    project.choose(FacilityType::Surface);
+    EXPECT_FALSE(window.cmdCalcul[FacilityType::Surface].onScreen());
+    project.choose(FacilityType::Swale);
+    EXPECT_FALSE(window.cmdCalcul[FacilityType::Swale].onScreen());
     // The command does nothing for them, whoever calls it.
-    window.cmdCalcul_Click(kSwale);
-    window.cmdCalcul_Click(kNoType);
+    window.cmdCalcul_Click(FacilityType::Swale);
+    window.cmdCalcul_Click(FacilityType::None);
     window.cmdCalcul_Click(7);
     EXPECT_THAT(project.messages(), IsEmpty());
 }

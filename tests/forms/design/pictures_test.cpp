@@ -34,7 +34,7 @@ class Pictures : public DesignTest {
         return texts;
     }
     void shaft() {
-        project.choose(kShaft);
+        project.choose(FacilityType::Shaft);
         project.click(window.optSelTypSachty[0]);
         project.set(window.txtPrumerSachtyVnit, "1");
         project.set(window.txtTloustkaSteny, "0.1");
@@ -51,88 +51,94 @@ class Pictures : public DesignTest {
         project.set(window.txtSklonSvahuNadrz, "2");
     }
     void combined() {
-        project.choose(kSwaleTrench);
-        project.set(window.txtSoucFiltrPruleh[kSwaleTrench], "1e-4");
-        project.set(window.txtSirkaRyhy[kSwaleTrench], "0.5");
-        project.set(window.txtVyskaRyhy[kSwaleTrench], "0.5");
+        project.choose(FacilityType::SwaleTrench);
+        project.set(window.txtSoucFiltrPruleh[FacilityType::SwaleTrench], "1e-4");
+        project.set(window.txtSirkaRyhy[FacilityType::SwaleTrench], "0.5");
+        project.set(window.txtVyskaRyhy[FacilityType::SwaleTrench], "0.5");
     }
     void trench() {
-        project.choose(kTrench);
-        project.set(window.txtSirkaRyhy[kTrench], "1");
-        project.set(window.txtVyskaRyhy[kTrench], "1.5");
+        project.choose(FacilityType::Trench);
+        project.set(window.txtSirkaRyhy[FacilityType::Trench], "1");
+        project.set(window.txtVyskaRyhy[FacilityType::Trench], "1.5");
     }
 };
 
 TEST_F(Pictures, SurfaceMarksTheRainThatTheUserPicked) {
     project.site("1000", "1e-4", kStorm, 3);
-    project.choose(kSurface);
-    EXPECT_EQ(markedRain(kSurface), "15 min");
-    EXPECT_EQ(balanceChart(window, kSurface).marked_text, window.txtVsakPlocha[kSurface].text() + " m²");
+    project.choose(FacilityType::Surface);
+    EXPECT_EQ(markedRain(FacilityType::Surface), "15 min");
+    EXPECT_EQ(balanceChart(window, FacilityType::Surface).marked_text,
+              window.txtVsakPlocha[FacilityType::Surface].text() + " m²");
 }
 
 TEST_F(Pictures, SwaleMarksItsCriticalRain) {
     project.site("500", "1e-5");
-    project.choose(kSwale);
+    project.choose(FacilityType::Swale);
     project.click(window.optSelTypPudy2[0]);
-    EXPECT_EQ(markedRain(kSwale), numbers::general(values.VybranaDoba) + " min");
-    EXPECT_EQ(balanceChart(window, kSwale).marked_text, window.txtObjAkum[kSwale].text() + " m³");
-    EXPECT_THAT(dimensions(kSwale), Contains("vzdutí " + window.txtVyskaVzduti[kSwale].text() + " m"));
+    EXPECT_EQ(markedRain(FacilityType::Swale), numbers::general(values.VybranaDoba) + " min");
+    EXPECT_EQ(balanceChart(window, FacilityType::Swale).marked_text,
+              window.txtObjAkum[FacilityType::Swale].text() + " m³");
+    EXPECT_THAT(dimensions(FacilityType::Swale),
+                Contains("vzdutí " + window.txtVyskaVzduti[FacilityType::Swale].text() + " m"));
 }
 
 TEST_F(Pictures, CombinedObjectMarksTheRainOfItsTrench) {
     project.site("500", "1e-5");
     combined();
-    EXPECT_EQ(facilitySection(window, kSwaleTrench).hint, "Řez se nakreslí po výpočtu.");
-    EXPECT_EQ(balanceChart(window, kSwaleTrench).hint, "Bilance dešťů se nakreslí po výpočtu.");
+    EXPECT_EQ(facilitySection(window, FacilityType::SwaleTrench).hint, "Řez se nakreslí po výpočtu.");
+    EXPECT_EQ(balanceChart(window, FacilityType::SwaleTrench).hint, "Bilance dešťů se nakreslí po výpočtu.");
     project.calculate();
-    EXPECT_EQ(markedRain(kSwaleTrench), "120 min");
-    EXPECT_EQ(balanceChart(window, kSwaleTrench).marked_text, "85.9 m");
-    EXPECT_THAT(dimensions(kSwaleTrench),
+    EXPECT_EQ(markedRain(FacilityType::SwaleTrench), "120 min");
+    EXPECT_EQ(balanceChart(window, FacilityType::SwaleTrench).marked_text, "85.9 m");
+    EXPECT_THAT(dimensions(FacilityType::SwaleTrench),
                 ::testing::ElementsAre("průleh 0.16 m", "výška rýhy 0.5 m", "šířka 0.5 m"));
 }
 
 TEST_F(Pictures, CombinedObjectMarksTheRainOfItsSwaleWhenTheOutflowTakesTheRest) {
     project.site("500", "1e-5");
     combined();
-    project.click(window.chkSelPretok[kSwaleTrench]);
-    project.set(window.txtPrumTroubVnej[kSwaleTrench], "100");
-    project.set(window.txtPrumTroubVnit[kSwaleTrench], "80");
-    project.set(window.txtSpecDrenOdtok[kSwaleTrench], "1000");
-    project.click(window.cmdOK[kSwaleTrench]);
+    project.click(window.chkSelPretok[FacilityType::SwaleTrench]);
+    project.set(window.txtPrumTroubVnej[FacilityType::SwaleTrench], "100");
+    project.set(window.txtPrumTroubVnit[FacilityType::SwaleTrench], "80");
+    project.set(window.txtSpecDrenOdtok[FacilityType::SwaleTrench], "1000");
+    project.click(window.cmdOK[FacilityType::SwaleTrench]);
     project.calculate();
-    ASSERT_EQ(window.txtDelkaRyhy[kSwaleTrench].text(), "0.0");
-    EXPECT_EQ(markedRain(kSwaleTrench), numbers::general(values.VybranaDoba) + " min");
-    EXPECT_EQ(balanceChart(window, kSwaleTrench).marked_text, window.txtObjAkum[kSwaleTrench].text() + " m³");
-    EXPECT_FALSE(facilitySection(window, kSwaleTrench).drawable()) << "there is no trench to draw";
+    ASSERT_EQ(window.txtDelkaRyhy[FacilityType::SwaleTrench].text(), "0.0");
+    EXPECT_EQ(markedRain(FacilityType::SwaleTrench), numbers::general(values.VybranaDoba) + " min");
+    EXPECT_EQ(balanceChart(window, FacilityType::SwaleTrench).marked_text,
+              window.txtObjAkum[FacilityType::SwaleTrench].text() + " m³");
+    EXPECT_FALSE(facilitySection(window, FacilityType::SwaleTrench).drawable())
+        << "there is no trench to draw";
 }
 
 TEST_F(Pictures, TrenchMarksItsCriticalRainWithAndWithoutADrain) {
     project.site("500", "1e-5");
     trench();
     project.calculate();
-    EXPECT_EQ(markedRain(kTrench), "120 min");
-    EXPECT_EQ(balanceChart(window, kTrench).marked_text, "25.9 m");
-    EXPECT_TRUE(facilitySection(window, kTrench).pipes.empty());
+    EXPECT_EQ(markedRain(FacilityType::Trench), "120 min");
+    EXPECT_EQ(balanceChart(window, FacilityType::Trench).marked_text, "25.9 m");
+    EXPECT_TRUE(facilitySection(window, FacilityType::Trench).pipes.empty());
 
-    project.click(window.chkSelPretok[kTrench]);
-    project.set(window.txtPrumTroubVnit[kTrench], "180");
-    project.set(window.txtPrumTroubVnej[kTrench], "200");
-    project.set(window.txtPocetPotrubi[kTrench], "2");
-    project.click(window.cmdOK[kTrench]);
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    project.set(window.txtPrumTroubVnit[FacilityType::Trench], "180");
+    project.set(window.txtPrumTroubVnej[FacilityType::Trench], "200");
+    project.set(window.txtPocetPotrubi[FacilityType::Trench], "2");
+    project.click(window.cmdOK[FacilityType::Trench]);
     project.calculate();
-    EXPECT_EQ(markedRain(kTrench), numbers::general(values.VybranaDoba) + " min");
-    EXPECT_EQ(facilitySection(window, kTrench).pipes.size(), 2U);
+    EXPECT_EQ(markedRain(FacilityType::Trench), numbers::general(values.VybranaDoba) + " min");
+    EXPECT_EQ(facilitySection(window, FacilityType::Trench).pipes.size(), 2U);
 }
 
 TEST_F(Pictures, ShaftMarksItsCriticalRain) {
     project.site("70", "1e-4");
     shaft();
     project.calculate();
-    EXPECT_EQ(markedRain(kShaft), "30 min");
-    EXPECT_EQ(balanceChart(window, kShaft).marked_text, "1.41 m");
-    EXPECT_THAT(dimensions(kShaft), ::testing::ElementsAre("přítok 1 m", "vzdutí 1.41 m", "filtr 0.5 m",
-                                                           "hloubka 2.91 m", "⌀ 1 m"));
-    EXPECT_EQ(facilitySection(window, kShaft).levels.at(0).text, "HPV ≥ 4.41 m");
+    EXPECT_EQ(markedRain(FacilityType::Shaft), "30 min");
+    EXPECT_EQ(balanceChart(window, FacilityType::Shaft).marked_text, "1.41 m");
+    EXPECT_THAT(
+        dimensions(FacilityType::Shaft),
+        ::testing::ElementsAre("přítok 1 m", "vzdutí 1.41 m", "filtr 0.5 m", "hloubka 2.91 m", "⌀ 1 m"));
+    EXPECT_EQ(facilitySection(window, FacilityType::Shaft).levels.at(0).text, "HPV ≥ 4.41 m");
 }
 
 TEST_F(Pictures, ShaftOfTypeBHasItsSand) {
@@ -141,7 +147,7 @@ TEST_F(Pictures, ShaftOfTypeBHasItsSand) {
     project.click(window.optSelTypPudy5[1]);
     project.set(window.txtVyskaPiskVrstvy, "0.3");
     project.calculate();
-    EXPECT_THAT(dimensions(kShaft), Contains("písek 0.3 m"));
+    EXPECT_THAT(dimensions(FacilityType::Shaft), Contains("písek 0.3 m"));
 }
 
 TEST_F(Pictures, ARectangularShaftHasItsOwnSides) {
@@ -152,8 +158,9 @@ TEST_F(Pictures, ARectangularShaftHasItsOwnSides) {
     project.set(window.txtPrumerSachtyVnej, "1.5");
     project.set(window.txtTloustkaSteny, "0.1");
     project.calculate();
-    EXPECT_THAT(facilitySection(window, kShaft).notes, Contains("šachta 1 × 1.5 m, stěna 0.1 m"));
-    EXPECT_EQ(markedRain(kShaft), numbers::general(values.VybranaDoba) + " min");
+    EXPECT_THAT(facilitySection(window, FacilityType::Shaft).notes,
+                Contains("šachta 1 × 1.5 m, stěna 0.1 m"));
+    EXPECT_EQ(markedRain(FacilityType::Shaft), numbers::general(values.VybranaDoba) + " min");
 }
 
 TEST_F(Pictures, TankMarksItsCriticalRainThoughItsFlowShowsTwoDecimals) {
@@ -161,28 +168,28 @@ TEST_F(Pictures, TankMarksItsCriticalRainThoughItsFlowShowsTwoDecimals) {
     tank();
     project.calculate();
     EXPECT_EQ(window.txtVsakTok.text(), "0.01") << "0.005 m3/s";
-    EXPECT_EQ(markedRain(kTank), "90 min");
-    EXPECT_EQ(balanceChart(window, kTank).marked_text, "113.40 m³");
-    EXPECT_THAT(dimensions(kTank), Contains("nahoře 14.00 m"));
+    EXPECT_EQ(markedRain(FacilityType::Tank), "90 min");
+    EXPECT_EQ(balanceChart(window, FacilityType::Tank).marked_text, "113.40 m³");
+    EXPECT_THAT(dimensions(FacilityType::Tank), Contains("nahoře 14.00 m"));
 }
 
 TEST_F(Pictures, ChangedInputsAreToldUntilTheNextCalculation) {
     project.site("500", "1e-5");
     trench();
     project.calculate();
-    project.set(window.txtSirkaRyhy[kTrench], "2");
-    EXPECT_EQ(balanceChart(window, kTrench).note, "vstupy se od výpočtu změnily");
-    EXPECT_THAT(dimensions(kTrench), Contains("šířka 2 m"));
+    project.set(window.txtSirkaRyhy[FacilityType::Trench], "2");
+    EXPECT_EQ(balanceChart(window, FacilityType::Trench).note, "vstupy se od výpočtu změnily");
+    EXPECT_THAT(dimensions(FacilityType::Trench), Contains("šířka 2 m"));
     project.calculate();
-    EXPECT_EQ(balanceChart(window, kTrench).note, "");
+    EXPECT_EQ(balanceChart(window, FacilityType::Trench).note, "");
 }
 
 TEST_F(Pictures, AResultThatIsNoNumberIsNone) {
     project.site("500", "1e-5");
     trench();
     project.calculate();
-    project.set(window.txtDelkaRyhy[kTrench], "abc");
-    EXPECT_EQ(facilitySection(window, kTrench).hint, "Řez se nakreslí po výpočtu.");
+    project.set(window.txtDelkaRyhy[FacilityType::Trench], "abc");
+    EXPECT_EQ(facilitySection(window, FacilityType::Trench).hint, "Řez se nakreslí po výpočtu.");
 }
 
 TEST_F(Pictures, TellTheGroundwaterOfTheSite) {
@@ -190,7 +197,8 @@ TEST_F(Pictures, TellTheGroundwaterOfTheSite) {
     project.site("500", "1e-5");
     trench();
     project.calculate();
-    EXPECT_THAT(facilitySection(window, kTrench).summary, HasSubstr("hladina podzemní vody 2.5 m"));
+    EXPECT_THAT(facilitySection(window, FacilityType::Trench).summary,
+                HasSubstr("hladina podzemní vody 2.5 m"));
 }
 
 TEST_F(Pictures, TheRainDialogTellsItsTableWhileItIsEdited) {

@@ -12,10 +12,10 @@ using ::testing::IsEmpty;
 class Rebuild : public DesignTest {
   protected:
     void expectPrompt() {
-        EXPECT_EQ(window.SelectedType, kNoType);
+        EXPECT_EQ(window.SelectedType, FacilityType::None);
         EXPECT_EQ(window.cboSelType.position(), 0);
         EXPECT_EQ(window.cboSelType.text(), "[Vyber typ zasakování]");
-        EXPECT_EQ(project.shownType(), kNoType);
+        EXPECT_EQ(project.shownType(), FacilityType::None);
         EXPECT_EQ(values.txtVsakPlocha, 0.0F);
     }
     void tank() {
@@ -32,7 +32,7 @@ class Rebuild : public DesignTest {
 
 TEST_F(Rebuild, KeystrokeInTheCoefficientHidesTheSwale) {
     project.site("500", "1e-5");
-    project.choose(kSwale);
+    project.choose(FacilityType::Swale);
     project.tab(kTabInputs);
     project.type(window.txtSoucFiltrace, "0");
     expectPrompt();
@@ -41,37 +41,37 @@ TEST_F(Rebuild, KeystrokeInTheCoefficientHidesTheSwale) {
 
 TEST_F(Rebuild, EmptiedCoefficientLeavesTheResults) {
     project.site("500", "1e-5");
-    project.choose(kSwale);
+    project.choose(FacilityType::Swale);
     project.tab(kTabInputs);
     project.clear(window.txtSoucFiltrace);
-    EXPECT_EQ(project.shownType(), kSwale);
-    EXPECT_EQ(window.txtObjAkum[kSwale].text(), "14.9");
+    EXPECT_EQ(project.shownType(), FacilityType::Swale);
+    EXPECT_EQ(window.txtObjAkum[FacilityType::Swale].text(), "14.9");
 }
 
 TEST_F(Rebuild, NewAreaHidesTheTrench) {
     project.site("500", "1e-5");
-    project.choose(kTrench);
-    project.set(window.txtSirkaRyhy[kTrench], "1");
-    project.set(window.txtVyskaRyhy[kTrench], "1.5");
+    project.choose(FacilityType::Trench);
+    project.set(window.txtSirkaRyhy[FacilityType::Trench], "1");
+    project.set(window.txtVyskaRyhy[FacilityType::Trench], "1.5");
     project.calculate();
     project.area("600");
     expectPrompt();
     // Chosen again, it has no results; the dimensions are still there.
-    project.choose(kTrench);
-    EXPECT_EQ(window.txtDelkaRyhy[kTrench].text(), "");
-    EXPECT_EQ(window.txtSirkaRyhy[kTrench].text(), "1");
+    project.choose(FacilityType::Trench);
+    EXPECT_EQ(window.txtDelkaRyhy[FacilityType::Trench].text(), "");
+    EXPECT_EQ(window.txtSirkaRyhy[FacilityType::Trench].text(), "1");
 }
 
 TEST_F(Rebuild, ConfirmedRainsHideTheCombinedObject) {
     project.site("500", "1e-5");
-    project.choose(kSwaleTrench);
+    project.choose(FacilityType::SwaleTrench);
     project.rains(kStorm);
     expectPrompt();
 }
 
 TEST_F(Rebuild, FacilityInputsLeaveTheResults) {
     project.site("70", "1e-4");
-    project.choose(kShaft);
+    project.choose(FacilityType::Shaft);
     project.click(window.optSelTypSachty[0]);
     project.set(window.txtPrumerSachtyVnit, "1");
     project.set(window.txtTloustkaSteny, "0.1");
@@ -80,21 +80,21 @@ TEST_F(Rebuild, FacilityInputsLeaveTheResults) {
     project.calculate();
     project.set(window.txtVyskaFiltrVrstvy, "0.7");
     project.set(window.txtPrumerSachtyVnit, "2");
-    EXPECT_EQ(window.txtVyskaVzduti[kShaft].text(), "1.41");
-    EXPECT_EQ(project.shownType(), kShaft);
+    EXPECT_EQ(window.txtVyskaVzduti[FacilityType::Shaft].text(), "1.41");
+    EXPECT_EQ(project.shownType(), FacilityType::Shaft);
     // The groundwater level is no reason either.
     project.tab(kTabInputs);
     project.set(window.txtHPV, "9");
-    EXPECT_EQ(project.shownType(), kShaft);
+    EXPECT_EQ(project.shownType(), FacilityType::Shaft);
 }
 
 TEST_F(Rebuild, TankIsShownAgainWithItsResults) {
     tank();
     project.area("6000");
-    EXPECT_EQ(window.SelectedType, kTank);
+    EXPECT_EQ(window.SelectedType, FacilityType::Tank);
     EXPECT_EQ(window.cboSelType.text(), "Vsakovací nádrže");
-    EXPECT_EQ(project.shownType(), kTank);
-    EXPECT_EQ(window.txtObjAkum[kTank].text(), "113.40");
+    EXPECT_EQ(project.shownType(), FacilityType::Tank);
+    EXPECT_EQ(window.txtObjAkum[FacilityType::Tank].text(), "113.40");
     EXPECT_THAT(project.messages(), IsEmpty());
 }
 
@@ -108,15 +108,15 @@ TEST_F(Rebuild, TankWithoutCoefficientIsGone) {
     EXPECT_THAT(project.messages(), ElementsAre(critical("Zadejte součinitel filtrace podloží")));
     EXPECT_EQ(window.SelectedType, 5);
     EXPECT_EQ(window.cboSelType.position(), -1);
-    EXPECT_EQ(project.shownType(), kNoType);
+    EXPECT_EQ(project.shownType(), FacilityType::None);
 }
 
 TEST_F(Rebuild, PanelsSharePlaceWithTheFirst) {
-    window.picResults[kSurface].moveTo(120, 600);
+    window.picResults[FacilityType::Surface].moveTo(120, 600);
     project.site("70", "1e-4");
-    project.choose(kShaft);
-    EXPECT_EQ(window.picResults[kShaft].left(), 120);
-    EXPECT_EQ(window.picResults[kShaft].top(), 600);
+    project.choose(FacilityType::Shaft);
+    EXPECT_EQ(window.picResults[FacilityType::Shaft].left(), 120);
+    EXPECT_EQ(window.picResults[FacilityType::Shaft].top(), 600);
 }
 
 TEST_F(Rebuild, ChoosingTheTankSelectsTheShaftVariantAgain) {
@@ -125,7 +125,7 @@ TEST_F(Rebuild, ChoosingTheTankSelectsTheShaftVariantAgain) {
     EXPECT_FALSE(window.optSelTypPudy5[0].selected());
     project.chooseTank();
     EXPECT_TRUE(window.optSelTypPudy5[0].selected());
-    EXPECT_EQ(window.SelectedType, kTank);
+    EXPECT_EQ(window.SelectedType, FacilityType::Tank);
 }
 
 }  // namespace

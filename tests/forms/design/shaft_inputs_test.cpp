@@ -12,7 +12,7 @@ using enum platform::UpDown::Direction;
 
 class ShaftInputs : public DesignTest {
   protected:
-    void SetUp() override { project.choose(kShaft); }
+    void SetUp() override { project.choose(FacilityType::Shaft); }
 
     void chooseRound() { project.click(window.optSelTypSachty[0]); }
     void chooseRectangular() { project.click(window.optSelTypSachty[1]); }
@@ -193,10 +193,10 @@ TEST_F(ShaftInputs, VariantEnablesTheSandLayer) {
     EXPECT_EQ(window.SoilVariant, 1);
     // The variable is shared: a swale that is chosen next has the second soil, and the shaft after it.
     project.site("500", "1e-5");
-    project.choose(kSwale);
+    project.choose(FacilityType::Swale);
     EXPECT_TRUE(window.optSelTypPudy2[1].selected());
     project.click(window.optSelTypPudy2[0]);
-    project.choose(kShaft);
+    project.choose(FacilityType::Shaft);
     EXPECT_TRUE(window.optSelTypPudy5[0].selected());
     EXPECT_FALSE(window.txtVyskaPiskVrstvy.enabled());
 }

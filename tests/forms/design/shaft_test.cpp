@@ -24,7 +24,7 @@ class Shaft : public DesignTest {
     /// A round shaft of type A, inlet at 1 m.
     void shaft(const std::string& inner, const std::string& wall, const std::string& filter = "0.5",
                const std::string& seepage_path = "2") {
-        project.choose(kShaft);
+        project.choose(FacilityType::Shaft);
         project.click(window.optSelTypSachty[0]);
         project.set(window.txtPrumerSachtyVnit, inner);
         project.set(window.txtTloustkaSteny, wall);
@@ -34,9 +34,12 @@ class Shaft : public DesignTest {
     }
     /// Level, area, depth, required depth, volume, permeability of the filter as shown.
     std::vector<std::string> shown() {
-        return {window.txtVyskaVzduti[kShaft].text(), window.txtVsakPlocha[kShaft].text(),
-                window.txtHloubkaSachty.text(),       window.txtPotrHloubkaZahl.text(),
-                window.txtObjAkum[kShaft].text(),     window.txtSoucFiltrPruleh[kShaft].text()};
+        return {window.txtVyskaVzduti[FacilityType::Shaft].text(),
+                window.txtVsakPlocha[FacilityType::Shaft].text(),
+                window.txtHloubkaSachty.text(),
+                window.txtPotrHloubkaZahl.text(),
+                window.txtObjAkum[FacilityType::Shaft].text(),
+                window.txtSoucFiltrPruleh[FacilityType::Shaft].text()};
     }
 };
 
@@ -112,7 +115,7 @@ TEST_F(Shaft, GroundwaterIsComparedWithTheDepthAsItIsShown) {
 
     project.tab(kTabInputs);
     project.set(window.txtHPV, "4.41");
-    project.choose(kShaft);
+    project.choose(FacilityType::Shaft);
     project.calculate();
     EXPECT_THAT(project.messages(), ElementsAre(kSufficient));
 }
@@ -126,7 +129,7 @@ TEST_F(Shaft, SignOfTheGroundwaterDoesNotMatter) {
 
     project.tab(kTabInputs);
     project.set(window.txtHPV, "-5");
-    project.choose(kShaft);
+    project.choose(FacilityType::Shaft);
     project.calculate();
     EXPECT_THAT(project.messages(), ElementsAre(kSufficient));
 }
@@ -138,7 +141,7 @@ TEST_F(Shaft, BottomIsTooCloseAlsoWithoutGroundwater) {
     project.calculate();
     EXPECT_EQ(values.txtHPV, 0.0F);
     EXPECT_THAT(project.messages(), ElementsAre(kBottom));
-    EXPECT_EQ(window.txtSoucFiltrPruleh[kShaft].text(), "4.8E-04");
+    EXPECT_EQ(window.txtSoucFiltrPruleh[FacilityType::Shaft].text(), "4.8E-04");
 }
 
 TEST_F(Shaft, GroundwaterStopsBeforeTheBottomIsLookedAt) {
@@ -158,7 +161,7 @@ TEST_F(Shaft, RoundedRequiredDepthDecidesAtTheLimit) {
     EXPECT_THAT(project.messages(), ElementsAre(kBottom));
     // Level 2.7282: 5.2282 m against 5.23 m.
     project.area("130");
-    project.choose(kShaft);
+    project.choose(FacilityType::Shaft);
     project.calculate();
     EXPECT_THAT(shown(), ElementsAre("2.73", "5.42", "4.73", "5.23", "0.04", "8.0E-04"));
     EXPECT_THAT(project.messages(), ElementsAre(kSufficient));
@@ -186,19 +189,19 @@ TEST_F(Shaft, WithoutDurationsTheAreaIsThatOfTheBottom) {
 
 TEST_F(Shaft, FilterCoefficientIsOverwrittenForTheCombinedObjectToo) {
     project.site("70", "1e-4");
-    project.choose(kSwaleTrench);
-    project.set(window.txtSoucFiltrPruleh[kSwaleTrench], "2e-5");
+    project.choose(FacilityType::SwaleTrench);
+    project.set(window.txtSoucFiltrPruleh[FacilityType::SwaleTrench], "2e-5");
     shaft("1", "0.1");
     project.calculate();
-    EXPECT_EQ(window.txtSoucFiltrPruleh[kSwaleTrench].text(), "2e-5");
+    EXPECT_EQ(window.txtSoucFiltrPruleh[FacilityType::SwaleTrench].text(), "2e-5");
     EXPECT_EQ(values.txtSoucFiltrPruleh, 4.8e-4F);
 }
 
 TEST_F(Shaft, SafetyFactorRunsTheBalanceButNotTheDesign) {
     project.site("70", "1e-4");
     shaft("1", "0.1");
-    project.set(window.txtSoucBezp[kShaft], "1");
-    project.set(window.txtSoucBezp[kShaft], "1.2");
+    project.set(window.txtSoucBezp[FacilityType::Shaft], "1");
+    project.set(window.txtSoucBezp[FacilityType::Shaft], "1.2");
     EXPECT_THAT(shown(), ElementsAre("1.41", "3.34", "2.91", "4.41", "", ""));
     EXPECT_THAT(project.messages(), IsEmpty());
 }

@@ -14,9 +14,9 @@ class Surface : public DesignTest {
     /// The rain of 15 min is picked.
     void compute(const std::string& area_m2, const std::string& coefficient, const std::string& intensity) {
         project.site(area_m2, coefficient, {{"15", intensity}}, 1);
-        project.choose(kSurface);
+        project.choose(FacilityType::Surface);
     }
-    [[nodiscard]] const std::string& shown() { return window.txtVsakPlocha[kSurface].text(); }
+    [[nodiscard]] const std::string& shown() { return window.txtVsakPlocha[FacilityType::Surface].text(); }
 };
 
 TEST_F(Surface, AreaIsStoredAsItIsShown) {
@@ -24,7 +24,7 @@ TEST_F(Surface, AreaIsStoredAsItIsShown) {
     compute("1000", "1e-4", "150");
     EXPECT_EQ(shown(), "428.6");
     EXPECT_EQ(values.txtVsakPlocha, 428.6F);
-    EXPECT_EQ(project.shownType(), kSurface);
+    EXPECT_EQ(project.shownType(), FacilityType::Surface);
     EXPECT_THAT(project.messages(), IsEmpty());
 }
 
@@ -43,16 +43,16 @@ TEST_F(Surface, GroupedAreaIsReadBack) {
 
 TEST_F(Surface, SafetyFactorComputesAgainButDoesNotMatter) {
     compute("1000", "1e-4", "150");
-    project.set(window.txtVsakPlocha[kSurface], "7");
-    project.set(window.txtSoucBezp[kSurface], "3");
+    project.set(window.txtVsakPlocha[FacilityType::Surface], "7");
+    project.set(window.txtSoucBezp[FacilityType::Surface], "3");
     EXPECT_EQ(shown(), "428.6");
     // Emptied: nothing is computed.
-    project.set(window.txtVsakPlocha[kSurface], "7");
-    project.clear(window.txtSoucBezp[kSurface]);
+    project.set(window.txtVsakPlocha[FacilityType::Surface], "7");
+    project.clear(window.txtSoucBezp[FacilityType::Surface]);
     EXPECT_EQ(shown(), "7");
     // Refused: the field is empty, zero is stored, and it is computed.
-    project.type(window.txtSoucBezp[kSurface], "x");
-    EXPECT_EQ(window.txtSoucBezp[kSurface].text(), "");
+    project.type(window.txtSoucBezp[FacilityType::Surface], "x");
+    EXPECT_EQ(window.txtSoucBezp[FacilityType::Surface].text(), "");
     EXPECT_EQ(values.txtSoucBezp, 0.0F);
     EXPECT_EQ(shown(), "428.6");
 }
@@ -60,11 +60,11 @@ TEST_F(Surface, SafetyFactorComputesAgainButDoesNotMatter) {
 TEST_F(Surface, WithoutRainGoesBackToThePrompt) {
     project.area("1000");
     project.filtration("1e-4");
-    project.choose(kSurface);
+    project.choose(FacilityType::Surface);
     EXPECT_THAT(project.messages(), ElementsAre(Message{"Intenzita návrhového deště není zadána",
                                                         MessageIcon::Exclamation, "Chyba"}));
-    EXPECT_EQ(project.shownType(), kNoType);
-    EXPECT_EQ(window.SelectedType, kNoType);
+    EXPECT_EQ(project.shownType(), FacilityType::None);
+    EXPECT_EQ(window.SelectedType, FacilityType::None);
     EXPECT_EQ(window.cboSelType.text(), "[Vyber typ zasakování]");
     EXPECT_TRUE(window.optSelType[0].selected());
     EXPECT_EQ(shown(), "0.0");
@@ -75,7 +75,7 @@ TEST_F(Surface, NegativeRainIsNoRain) {
     // It sums up to a table that is not empty, but nothing of it goes to the main window.
     compute("1000", "1e-4", "-150");
     EXPECT_EQ(project.messages().size(), 1U);
-    EXPECT_EQ(project.shownType(), kNoType);
+    EXPECT_EQ(project.shownType(), FacilityType::None);
 }
 
 }  // namespace

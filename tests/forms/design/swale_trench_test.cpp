@@ -12,16 +12,19 @@ using ::testing::IsEmpty;
 class Combined : public DesignTest {
   protected:
     void trench(const std::string& swale_coefficient, const std::string& width, const std::string& height) {
-        project.choose(kSwaleTrench);
-        project.set(window.txtSoucFiltrPruleh[kSwaleTrench], swale_coefficient);
-        project.set(window.txtSirkaRyhy[kSwaleTrench], width);
-        project.set(window.txtVyskaRyhy[kSwaleTrench], height);
+        project.choose(FacilityType::SwaleTrench);
+        project.set(window.txtSoucFiltrPruleh[FacilityType::SwaleTrench], swale_coefficient);
+        project.set(window.txtSirkaRyhy[FacilityType::SwaleTrench], width);
+        project.set(window.txtVyskaRyhy[FacilityType::SwaleTrench], height);
     }
     /// Area, volume, trench length, swale depth and width, emptying time as shown.
     std::vector<std::string> shown() {
-        return {window.txtVsakPlocha[kSwaleTrench].text(),   window.txtObjAkum[kSwaleTrench].text(),
-                window.txtDelkaRyhy[kSwaleTrench].text(),    window.txtHloubkaPrulehu[kSwaleTrench].text(),
-                window.txtSirkaPrulehu[kSwaleTrench].text(), window.txtDobaPrazdneni[kSwaleTrench].text()};
+        return {window.txtVsakPlocha[FacilityType::SwaleTrench].text(),
+                window.txtObjAkum[FacilityType::SwaleTrench].text(),
+                window.txtDelkaRyhy[FacilityType::SwaleTrench].text(),
+                window.txtHloubkaPrulehu[FacilityType::SwaleTrench].text(),
+                window.txtSirkaPrulehu[FacilityType::SwaleTrench].text(),
+                window.txtDobaPrazdneni[FacilityType::SwaleTrench].text()};
     }
 };
 
@@ -51,8 +54,8 @@ TEST_F(Combined, EqualAreaIsInsufficient) {
     project.area("200");
     project.rains({{"10", "500"}});
     trench("1", "1", "1");
-    project.set(window.txtPorVyplne[kSwaleTrench], "0.33");
-    project.set(window.txtSoucBezp[kSwaleTrench], "1");
+    project.set(window.txtPorVyplne[FacilityType::SwaleTrench], "0.33");
+    project.set(window.txtSoucBezp[FacilityType::SwaleTrench], "1");
     project.calculate();
     EXPECT_EQ(values.txtDelkaRyhy, 20.0F);
     EXPECT_THAT(project.messages(),
@@ -74,7 +77,7 @@ TEST_F(Combined, CalculateTakesTheAreaAsItStands) {
     // An area typed by the user stays: the command designs, it does not size the area again.
     project.site("500", "1e-5");
     trench("1e-4", "0.5", "0.5");
-    project.set(window.txtVsakPlocha[kSwaleTrench], "77");
+    project.set(window.txtVsakPlocha[FacilityType::SwaleTrench], "77");
     project.calculate();
     EXPECT_THAT(shown(), ElementsAre("77", "5.8", "101.2", "0.11", "0.50", "0.6"));
     EXPECT_THAT(project.messages(),
@@ -96,7 +99,7 @@ TEST_F(Combined, NegativeAreaIsToldBesideTheVerdict) {
     // Only a soil that gives water back has a trench then; both boxes show, one after the other.
     project.site("500", "-0.1");
     trench("1e-4", "0.5", "0.5");
-    project.set(window.txtVsakPlocha[kSwaleTrench], "-1");
+    project.set(window.txtVsakPlocha[FacilityType::SwaleTrench], "-1");
     project.calculate();
     EXPECT_THAT(project.messages(),
                 ElementsAre(Message{"Není zadána odvodňovaná plocha.", MessageIcon::Critical, "Chyba"},
@@ -107,7 +110,7 @@ TEST_F(Combined, SafetyFactorEmptiesTheResults) {
     project.site("500", "1e-5");
     trench("1e-4", "0.5", "0.5");
     project.calculate();
-    project.set(window.txtSoucBezp[kSwaleTrench], "1.3");
+    project.set(window.txtSoucBezp[FacilityType::SwaleTrench], "1.3");
     EXPECT_THAT(shown(), ElementsAre("50.0", "", "", "", "", ""));
     project.calculate();
     project.click(window.optSelTypPudy3[1]);
@@ -122,7 +125,7 @@ TEST_F(Combined, WithoutTrenchTheLastSwaleDepthCounts) {
     project.messages();
     // No rain is left, so there is no volume and no trench; the emptying time is that of the depth in store.
     project.rains({});
-    project.choose(kSwaleTrench);
+    project.choose(FacilityType::SwaleTrench);
     project.calculate();
     EXPECT_THAT(shown(), ElementsAre("50.0", "0.0", "0.0", "", "", "0.9"));
     EXPECT_EQ(values.txtHloubkaPrulehu, depth);

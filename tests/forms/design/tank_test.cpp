@@ -27,7 +27,8 @@ class Tank : public DesignTest {
     }
     /// Infiltration flow, required storage, volume as shown.
     std::vector<std::string> shown() {
-        return {window.txtVsakTok.text(), window.txtObjAkum[kTank].text(), window.txtVypObjNadrz.text()};
+        return {window.txtVsakTok.text(), window.txtObjAkum[FacilityType::Tank].text(),
+                window.txtVypObjNadrz.text()};
     }
 };
 
@@ -71,7 +72,7 @@ TEST_F(Tank, EqualVolumeIsEnough) {
     // (1000 x 201e-7 - 0.0001) m3/s for 600 s are 12 m3, as are 4 x 3 x 1.
     project.site("1000", "1e-4", {{"10", "201"}});
     tank("1", "4", "3", "1", "0");
-    project.set(window.txtSoucBezp[kTank], "1");
+    project.set(window.txtSoucBezp[FacilityType::Tank], "1");
     project.calculate();
     EXPECT_EQ(values.txtObjAkum, values.txtVypObjNadrz);
     EXPECT_THAT(project.messages(), ElementsAre(kVolume, kProven));
@@ -89,7 +90,7 @@ TEST_F(Tank, FlowThatKeepsUpNeedsNoStorage) {
 TEST_F(Tank, NothingIsComputedWhileTyping) {
     project.site("5000", "1e-4");
     tank("10", "20", "10", "1", "2");
-    project.set(window.txtSoucBezp[kTank], "1.5");
+    project.set(window.txtSoucBezp[FacilityType::Tank], "1.5");
     EXPECT_THAT(shown(), ElementsAre("", "", ""));
     project.calculate();
     project.set(window.txtDelkaDnaNadrz, "50");

@@ -12,24 +12,25 @@ using ::testing::IsEmpty;
 class Trench : public DesignTest {
   protected:
     void trench(const std::string& width, const std::string& height) {
-        project.choose(kTrench);
-        project.set(window.txtSirkaRyhy[kTrench], width);
-        project.set(window.txtVyskaRyhy[kTrench], height);
+        project.choose(FacilityType::Trench);
+        project.set(window.txtSirkaRyhy[FacilityType::Trench], width);
+        project.set(window.txtVyskaRyhy[FacilityType::Trench], height);
     }
     void drain(const std::string& inner_mm, const std::string& outer_mm, const std::string& count,
                const std::string& openings, const std::string& velocity) {
-        project.click(window.chkSelPretok[kTrench]);
-        project.set(window.txtPrumTroubVnit[kTrench], inner_mm);
-        project.set(window.txtPrumTroubVnej[kTrench], outer_mm);
-        project.set(window.txtPocetPotrubi[kTrench], count);
-        project.set(window.txtVystupPlocha[kTrench], openings);
-        project.set(window.txtVystupRychlost[kTrench], velocity);
-        project.click(window.cmdOK[kTrench]);
+        project.click(window.chkSelPretok[FacilityType::Trench]);
+        project.set(window.txtPrumTroubVnit[FacilityType::Trench], inner_mm);
+        project.set(window.txtPrumTroubVnej[FacilityType::Trench], outer_mm);
+        project.set(window.txtPocetPotrubi[FacilityType::Trench], count);
+        project.set(window.txtVystupPlocha[FacilityType::Trench], openings);
+        project.set(window.txtVystupRychlost[FacilityType::Trench], velocity);
+        project.click(window.cmdOK[FacilityType::Trench]);
     }
     /// Length, volume, area as shown.
     std::vector<std::string> shown() {
-        return {window.txtDelkaRyhy[kTrench].text(), window.txtObjAkum[kTrench].text(),
-                window.txtVsakPlocha[kTrench].text()};
+        return {window.txtDelkaRyhy[FacilityType::Trench].text(),
+                window.txtObjAkum[FacilityType::Trench].text(),
+                window.txtVsakPlocha[FacilityType::Trench].text()};
     }
 };
 
@@ -48,12 +49,12 @@ TEST_F(Trench, IsDesignedWithoutAVerdict) {
 TEST_F(Trench, PorosityFieldIsEmptyButTheDefaultHolds) {
     project.site("500", "1e-5");
     trench("1", "1.5");
-    EXPECT_EQ(window.txtPorVyplne[kTrench].text(), "");
-    project.set(window.txtPorVyplne[kTrench], "0.3");
+    EXPECT_EQ(window.txtPorVyplne[FacilityType::Trench].text(), "");
+    project.set(window.txtPorVyplne[FacilityType::Trench], "0.3");
     project.calculate();
     EXPECT_THAT(shown(), ElementsAre("29.6", "13.3", "51.8"));
     // The page of the combined object still shows what it showed, but there is one porosity.
-    EXPECT_EQ(window.txtPorVyplne[kSwaleTrench].text(), "0.35");
+    EXPECT_EQ(window.txtPorVyplne[FacilityType::SwaleTrench].text(), "0.35");
     EXPECT_EQ(values.txtPorVyplne, 0.3F);
 }
 
@@ -61,10 +62,10 @@ TEST_F(Trench, SafetyFactorRefreshesTheAreaOnly) {
     project.site("500", "1e-5");
     trench("1", "1.5");
     project.calculate();
-    project.set(window.txtSirkaRyhy[kTrench], "2");
+    project.set(window.txtSirkaRyhy[FacilityType::Trench], "2");
     EXPECT_THAT(shown(), ElementsAre("25.9", "13.6", "45.3"));
     // (1.5 / 2 + 2) x 25.8941 = 71.2
-    project.set(window.txtSoucBezp[kTrench], "2");
+    project.set(window.txtSoucBezp[FacilityType::Trench], "2");
     EXPECT_THAT(shown(), ElementsAre("25.9", "13.6", "71.2"));
 }
 
@@ -94,13 +95,13 @@ TEST_F(Trench, DrainThatLetsOutExactlyWhatFlowsIn) {
     project.area("500");
     project.rains({{"10", "160"}});
     trench("1", "1");
-    project.set(window.txtPorVyplne[kTrench], "0.36");
-    project.set(window.txtSoucBezp[kTrench], "1");
+    project.set(window.txtPorVyplne[FacilityType::Trench], "0.36");
+    project.set(window.txtSoucBezp[FacilityType::Trench], "1");
     // Unconfirmed, so that the coefficient of the design before stays: the porosity.
     project.calculate();
-    project.click(window.chkSelPretok[kTrench]);
-    project.set(window.txtVystupPlocha[kTrench], "12");
-    project.set(window.txtVystupRychlost[kTrench], "0.5");
+    project.click(window.chkSelPretok[FacilityType::Trench]);
+    project.set(window.txtVystupPlocha[FacilityType::Trench], "12");
+    project.set(window.txtVystupRychlost[FacilityType::Trench], "0.5");
     project.calculate();
     EXPECT_EQ(values.drain_outflow_l_s, values.drain_inflow_l_s);
     EXPECT_THAT(shown(), ElementsAre("13.3", "4.8", "20.0"));
