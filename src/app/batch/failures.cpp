@@ -7,7 +7,7 @@
 #include <iostream>
 #include <stdexcept>
 
-#include "app/common/options.h"
+#include "app/common/command_line.h"
 #include "platform/numbers/runtime_error.h"
 #include "project/read_project.h"
 #include "sweep/variation.h"

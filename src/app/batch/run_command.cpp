@@ -35,7 +35,7 @@ constexpr const char* kHelp =
     "written, 2 unusable script or arguments.\n";
 
 int runScript(const RunOptions& options, std::istream& script) {
-    const std::string folder = options.folder.empty() ? defaultProgramFolder() : options.folder;
+    const std::string folder = folderOrDefault(options.folder);
     if (!folderExists(folder)) {
         std::cerr << "mero-batch: " << folderMissing(folder) << '\n';
     }

@@ -90,6 +90,10 @@ std::string defaultProgramFolder() {
     return folder.string();
 }
 
+std::string folderOrDefault(const std::string& folder) {
+    return folder.empty() ? defaultProgramFolder() : folder;
+}
+
 bool folderExists(const std::string& folder) {
     std::error_code failure;
     return fs::is_directory(folder, failure);

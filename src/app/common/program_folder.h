@@ -17,6 +17,9 @@ namespace mero::app {
 /// What cannot be made or copied is left out; the program then tells of the missing file.
 [[nodiscard]] std::string defaultProgramFolder();
 
+/// `folder`, or the default program folder when it is empty.
+[[nodiscard]] std::string folderOrDefault(const std::string& folder);
+
 /// Whether the folder is there. The user's own folder is not when it could not be made.
 [[nodiscard]] bool folderExists(const std::string& folder);
 /// What to say of a missing one on error output.
