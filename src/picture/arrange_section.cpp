@@ -214,8 +214,8 @@ class SectionLayout {
         std::vector<PlacedLine>& lines = stroke == Stroke::Leader ? leaders_ : drawing_.lines;
         lines.push_back({stroke, {from, to}});
     }
-    void addText(const Box& box, std::string text, Emphasis emphasis = Emphasis::Plain) {
-        drawing_.texts.push_back({box, std::move(text), emphasis});
+    void addText(const Box& box, std::string text, Align align) {
+        drawing_.texts.push_back({.box = box, .text = std::move(text), .align = align});
     }
 
     void drawSoil() {
@@ -318,7 +318,7 @@ class SectionLayout {
             const std::string& text = section_->levels[i].text;
             const double left = soil_.right + lines(kLaneGap);
             addLine(Stroke::Leader, {soil_.right, wanted[i]}, {left - lines(0.2), tops[i] + line_ / 2.0});
-            addText({left, tops[i], left + sizes_->width(text), tops[i] + line_}, text);
+            addText({left, tops[i], left + sizes_->width(text), tops[i] + line_}, text, Align::Left);
         }
     }
 
@@ -360,7 +360,7 @@ class SectionLayout {
             if (middle < from || middle > to) {
                 addLine(Stroke::Leader, {right + lines(0.1), middle}, {line_x, wanted[i]});
             }
-            addText({right - width, tops[i], right, tops[i] + line_}, text);
+            addText({right - width, tops[i], right, tops[i] + line_}, text, Align::Right);
         }
     }
 

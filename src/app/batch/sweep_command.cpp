@@ -152,7 +152,7 @@ int writeRows(const sweep::Variants& variants, const project::RainStore& rain, c
 
 int drawPlot(const sweep::Variants& variants, const project::RainStore& rain, const Options& options) {
     RowFile file(options.plot);
-    if (!file.write(sweep::svg(sweep::plotOf(variants, rain, options.wish))) || !file.close()) {
+    if (!file.write(sweep::plotSvg(sweep::plotOf(variants, rain, options.wish))) || !file.close()) {
         std::cerr << "mero-batch: " << file.failure() << '\n';
         return kFailed;
     }
