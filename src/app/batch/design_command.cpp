@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Reads the project, designs, prints, and writes the report that the window would write.
-/// Everything is read and checked before anything is written.
+/// All inputs are read and checked before anything is written.
 #include "app/batch/design_command.h"
 
 #include <iostream>

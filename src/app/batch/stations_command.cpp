@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The list needs no database; a station's table is read from it.
-/// The columns are wide enough for every intensity that a station can have.
+/// Prints the list of stations without the database, and a station's table from it.
+/// The columns are wide enough for every possible intensity.
 #include "app/batch/stations_command.h"
 
 #include <iostream>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Reads project and variations, reads the rain of all stations, then designs and writes.
-/// Whatever is wrong with the arguments is told before a file is opened.
+/// Errors in the arguments are reported before a file is opened.
 #include "app/batch/sweep_command.h"
 
 #include <iostream>
