@@ -69,7 +69,7 @@ class ChartLayout {
         values_ = Scale(
             values,
             {.from_zero = true, .most_steps = mostValueSteps(plot_.height(), *sizes_), .tolerance = 0.0});
-        if (chart_->kind == Chart::Kind::Curve) {
+        if (chart_->kind == Chart::Kind::Curve && !chart_->points.empty()) {
             positions_ =
                 Scale::between(chart_->points.front().position, chart_->points.back().position, true);
         }
