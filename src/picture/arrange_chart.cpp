@@ -1,35 +1,23 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of charts: a linear axis from zero with round numbers, labels only where they have room.
+/// Lays out bars and curves over a linear axis from zero.
+/// Labels below the axis that do not fit are dropped.
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "picture/arrange.h"
+#include "picture/chart_parts.h"
 #include "picture/text_lines.h"
-#include "platform/numbers/number_text.h"
 
 namespace mero::picture {
 namespace {
 
 constexpr double kMargin = 0.4;        ///< around everything [lines]
-constexpr double kLeastPlotWidth = 7;  ///< below that there is no chart [lines]
+constexpr double kLeastPlotWidth = 7;  ///< a smaller plot is not drawn [lines]
 constexpr double kLeastPlotHeight = 2.5;
 constexpr double kRoomForMarkedText = 1.4;
-constexpr double kLinesPerTick = 1.5;
 constexpr double kBarShare = 0.62;
 constexpr double kPointRadius = 0.22;
 constexpr double kLabelGap = 0.35;
-
-/// The round step, 1, 2 or 5 times a power of ten, that divides the range into at most `most_steps`.
-double roundStep(double range, int most_steps) {
-    const double power = std::pow(10.0, std::floor(std::log10(range / most_steps)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
-        if (range <= factor * power * most_steps) {
-            return factor * power;
-        }
-    }
-    return 10.0 * power;
-}
 
 class ChartLayout {
   public:
@@ -39,7 +27,7 @@ class ChartLayout {
         inner_ = {margin, margin, sheet.width - margin, sheet.height - margin};
     }
 
-    /// Finds the places; false when the sheet is too small.
+    /// Computes the plot and the scales; false when the sheet is too small.
     bool plan() {
         title_ = brokenLines(chart_->title, inner_.width(), *sizes_);
         plot_ = inner_;
@@ -49,10 +37,10 @@ class ChartLayout {
         if (title_.empty() || plot_.height() < kLeastPlotHeight * line_) {
             return false;
         }
-        planTicks();
+        planScales();
         double widest = 0;
-        for (const auto& [value, text] : ticks_) {
-            widest = std::max(widest, sizes_->width(text));
+        for (const double tick : values_.ticks()) {
+            widest = std::max(widest, sizes_->width(values_.tickText(tick)));
         }
         plot_.left += widest + 0.5 * line_;
         plot_.right -= 0.5 * line_;
@@ -72,22 +60,23 @@ class ChartLayout {
     }
 
   private:
-    void planTicks() {
-        double largest = 0;
+    void planScales() {
+        std::vector<double> values;
         for (const ChartPoint& point : chart_->points) {
-            largest = std::max(largest, point.value.value_or(0.0));
+            values.push_back(point.value.value_or(0.0));
         }
-        const int most = std::clamp(static_cast<int>(plot_.height() / (kLinesPerTick * line_)), 1, 6);
-        const double step = roundStep(largest, most);
-        for (int k = 0; k == 0 || top_value_ < largest; ++k) {
-            top_value_ = k * step;
-            // Through a Single: its shortest text hides what the multiplication left behind.
-            ticks_.emplace_back(top_value_, numbers::general(static_cast<float>(top_value_)));
+        // Without a tolerance no bar is higher than the last tick.
+        values_ = Scale(
+            values,
+            {.from_zero = true, .most_steps = mostValueSteps(plot_.height(), *sizes_), .tolerance = 0.0});
+        if (chart_->kind == Chart::Kind::Curve && !chart_->points.empty()) {
+            positions_ =
+                Scale::between(chart_->points.front().position, chart_->points.back().position, true);
         }
     }
 
     [[nodiscard]] double yOf(double value) const {
-        return plot_.bottom - value / top_value_ * plot_.height();
+        return plot_.bottom - values_.share(value).value_or(0.0) * plot_.height();
     }
 
     [[nodiscard]] double xOf(std::size_t point) const {
@@ -95,9 +84,7 @@ class ChartLayout {
             const double slot = plot_.width() / static_cast<double>(chart_->points.size());
             return plot_.left + (static_cast<double>(point) + 0.5) * slot;
         }
-        const double first = std::log(chart_->points.front().position);
-        const double range = std::log(chart_->points.back().position) - first;
-        const double share = range > 0 ? (std::log(chart_->points[point].position) - first) / range : 0.5;
+        const double share = positions_.share(chart_->points[point].position).value_or(0.5);
         const double inset = line_;
         return plot_.left + inset + share * (plot_.width() - 2.0 * inset);
     }
@@ -109,15 +96,7 @@ class ChartLayout {
                                                  inner_.right, *sizes_, Emphasis::Quiet));
             top += line_;
         }
-        for (const auto& [value, text] : ticks_) {
-            const double y = yOf(value);
-            drawing_.lines.push_back(
-                {value > 0 ? Stroke::GridLine : Stroke::Axis, {{plot_.left, y}, {plot_.right, y}}});
-            const double right = plot_.left - 0.4 * line_;
-            drawing_.texts.push_back({{right - sizes_->width(text), y - line_ / 2.0, right, y + line_ / 2.0},
-                                      text,
-                                      Emphasis::Plain});
-        }
+        addValueAxis(drawing_, plot_, values_, {.label = 0.4 * line_}, *sizes_);
         const double centre = (plot_.left + plot_.right) / 2.0;
         drawing_.texts.push_back(centredText(axis_text_, centre, plot_.bottom + 1.3 * line_, inner_.left,
                                              inner_.right, *sizes_, Emphasis::Quiet));
@@ -156,7 +135,7 @@ class ChartLayout {
         drawing_.lines.push_back(std::move(curve));
     }
 
-    /// The marked label first, then from the left those that find room.
+    /// The marked label comes first, the others from the left.
     void drawAxisLabels() {
         std::vector<std::size_t> order;
         if (chart_->marked) {
@@ -167,23 +146,19 @@ class ChartLayout {
                 order.push_back(i);
             }
         }
-        std::vector<Box> taken;
+        LabelPlacer labels(drawing_, kLabelGap * line_);
         for (const std::size_t i : order) {
             const Emphasis emphasis = chart_->marked == i ? Emphasis::Strong : Emphasis::Plain;
             PlacedText text = centredText(chart_->points[i].label, xOf(i), plot_.bottom + 0.2 * line_,
                                           plot_.left, inner_.right, *sizes_, emphasis);
-            const double gap = kLabelGap * line_;
-            const bool free = std::none_of(taken.begin(), taken.end(), [&](const Box& box) {
-                return text.box.left < box.right + gap && box.left < text.box.right + gap;
-            });
-            if (free && text.box.width() <= inner_.right - plot_.left) {
-                taken.push_back(text.box);
-                drawing_.texts.push_back(std::move(text));
+            if (text.box.width() <= inner_.right - plot_.left) {
+                labels.place(std::move(text));
             }
         }
     }
 
-    /// Above its bar and those beside it that it reaches over; beside its point where the curve has fallen.
+    /// Places the marked value above its bar and above the neighbours that it covers, or to the right of its
+    /// point of a curve.
     void drawMarkedText() {
         if (!chart_->marked) {
             return;
@@ -194,7 +169,7 @@ class ChartLayout {
         double left = std::clamp(x + 0.5 * line_, plot_.left, most_left);
         double y = yOf(chart_->points[*chart_->marked].value.value_or(0.0));
         if (chart_->kind == Chart::Kind::Bars) {
-            // Of centred, to the right and to the left the one that stays nearest to its bar.
+            // Of the centred, the left-aligned and the right-aligned place, the lowest one.
             const double half = barHalf();
             double lowest = plot_.top - line_;
             for (const double wanted : {x - width / 2.0, x - half, x + half - width}) {
@@ -216,7 +191,7 @@ class ChartLayout {
         return kBarShare / 2.0 * plot_.width() / static_cast<double>(chart_->points.size());
     }
 
-    /// The highest point of the bars between two places.
+    /// The top of the highest bar between two x positions.
     [[nodiscard]] double topOfBars(double left, double right) const {
         double top = plot_.bottom;
         for (const PlacedArea& bar : drawing_.areas) {
@@ -235,8 +210,8 @@ class ChartLayout {
     std::vector<std::string> title_;
     std::vector<std::string> note_;
     std::string axis_text_;
-    std::vector<std::pair<double, std::string>> ticks_;
-    double top_value_ = 0;
+    Scale values_ = Scale::between(0.0, 1.0, false);
+    Scale positions_ = Scale::between(0.0, 1.0, false);  ///< of a curve's points
     Drawing drawing_;
 };
 

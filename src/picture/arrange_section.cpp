@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of sections: dimension lines around the drawing, the drawing as large as the rest allows.
-/// Heights are measured on the left, widths above and below, levels are named on the right.
+/// Lays out sections: heights on the left, widths above and below, labels of levels on the right.
+/// The drawing takes the room that dimension lines and texts leave.
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -15,30 +15,30 @@ namespace {
 
 // Distances in lines of text.
 constexpr double kMargin = 0.4;        ///< around everything
-constexpr double kSoilBeside = 1.4;    ///< soil that is shown on both sides of the extent
+constexpr double kSoilBeside = 1.4;    ///< soil on both sides of the extent
 constexpr double kSoilBelow = 0.8;     ///< and below it
 constexpr double kAir = 0.7;           ///< above the ground
-constexpr double kRow = 1.5;           ///< a dimension above or below
+constexpr double kRow = 1.5;           ///< height of a dimension above or below
 constexpr double kLaneGap = 0.9;       ///< between the texts of a lane and its dimension line
-constexpr double kTick = 0.25;         ///< half of the stroke that ends a dimension line
-constexpr double kLeastRoom = 2.5;     ///< for the drawing itself
-constexpr double kLegibleWidth = 2.5;  ///< what must be seen is at least so large
+constexpr double kTick = 0.25;         ///< half of the oblique stroke at the end of a dimension line
+constexpr double kLeastRoom = 2.5;     ///< least size of the drawing itself
+constexpr double kLegibleWidth = 2.5;  ///< least size of what must be legible, after stretching
 constexpr double kLegibleHeight = 1.5;
-constexpr double kSeenShare = 0.5;  ///< and not stretched while it is larger than this share of it
+constexpr double kSeenShare = 0.5;  ///< no stretching above this share of the legible size
 constexpr double kArrowHead = 0.35;
 constexpr double kBreakStep = 0.8;
 constexpr double kBreakHeight = 0.22;
 constexpr double kBreakBelow = 0.7;      ///< the break below the extent
 constexpr double kBrokenBand = 1.1;      ///< soil for the break
 constexpr double kMostNotesShare = 0.4;  ///< of the sheet's height
-/// Scales that differ by less look alike.
+/// Scales with a smaller ratio count as equal.
 constexpr double kSameScale = 1.02;
 
-/// How sparing the drawing is with what stands beside it.
+/// How much stands beside the drawing; reduced step by step on small sheets.
 struct Frugality {
-    bool names = true;   ///< dimensions say what they measure
-    bool turned = true;  ///< dimensions of the whole are turned
-    bool outer = true;   ///< there are dimensions of the whole
+    bool names = true;   ///< dimensions have names
+    bool turned = true;  ///< texts of outer dimensions are rotated
+    bool outer = true;   ///< outer dimensions are shown
     double room = 0;     ///< least width for the drawing itself [lines]
 };
 
@@ -47,7 +47,7 @@ class SectionLayout {
     SectionLayout(const Section& section, const Sheet& sheet, const TextSizes& sizes)
         : section_(&section), sheet_(sheet), sizes_(&sizes), line_(sizes.line_height) {}
 
-    /// Finds scale and places; false when the sheet is too small.
+    /// Computes scale and positions; false when the sheet is too small.
     bool plan() {
         constexpr Frugality kSteps[] = {{.names = true, .turned = true, .outer = true, .room = 8.0},
                                         {.names = true, .turned = false, .outer = true, .room = 8.0},
@@ -85,7 +85,7 @@ class SectionLayout {
     [[nodiscard]] bool isShown(const Dimension& dimension) const {
         return frugality_.outer || !dimension.outer;
     }
-    /// Whether its text is turned and stands along the dimension line.
+    /// Whether its text is rotated along the dimension line.
     [[nodiscard]] bool isTurned(const Dimension& dimension) const {
         return dimension.outer && frugality_.turned;
     }
@@ -153,7 +153,7 @@ class SectionLayout {
         }
         const double most_x = room_width / section_->extent.width();
         const double most_y = room_height / section_->extent.height();
-        // A high and narrow section needs no more width than it has height for.
+        // A high and narrow section is limited by the height, so it needs less width.
         if (room_width < lines(frugality_.room) && most_x < most_y) {
             return false;
         }
@@ -173,7 +173,7 @@ class SectionLayout {
         return turnedTextsFit();
     }
 
-    /// The even scale where the size can be seen in it; else the one in which it is easy to see.
+    /// The even scale if the size is legible in it, else a larger one in which it is.
     [[nodiscard]] double legibleScale(double even, double size_m, double wanted_lines) const {
         const bool seen = size_m * even >= lines(kSeenShare * wanted_lines);
         return seen ? even : std::max(even, lines(wanted_lines) / size_m);
@@ -209,13 +209,13 @@ class SectionLayout {
     [[nodiscard]] double y(double metres) const { return soil_.top + metres * scale_y_; }
     [[nodiscard]] Point at(const Point& point) const { return {x(point.x), y(point.y)}; }
 
-    /// Leaders lie below all other lines.
+    /// Leaders are painted below all other lines.
     void addLine(Stroke stroke, Point from, Point to) {
         std::vector<PlacedLine>& lines = stroke == Stroke::Leader ? leaders_ : drawing_.lines;
         lines.push_back({stroke, {from, to}});
     }
-    void addText(const Box& box, std::string text, Emphasis emphasis = Emphasis::Plain) {
-        drawing_.texts.push_back({box, std::move(text), emphasis});
+    void addText(const Box& box, std::string text, Align align) {
+        drawing_.texts.push_back({.box = box, .text = std::move(text), .align = align});
     }
 
     void drawSoil() {
@@ -271,7 +271,7 @@ class SectionLayout {
         addLine(Stroke::Flow, {foot.x + along.y * size / 2.0, foot.y - along.x * size / 2.0}, to);
     }
 
-    /// The triangle that stands on a water level.
+    /// Adds the triangle on a water level.
     void addLevelMark(double centre_x, double level_y) {
         const double size = lines(kArrowHead);
         drawing_.areas.push_back({Material::LevelMark,
@@ -280,7 +280,7 @@ class SectionLayout {
                                    {centre_x + size * 0.7, level_y - size}}});
     }
 
-    /// A strip without soil between two zigzag lines.
+    /// Adds the break: a strip without soil between two zigzag lines.
     void drawBreak() {
         if (isBroken()) {
             const double middle = y(section_->extent.bottom) + lines(kBreakBelow);
@@ -318,7 +318,7 @@ class SectionLayout {
             const std::string& text = section_->levels[i].text;
             const double left = soil_.right + lines(kLaneGap);
             addLine(Stroke::Leader, {soil_.right, wanted[i]}, {left - lines(0.2), tops[i] + line_ / 2.0});
-            addText({left, tops[i], left + sizes_->width(text), tops[i] + line_}, text);
+            addText({left, tops[i], left + sizes_->width(text), tops[i] + line_}, text, Align::Left);
         }
     }
 
@@ -360,11 +360,11 @@ class SectionLayout {
             if (middle < from || middle > to) {
                 addLine(Stroke::Leader, {right + lines(0.1), middle}, {line_x, wanted[i]});
             }
-            addText({right - width, tops[i], right, tops[i] + line_}, text);
+            addText({right - width, tops[i], right, tops[i] + line_}, text, Align::Right);
         }
     }
 
-    /// The oblique stroke that ends a dimension line.
+    /// Adds the oblique stroke at the end of a dimension line.
     void addTick(const Point& end) {
         const double size = lines(kTick);
         addLine(Stroke::Dimension, {end.x - size, end.y + size}, {end.x + size, end.y - size});
@@ -383,7 +383,7 @@ class SectionLayout {
                 is_above ? (above -= lines(kRow)) : std::exchange(below, below + lines(kRow));
             const double from = x(dimension.from);
             const double to = x(dimension.to);
-            // The text stands on the line above, below it below.
+            // The text is above its line in rows above the drawing, and below it in rows below.
             const double line_y = is_above ? row_top + lines(1.25) : row_top + lines(0.3);
             const double text_top = is_above ? row_top : row_top + lines(0.45);
             addLine(Stroke::Dimension, {from, line_y}, {to, line_y});

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Charts of the balance. The formulas are those of the searches, so the highest bar is the critical rain's.
+/// Makes the charts with the formulas of the searches for the critical rain.
+/// So the highest bar belongs to the critical rain.
 #include "picture/balance_chart.h"
 
 #include <algorithm>
@@ -11,12 +12,12 @@
 namespace mero::picture {
 namespace {
 
-/// Beyond it nothing is designed, and the texts of the axis would need the whole chart.
+/// No facility is larger, and the axis texts would fill the chart.
 constexpr double kLargestShown = 1e7;
-/// A rain that asks for less asks for nothing.
+/// Smaller values are not drawn.
 constexpr double kSmallestShown = 1e-6;
 
-/// What one facility's chart is called and measured in; its decimals are those of the result's field.
+/// Title, unit and decimals of a facility's chart; the decimals are those of the result's field.
 struct Quantity {
     std::string_view title;
     std::string_view unit;
@@ -38,7 +39,7 @@ Chart oddValues() {
     return hintChart("Z těchto hodnot nelze bilanci dešťů nakreslit.");
 }
 
-/// Position of the critical rain in the table.
+/// Row of the critical rain in the table.
 std::optional<std::size_t> rowOf(const calc::RainValues& values, const calc::CriticalRain& critical) {
     if (!critical.rain) {
         return std::nullopt;
@@ -47,7 +48,7 @@ std::optional<std::size_t> rowOf(const calc::RainValues& values, const calc::Cri
     return static_cast<std::size_t>(row - values.begin());
 }
 
-/// The bars of the rains that ask for something; a hint when none does.
+/// Bars of the positive values; a hint when there are none.
 Chart barChart(const Quantity& quantity, const calc::RainValues& values, calc::RainTable rains) {
     Chart chart;
     chart.title = std::string(quantity.title) + " [" + std::string(quantity.unit) + "]";
@@ -67,7 +68,7 @@ Chart barChart(const Quantity& quantity, const calc::RainValues& values, calc::R
     return any ? chart : hintChart("Žádný déšť nevyžaduje akumulaci.");
 }
 
-/// Marks the critical rain and compares it with what the field shows.
+/// Marks the critical rain; adds a note when its value differs from the field's.
 void mark(Chart& chart, const Quantity& quantity, std::size_t row, const std::string& shown_result) {
     const ChartPoint& point = chart.points[row];
     const std::string value = numbers::fixed(*point.value, quantity.decimals);
@@ -116,7 +117,7 @@ Chart surfaceChart(const SurfaceBalance& balance, calc::RainTable rains, const s
             values[row] = calc::surface::infiltrationArea(balance.reduced_area_m2, balance.filtration_m_s,
                                                           rains[row].intensity_l_s_ha);
         } catch (const RuntimeError&) {
-            continue;  // this rain has no area in balance
+            continue;  // the formula has no result for this rain
         }
     }
     Chart chart = barChart(kArea, values, rains);

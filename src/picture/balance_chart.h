@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The storage balance over the nine rains: what each of them asks of the facility, the critical one marked.
+/// Makes charts of the balance over the nine rains: what each rain requires of the facility.
+/// The critical rain is marked.
 #pragma once
 
 #include <string>
@@ -13,25 +14,25 @@
 
 namespace mero::picture {
 
-/// What stands behind the surface's area: it is in balance with the picked rain, there is no search.
+/// Inputs of the area of surface infiltration, which follows from the picked rain without a search.
 struct SurfaceBalance {
     float reduced_area_m2 = 0;
     float filtration_m_s = 0;
     calc::Rain picked_rain;
 };
 
-/// @param shown_result the result's field, empty before the calculation; a balance that no longer gives it
-///        says that the inputs have changed since
+/// @param shown_result text of the result's field, empty before the calculation; when the balance gives
+///        another result, the chart notes that the inputs have changed
 [[nodiscard]] Chart surfaceChart(const SurfaceBalance& balance, calc::RainTable rains,
                                  const std::string& shown_result);
 [[nodiscard]] Chart swaleChart(const calc::swale::Balance& balance, calc::RainTable rains,
                                const std::string& shown_result);
-/// The two searches of the combined object, in their order.
+/// Inputs of the two searches of the combined object, in order.
 struct SwaleTrenchBalance {
     calc::swale::Balance swale;
     calc::swale_trench::Balance trench;
 };
-/// The trench's length; where no rain asks for one, the swale's volume, whose rain is then the critical one.
+/// The trench's length; when no rain requires a trench, the swale's volume.
 [[nodiscard]] Chart swaleTrenchChart(const SwaleTrenchBalance& balance, calc::RainTable rains,
                                      const std::string& shown_volume, const std::string& shown_length);
 [[nodiscard]] Chart trenchChart(const calc::trench::Balance& balance, calc::RainTable rains,

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A small chart over the rains of the design rain table: bars, or a curve over a logarithmic axis.
+/// A chart over the rains of the design rain table: bars, or a curve over a logarithmic axis.
+/// One point may be marked.
 #pragma once
 
 #include <cstddef>
@@ -11,8 +12,8 @@ namespace mero::picture {
 
 struct ChartPoint {
     std::string label;            ///< below the axis
-    double position = 0;          ///< on the axis of a curve, > 0; bars stand side by side
-    std::optional<double> value;  ///< empty: nothing is drawn there
+    double position = 0;          ///< on the axis of a curve, > 0; ignored for bars
+    std::optional<double> value;  ///< >= 0; empty: nothing is drawn there
 };
 
 struct Chart {
@@ -23,11 +24,11 @@ struct Chart {
     std::vector<ChartPoint> points;
     std::optional<std::size_t> marked;
     std::string marked_text;  ///< the value of the marked point
-    std::string axis_text;    ///< what the labels below the axis mean
-    std::string axis_unit;    ///< instead of it where there is little room
-    std::string note;         ///< below all, when there is something to say
+    std::string axis_text;    ///< caption of the horizontal axis
+    std::string axis_unit;    ///< replaces the caption where there is little room
+    std::string note;         ///< below the axis; may be empty
     std::string summary;
-    std::string hint;  ///< instead of a chart
+    std::string hint;  ///< replaces the chart: why there is none
 
     [[nodiscard]] bool drawable() const { return hint.empty(); }
 };

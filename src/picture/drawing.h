@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-/// A picture set out on a sheet: everything in the sheet's own units (a window's pixels), the y axis down.
-/// Texts stand in boxes that were measured for them; no two overlap and none leaves the sheet.
+/// A picture laid out on a sheet, in the sheet's units (pixels); the y axis points down.
+/// Every text has a box measured for it; no two boxes overlap and none leaves the sheet.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -19,11 +20,11 @@ struct Sheet {
 
 enum class Emphasis {
     Plain,
-    Strong,  ///< the one value that matters
+    Strong,  ///< the decisive value, headings
     Quiet,   ///< titles, notes, hints
 };
 
-/// How large texts are on the sheet.
+/// Measures texts in the font of the sheet.
 struct TextSizes {
     double line_height = 0;
     std::function<double(std::string_view, Emphasis)> measure;
@@ -46,20 +47,38 @@ struct PlacedEllipse {
 struct PlacedLine {
     Stroke stroke = Stroke::Outline;
     std::vector<Point> points;
+    std::size_t series = 0;  ///< of a Stroke::Series: its number from 0
+};
+
+/// The mark of a series at one of its points.
+struct PlacedMark {
+    std::size_t series = 0;
+    Point centre;
+    double radius = 0;
+};
+
+/// Where a text starts or ends when the painting font is narrower than the measured one.
+enum class Align {
+    Left,
+    Centre,
+    Right,
 };
 
 struct PlacedText {
-    Box box;
+    Box box = {};
     std::string text;
     Emphasis emphasis = Emphasis::Plain;
-    bool upright = false;  ///< turned, to be read from the right; the box is as it stands on the sheet
+    bool upright = false;  ///< rotated by 90 degrees to read upwards; `box` encloses the rotated text
+    Align align = Align::Centre;
+    double size = 1;  ///< relative to the other texts of the drawing
 };
 
-/// In the order of painting: areas, ellipses, lines, texts.
+/// In painting order: areas, ellipses, lines, marks, texts.
 struct Drawing {
     std::vector<PlacedArea> areas;
     std::vector<PlacedEllipse> ellipses;
     std::vector<PlacedLine> lines;
+    std::vector<PlacedMark> marks;
     std::vector<PlacedText> texts;
     std::string summary;  ///< what it shows, in a sentence
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Sections of the six facilities from their values. Any values do: those that give no drawing give a hint.
+/// Makes sections of the six facilities from their values.
+/// All values are accepted; those that cannot be drawn give a hint.
 #pragma once
 
 #include <optional>
@@ -11,7 +12,7 @@ namespace mero::picture {
 /// Values of surface infiltration.
 struct SurfaceValues {
     std::optional<float> area_m2 = std::nullopt;  ///< empty before the calculation
-    float groundwater_depth_m = 0;                ///< 0: not given; its sign does not matter
+    float groundwater_depth_m = 0;                ///< 0: not given; the sign is ignored
 };
 [[nodiscard]] Section surfaceSection(const SurfaceValues& values);
 
@@ -22,7 +23,7 @@ struct SwaleValues {
 };
 [[nodiscard]] Section swaleSection(const SwaleValues& values);
 
-/// Pipes in the fill of a trench; 0 of them: none.
+/// Pipes in the fill of a trench; `count` 0 for none.
 struct PipeValues {
     float count = 0;
     float outer_diameter_mm = 0;
@@ -49,11 +50,11 @@ struct ShaftValues {
     int count = 1;
     bool rectangular = false;
     float inner_width_m = 0;   ///< inner diameter, or the first inner side
-    float inner_length_m = 0;  ///< second inner side of a rectangular shaft
+    float inner_length_m = 0;  ///< second inner side; rectangular shafts only
     float wall_m = 0;
     float inlet_depth_m = 0;
     float filter_layer_m = 0;
-    float sand_layer_m = 0;  ///< 0 without one
+    float sand_layer_m = 0;  ///< 0 for none
     std::optional<float> water_level_m = std::nullopt;
     std::optional<float> depth_m = std::nullopt;
     std::optional<float> required_embedding_m = std::nullopt;
@@ -65,7 +66,7 @@ struct TankValues {
     float bottom_length_m = 0;
     float bottom_width_m = 0;
     float depth_m = 0;
-    float slope = 0;  ///< the n of 1 : n
+    float slope = 0;  ///< n of the slope 1 : n
     std::optional<float> required_storage_m3 = std::nullopt;
     std::optional<float> volume_m3 = std::nullopt;
     float groundwater_depth_m = 0;

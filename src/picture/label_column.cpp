@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Labels are pushed down from the top, then up from the bottom: what overlaps shares the shift.
+/// Resolves overlaps: pushes labels down from the top, then up from the bottom.
 #include "picture/label_column.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A column of labels beside a drawing: each as near as possible to what it names, none over another.
+/// Places a column of labels beside a drawing: each close to what it names, without overlaps.
 #pragma once
 
 #include <cstddef>
@@ -7,9 +7,9 @@
 
 namespace mero::picture {
 
-/// Tops for labels of one height whose middles want to be at `wanted`, between `top` and `bottom`.
+/// Tops of labels of one height whose middles should be at `wanted`, between `top` and `bottom`.
 /// @param wanted middles in the order of importance
-/// @return one top per label that found room, in the order of `wanted`; the last ones are left out
+/// @return one top per label that fits, in the order of `wanted`; the last ones are dropped
 [[nodiscard]] std::vector<double> labelTops(const std::vector<double>& wanted, double height, double top,
                                             double bottom);
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Points of the rain curve.
+/// Selects and sorts the points of the curve.
+/// Typed values may be anything, so those beyond any rain are ignored.
 #include "picture/rain_curve.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@
 namespace mero::picture {
 namespace {
 
-/// Far beyond any rain; typed values may be anything.
+/// Far beyond any rain.
 constexpr float kLongest_min = 1e6F;
 constexpr float kHeaviest_l_s_ha = 1e6F;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The curve of the design rain: nine intensities over their durations.
+/// Makes the curve of the design rain: nine intensities over their durations.
 #pragma once
 
 #include "calc/rain.h"
@@ -7,7 +7,7 @@
 
 namespace mero::picture {
 
-/// Rows without a positive duration are left out; the others stand in the order of their durations.
+/// Rows without a positive duration are ignored; the others are sorted by duration.
 /// @param picked the picked rain, marked when it is one of the rows
 [[nodiscard]] Chart rainCurve(calc::RainTable rains, const calc::Rain& picked);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Section through a facility, in metres: x to the right, y the depth below the ground.
-/// It says what there is and how large it is; where it comes to stand on a sheet is arrange()'s.
+/// A section through a facility in metres: x to the right, y the depth below the ground.
+/// arrange() lays it out on a sheet.
 #pragma once
 
 #include <string>
@@ -27,26 +27,26 @@ struct Pipe {
     double inner_diameter_m = 0;
 };
 
-/// Where a dimension line stands. Above and below it measures a width, on the left a height.
+/// Position of a dimension line: above and below for widths, left for heights.
 enum class Side { Above, Below, Left };
 
 /// A dimension line with its value.
 struct Dimension {
     Side side = Side::Below;
-    double from = 0;  ///< x or y where it begins [m]
+    double from = 0;  ///< x or y of its start [m]
     double to = 0;
-    std::string name;  ///< what is measured; left out where there is little room
+    std::string name;  ///< what is measured; dropped when there is little room
     std::string value;
-    /// On the left: a dimension of the whole, outside of those of its parts.
+    /// A height of the whole facility, outside of the heights of its parts.
     bool outer = false;
 };
 
-/// A level that goes on beside the facility, named on the right.
+/// A level across the whole drawing, labelled on the right.
 struct Level {
     Stroke stroke = Stroke::Groundwater;
     double depth_m = 0;
     std::string text;
-    /// So far down that the drawing is broken in between: it stands nearer than it is.
+    /// Too deep to be drawn to scale: it is drawn nearer, below a break line.
     bool beyond_break = false;
 };
 
@@ -57,11 +57,11 @@ struct Section {
     std::vector<Dimension> dimensions;
     std::vector<Level> levels;
     std::vector<std::string> notes;  ///< below the drawing, the most important first
-    Box extent;                      ///< all of it must be in view; its top is the ground
-    double legible_width_m = 0;      ///< the smallest width and height that must be seen
+    Box extent;                      ///< the part to be shown; its top is the ground
+    double legible_width_m = 0;      ///< the smallest width and height that must be legible
     double legible_height_m = 0;
     std::string summary;  ///< the main dimensions in a sentence
-    std::string hint;     ///< instead of a drawing: why there is none
+    std::string hint;     ///< replaces the drawing: why there is none
 
     [[nodiscard]] bool drawable() const { return hint.empty(); }
 };

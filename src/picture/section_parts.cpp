@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Shared parts of the sections.
-/// Everything that is drawn was compared with the limits before, so no size here is absurd.
+/// Makes the shared parts of the sections.
+/// All sizes were compared with the limits before.
 #include "picture/section_parts.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace mero::picture {
 namespace {
 
 constexpr double kMillimetresPerMetre = 1000.0;
-/// More pipes than any trench takes; beyond it counting them in a picture makes no sense.
+/// The largest number of pipes that is drawn; no trench has more.
 constexpr float kMostPipes = 20.0F;
 
 }  // namespace

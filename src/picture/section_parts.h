@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// What the sections of several facilities share: which sizes can be drawn, texts, groundwater, pipes.
+/// Shared by the sections of several facilities: limits of sizes, texts, groundwater, pipes.
+/// Sizes are in metres.
 #pragma once
 
 #include <algorithm>
@@ -10,7 +11,7 @@
 
 namespace mero::picture {
 
-/// Smaller and larger than any facility: beyond them there is nothing to be seen.
+/// Limits of the sizes that are drawn; no facility is smaller or larger.
 inline constexpr double kSmallestDrawn_m = 0.01;
 inline constexpr double kLargestDrawn_m = 10000.0;
 
@@ -23,31 +24,31 @@ inline constexpr double kLargestDrawn_m = 10000.0;
 /// A section without a drawing: the values cannot be drawn.
 [[nodiscard]] Section sectionOfOddValues();
 
-/// An input as its field shows it: "1.2 m".
+/// An input as in its field: "1.2 m".
 [[nodiscard]] std::string metres(float value);
-/// A result with its field's decimals: "0.24 m".
+/// A result with the decimals of its field: "0.24 m".
 [[nodiscard]] std::string metres(float value, int decimals);
 
 [[nodiscard]] Area rectangle(Material material, const Box& box);
-/// The four sides of a rectangle.
+/// Adds the four sides of a rectangle.
 void addOutline(Section& section, const Box& box);
 
-/// How far the banks of a swale run out on each side [m]: 1 : 2, no further than half the bottom. They are no
-/// part of the area that is counted.
+/// Width of a swale's bank on each side [m]: a slope of 1 : 2, at most half the bottom. The banks do not
+/// count towards the infiltration area.
 [[nodiscard]] constexpr double bankRun(double depth_m, double bottom_m) {
     return std::min(2.0 * depth_m, bottom_m / 2.0);
 }
 
-/// Adds the groundwater, when it is given, and to the extent what it needs. Where it lies far below what
-/// there is to be seen, the drawing is broken in between.
-/// @param unbroken_m how deep the drawing may go without a break
+/// Adds the groundwater, if given, and enlarges the extent to show it. Groundwater far below the facility is
+/// drawn below a break line.
+/// @param unbroken_m depth to which the drawing may extend without a break
 void addGroundwater(Section& section, float groundwater_depth_m, double unbroken_m);
 
-/// The depth of the groundwater for a sentence: ", hladina podzemní vody 3 m pod povrchem"; empty when it is
-/// not given.
+/// The depth of the groundwater for a summary: ", hladina podzemní vody 3 m pod povrchem"; empty when not
+/// given.
 [[nodiscard]] std::string groundwaterPhrase(float groundwater_depth_m);
 
-/// Adds pipes that lie side by side on the bottom of a trench, or a note that they do not fit into it.
+/// Adds pipes side by side on the bottom of a trench, or a note that they do not fit.
 void addPipes(Section& section, const PipeValues& pipes, const Box& trench);
 
 }  // namespace mero::picture

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Section of an infiltration shaft: ring, water, filter and sand layer, and how high the groundwater may be.
+/// Makes the section of an infiltration shaft: wall, water, filter and sand layer.
+/// Also shows the highest permitted groundwater level.
 #include <algorithm>
 #include <cmath>
 
@@ -10,20 +11,20 @@
 namespace mero::picture {
 namespace {
 
-/// Length of the inlet that is shown, as a share of the inner width.
+/// Length of the drawn inlet, as a share of the inner width.
 constexpr double kInletLength = 0.3;
 
 bool canDrawShaft(const ShaftValues& values) {
     const bool rectangle_drawable = !values.rectangular || canDraw(values.inner_length_m);
     const bool sand_drawable = values.sand_layer_m == 0 || canDraw(values.sand_layer_m);
-    // No water at all is a result, too.
+    // A water level of 0 is a valid result.
     const bool level_drawable = *values.water_level_m == 0 || canDraw(*values.water_level_m);
     return canDraw(values.inner_width_m) && canDraw(values.wall_m) && canDraw(values.inlet_depth_m) &&
            canDraw(values.filter_layer_m) && canDraw(*values.depth_m) &&
            canDraw(*values.required_embedding_m) && rectangle_drawable && sand_drawable && level_drawable;
 }
 
-/// One layer after the other, from the ground down.
+/// Adds the layers from the ground down.
 class Stack {
   public:
     Stack(Section& section, double width_m) : section_(&section), width_m_(width_m) {}

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Points, boxes and what areas and lines stand for. The painter decides on colours and patterns.
+/// Points, boxes, and the meanings of areas and lines.
+/// The painters choose colours and patterns.
 #pragma once
 
 namespace mero::picture {
@@ -21,7 +22,7 @@ struct Box {
     friend bool operator==(const Box&, const Box&) = default;
 };
 
-/// What an area is filled with.
+/// What fills an area.
 enum class Material {
     Soil,
     Water,
@@ -37,19 +38,21 @@ enum class Material {
     CriticalPoint,
 };
 
-/// What a line stands for.
+/// What a line represents.
 enum class Stroke {
     Ground,
     Outline,
     Water,
     Groundwater,
-    GroundwaterLimit,  ///< how high the groundwater may stand
+    GroundwaterLimit,  ///< the highest permitted groundwater level
     Flow,
     Dimension,
     Leader,
     Axis,
     GridLine,
     Curve,
+    FineGridLine,  ///< between the decades of a logarithmic axis
+    Series,        ///< one of several lines in a chart; PlacedLine::series says which
 };
 
 }  // namespace mero::picture

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Sections of surface infiltration and of a swale.
-/// Of both only the area is known: it is drawn as wide as a square of that area.
+/// Makes the sections of surface infiltration and of a swale.
+/// Only their areas are known, so they are drawn as wide as a square of that area.
 #include <cmath>
 
 #include "picture/facility_sections.h"
@@ -10,12 +10,12 @@
 namespace mero::picture {
 namespace {
 
-/// Soil that is shown below a surface, as a share of its width.
+/// Depth of the soil below a surface, as a share of its width.
 constexpr double kSoilBelowSurface = 0.25;
 constexpr int kFlowArrows = 7;
 constexpr double kArrowStart = 0.15;
 constexpr double kArrowEnd = 0.6;
-/// Groundwater deeper than so many times the ponding makes the swale too flat.
+/// Groundwater deeper than so many times the ponding is drawn below a break line.
 constexpr double kUnbroken = 2.5;
 
 std::string square(float area_m2, double side_m) {

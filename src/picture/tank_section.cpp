@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Section of an infiltration tank across its width, filled as far as the critical rain fills it.
+/// Makes the section of an infiltration tank across its width.
+/// The water stands as high as after the critical rain.
 #include <algorithm>
 
 #include "calc/tank.h"
@@ -10,7 +11,7 @@
 namespace mero::picture {
 namespace {
 
-/// Halvings of the depth; each one makes the level twice as exact, and a pixel is coarse.
+/// Bisection steps for the water level; far more exact than a pixel.
 constexpr int kHalvings = 24;
 
 float volumeUpTo(const TankValues& values, float depth_m) {
@@ -22,7 +23,7 @@ float volumeUpTo(const TankValues& values, float depth_m) {
          .depth_m = depth_m});
 }
 
-/// Depth of the water when the tank holds the required storage; a full tank when it cannot hold it.
+/// Depth of the water with the required storage, at most the depth of the tank.
 double waterDepth(const TankValues& values) {
     if (*values.required_storage_m3 >= *values.volume_m3) {
         return values.depth_m;

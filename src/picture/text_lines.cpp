@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Breaking and centring of texts.
+/// Breaks texts into lines and centres them.
+/// A line takes as many words as fit.
 #include "picture/text_lines.h"
 
 #include <algorithm>
@@ -7,7 +8,8 @@
 
 namespace mero::picture {
 
-std::vector<std::string> brokenLines(std::string_view text, double width, const TextSizes& sizes) {
+std::vector<std::string> brokenLines(std::string_view text, double width, const TextSizes& sizes,
+                                     Emphasis emphasis) {
     std::vector<std::string> lines;
     std::string line;
     while (!text.empty()) {
@@ -17,11 +19,11 @@ std::vector<std::string> brokenLines(std::string_view text, double width, const 
         std::string longer = line;
         longer += line.empty() ? "" : " ";
         longer += word;
-        if (sizes.width(longer) <= width) {
+        if (sizes.width(longer, emphasis) <= width) {
             line = longer;
             continue;
         }
-        if (sizes.width(word) > width) {
+        if (sizes.width(word, emphasis) > width) {
             return {};
         }
         lines.push_back(std::exchange(line, word));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Sections of a trench and of a trench under a swale, across their length.
+/// Makes the sections of a trench and of a trench under a swale, across their length.
 #include <algorithm>
 
 #include "picture/facility_sections.h"
@@ -8,7 +8,7 @@
 namespace mero::picture {
 namespace {
 
-/// The filled trench from `top_m` down, with its dimensions.
+/// Adds the filled trench from `top_m` down, with its dimensions.
 Box addTrench(Section& section, const TrenchValues& values, double top_m) {
     const double width = values.width_m;
     const double height = values.height_m;

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
-/// Painting of drawings.
-/// Patterns are lines and dots of the painter, not pixel patterns: they are sharp at any scale.
+/// Paints drawings with QPainter.
+/// Patterns consist of painted lines and dots instead of brush pixmaps, so they are sharp at any scale.
 #include "qt/picture_painter.h"
 
 #include <QFontMetricsF>
 #include <QPainterPath>
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
+#include "picture/line_style.h"
 #include "qt/look.h"
 #include "qt/texts.h"
 
@@ -102,37 +105,53 @@ void paintPattern(QPainter& painter, const QPolygonF& polygon, Material material
     painter.restore();
 }
 
-double penWidth(Stroke stroke, double line) {
-    switch (stroke) {
-        case Stroke::Ground:
-        case Stroke::Curve:
-            return line / 7;
-        case Stroke::Outline:
-        case Stroke::Water:
-        case Stroke::Groundwater:
-        case Stroke::GroundwaterLimit:
-            return line / 10;
-        case Stroke::Flow:
-        case Stroke::Dimension:
-        case Stroke::Axis:
-            return line / 14;
-        case Stroke::Leader:
-        case Stroke::GridLine:
-            break;
-    }
-    return line / 20;
-}
-
-QPen penOf(const QPalette& palette, Stroke stroke, double line) {
-    QPen pen(inkColour(palette, stroke), penWidth(stroke, line));
+QPen penOf(const QPalette& palette, const picture::PlacedLine& placed, double line) {
+    const QColor colour = placed.stroke == Stroke::Series ? seriesColour(palette, placed.series)
+                                                          : inkColour(palette, placed.stroke);
+    QPen pen(colour, picture::strokeWidth(placed.stroke, line));
     pen.setCapStyle(Qt::RoundCap);
     pen.setJoinStyle(Qt::RoundJoin);
-    if (stroke == Stroke::Groundwater) {
-        pen.setDashPattern({6, 3});
-    } else if (stroke == Stroke::GroundwaterLimit) {
-        pen.setDashPattern({2, 3});
+    const std::vector<double> dashes = picture::dashesOf(placed);
+    if (!dashes.empty()) {
+        pen.setDashPattern({dashes.begin(), dashes.end()});
     }
     return pen;
+}
+
+void paintMark(QPainter& painter, const picture::PlacedMark& mark, const QPalette& palette, double line) {
+    const QColor colour = seriesColour(palette, mark.series);
+    painter.setPen(QPen(colour, line / 16));
+    painter.setBrush(picture::isFilled(mark) ? colour : fillColour(palette, Material::Air));
+    const std::vector<picture::Point> corners = picture::cornersOf(mark);
+    if (corners.empty()) {
+        painter.drawEllipse(pointOf(mark.centre), mark.radius, mark.radius);
+    } else {
+        painter.drawPolygon(polygonOf(corners));
+    }
+}
+
+/// The text fills its box: it was measured in this font, so its alignment does not matter.
+void paintText(QPainter& painter, const picture::PlacedText& text, const QPalette& palette,
+               const QFont& font) {
+    QFont sized = pictureFont(font, text.emphasis);
+    if (text.size != 1.0) {
+        sized.setPointSizeF(sized.pointSizeF() * text.size);
+    }
+    painter.setFont(sized);
+    painter.setPen(textColour(palette, text.emphasis));
+    const QRectF box = rectOf(text.box);
+    // Leaders and grid lines stop at a text.
+    painter.fillRect(box, fillColour(palette, Material::Air));
+    if (!text.upright) {
+        painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, shown(text.text));
+        return;
+    }
+    painter.save();
+    painter.translate(box.center());
+    painter.rotate(-90);
+    painter.drawText(QRectF(-box.height() / 2, -box.width() / 2, box.height(), box.width()),
+                     Qt::AlignCenter | Qt::TextDontClip, shown(text.text));
+    painter.restore();
 }
 
 }  // namespace
@@ -192,13 +211,24 @@ QColor inkColour(const QPalette& palette, Stroke stroke) {
             return neutral(palette, 0.45);
         case Stroke::GridLine:
             return neutral(palette, 0.2);
+        case Stroke::FineGridLine:
+            return neutral(palette, 0.1);
         case Stroke::Ground:
         case Stroke::Outline:
         case Stroke::Dimension:
         case Stroke::Axis:
+        case Stroke::Series:
             break;
     }
     return neutral(palette, 0.8);
+}
+
+QColor seriesColour(const QPalette& palette, std::size_t series) {
+    const QColor on_white = QColor::fromRgb(picture::seriesColour(series));
+    const bool dark_paper = palette.color(QPalette::Active, QPalette::Base).lightnessF() < 0.5F;
+    return dark_paper ? QColor::fromHslF(std::max(on_white.hslHueF(), 0.0F), on_white.hslSaturationF(),
+                                         1.0F - on_white.lightnessF())
+                      : on_white;
 }
 
 QColor textColour(const QPalette& palette, Emphasis emphasis) {
@@ -223,25 +253,14 @@ void paintDrawing(QPainter& painter, const picture::Drawing& drawing, const QPal
     }
     painter.setBrush(Qt::NoBrush);
     for (const picture::PlacedLine& placed : drawing.lines) {
-        painter.setPen(penOf(palette, placed.stroke, line));
+        painter.setPen(penOf(palette, placed, line));
         painter.drawPolyline(polygonOf(placed.points));
     }
+    for (const picture::PlacedMark& mark : drawing.marks) {
+        paintMark(painter, mark, palette, line);
+    }
     for (const picture::PlacedText& text : drawing.texts) {
-        painter.setFont(pictureFont(font, text.emphasis));
-        painter.setPen(textColour(palette, text.emphasis));
-        const QRectF box = rectOf(text.box);
-        // Leaders and grid lines stop at a text.
-        painter.fillRect(box, fillColour(palette, Material::Air));
-        if (!text.upright) {
-            painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, shown(text.text));
-            continue;
-        }
-        painter.save();
-        painter.translate(box.center());
-        painter.rotate(-90);
-        painter.drawText(QRectF(-box.height() / 2, -box.width() / 2, box.height(), box.width()),
-                         Qt::AlignCenter | Qt::TextDontClip, shown(text.text));
-        painter.restore();
+        paintText(painter, text, palette, font);
     }
 }
 

@@ -19,6 +19,8 @@ namespace mero::qt {
 /// Fill and ink of what a drawing shows, in the colours of the palette.
 [[nodiscard]] QColor fillColour(const QPalette& palette, picture::Material material);
 [[nodiscard]] QColor inkColour(const QPalette& palette, picture::Stroke stroke);
+/// Colour of a series in a chart; on dark paper a light one of the same hue.
+[[nodiscard]] QColor seriesColour(const QPalette& palette, std::size_t series);
 [[nodiscard]] QColor textColour(const QPalette& palette, picture::Emphasis emphasis);
 
 void paintDrawing(QPainter& painter, const picture::Drawing& drawing, const QPalette& palette,

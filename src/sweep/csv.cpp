@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// One row after the other into one growing text.
-/// A result that a variant has not is an empty cell, not a 0.
+/// Appends the rows to one text.
+/// A missing result is an empty cell, not a 0.
 #include "sweep/csv.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The rows of a sweep as CSV (RFC 4180): commas, points, lines ended by CR LF, UTF-8.
-/// The varied values, every result that one of the types can have, the verdicts by their codes.
+/// Formats the rows of a sweep as CSV (RFC 4180): commas, decimal points, CR LF, UTF-8.
+/// Columns: the varied values, every result that one of the types has, the verdicts' codes.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@
 
 namespace mero::sweep {
 
-/// The text as one cell: in quotes where it holds a comma, a quote or a line end.
+/// The text as one cell, quoted when it holds a comma, a quote or a line end.
 [[nodiscard]] std::string csvCell(std::string_view text);
 
 class CsvTable {
@@ -21,7 +21,8 @@ class CsvTable {
     CsvTable(const Variants& variants, const project::RainStore& rain);
 
     [[nodiscard]] std::string header() const;
-    /// Appends the rows of `count` variants from `first` on. Any thread may do so for a text of its own.
+    /// Appends the rows of `count` variants, starting with `first`. Threads may call it at the same time with
+    /// different texts.
     void appendRows(std::uint64_t first, std::uint64_t count, std::string& text) const;
 
   private:
@@ -30,7 +31,7 @@ class CsvTable {
     const Variants* variants_;
     const project::RainStore* rain_;
     std::vector<design::Quantity> results_;
-    std::vector<std::vector<std::string>> cells_;  ///< of the varied values, ready to write
+    std::vector<std::vector<std::string>> cells_;  ///< texts of the varied values
 };
 
 }  // namespace mero::sweep

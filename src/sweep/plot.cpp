@@ -1,21 +1,26 @@
 // SPDX-License-Identifier: MIT
-/// Choosing what to draw, and designing its variants once more.
-/// Further varied values stay at their first value; the subtitle says so.
+/// Chooses what to draw and designs the variants of the plot.
+/// Their results are not taken from the rows, which may be written without a plot.
 #include "sweep/plot.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
+
+#include "picture/arrange.h"
+#include "picture/svg_painter.h"
 
 namespace mero::sweep {
 namespace {
 
 using design::Quantity;
+using picture::kMostSeries;
+using picture::Series;
 
-/// Most points of one line and of all of them: a chart shows no more, and its values are kept in memory.
+/// The most points of one line; all values are kept in memory.
 constexpr std::size_t kMostPoints = 2000;
-/// Spread of the results from which a logarithmic axis shows more.
+/// Ratio of the largest to the smallest result from which the axis is logarithmic.
 constexpr double kWideSpread = 50.0;
+constexpr picture::Sheet kSheet_px{900.0, 560.0};
 
 Quantity mainResult(design::FacilityType type) {
     switch (type) {
@@ -105,7 +110,7 @@ std::string withUnit(const std::string& label, const std::string& unit) {
     return unit.empty() ? label : label + " [" + unit + "]";
 }
 
-/// What stays at its first value: "Typ vsakování = trench".
+/// The varied values that are neither axis nor lines: "Typ vsakování = trench".
 std::string heldValues(const Variants& variants, const PlotPlan& plan) {
     std::string text;
     const auto& all = variants.variations();
@@ -182,6 +187,10 @@ Chart plotOf(const Variants& variants, const project::RainStore& rain, const Plo
     }
     chart.y.logarithmic = over.isLogarithmic() && spreadsWidely(chart.series);
     return chart;
+}
+
+std::string plotSvg(const Chart& chart) {
+    return picture::svgDocument(picture::arrange(chart, kSheet_px, picture::svgTextSizes()), kSheet_px);
 }
 
 }  // namespace mero::sweep

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Workers claim blocks in order and put their rows into a ring; the caller's thread empties it in order.
-/// A worker waits when the ring is full, so the fastest thread runs at most a ring ahead of the slowest.
+/// Workers claim blocks in order and put their rows into a ring buffer; the caller's thread empties it in
+/// order. A worker waits while the ring is full, which limits how far a fast thread gets ahead.
 #include "sweep/run_sweep.h"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ namespace mero::sweep {
 namespace {
 
 constexpr std::uint64_t kBlocksPerThread = 4;
-/// How soon a stop is noticed while no block is ready.
+/// How often the stop flag is polled while no block is ready.
 constexpr std::chrono::milliseconds kPatience{50};
 
 struct Slot {
@@ -32,7 +32,7 @@ class Ring {
           blocks_((plan.rows + plan.rows_per_block - 1) / plan.rows_per_block),
           slots_(std::max(plan.threads, 1U) * kBlocksPerThread) {}
 
-    /// One worker's life.
+    /// The loop of one worker thread.
     void work() {
         std::string rows;
         std::uint64_t block = 0;
@@ -66,7 +66,7 @@ class Ring {
         return outcome;
     }
 
-    /// No block is claimed any more.
+    /// Makes the workers claim no further blocks.
     void close() {
         const std::lock_guard lock(mutex_);
         closed_ = true;
@@ -110,12 +110,12 @@ class Ring {
         changed_.notify_all();
     }
 
-    /// Waits for the next block in order; false when there is none any more.
+    /// Waits for the next block in order; false after the last one.
     bool take(std::string& rows, SweepOutcome& outcome) {
         std::unique_lock lock(mutex_);
         while (true) {
             if (plan_->stop != nullptr && plan_->stop->load(std::memory_order_relaxed) && !closed_) {
-                // Blocks that are being computed are still written; they take milliseconds.
+                // The claimed blocks are still finished and written; they take milliseconds.
                 closed_ = true;
                 outcome.end = claimed_ < blocks_ ? SweepEnd::Stopped : outcome.end;
                 changed_.notify_all();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Runs a sweep on several threads and hands its rows over in their order.
-/// Only a few blocks of rows exist at a time, however many variants there are.
+/// Runs a sweep on several threads and writes its rows in order.
+/// Only a few blocks of rows are in memory at a time, regardless of the number of variants.
 #pragma once
 
 #include <atomic>
@@ -14,13 +14,13 @@ struct SweepPlan {
     std::uint64_t rows = 0;
     unsigned threads = 1;
     std::uint64_t rows_per_block = 2048;
-    /// Appends the rows of a block; called by several threads at a time, each with a text of its own.
+    /// Appends the rows of a block. Several threads call it at the same time with different texts.
     std::function<void(std::uint64_t first, std::uint64_t count, std::string& text)> append_rows;
-    /// Takes the rows in their order; false ends the sweep. Called by the caller's thread only.
+    /// Writes the next rows; false ends the sweep. Called in order, in the caller's thread.
     std::function<bool(std::string_view rows)> write;
-    /// Told now and then how many rows were written. Called by the caller's thread only; may be empty.
+    /// Receives the number of written rows from time to time, in the caller's thread. May be empty.
     std::function<void(std::uint64_t written)> progress;
-    /// Set from anywhere (a signal handler) to end the sweep with the rows so far; may be null.
+    /// Set by any thread or a signal handler to end the sweep after the rows so far. May be null.
     const std::atomic<bool>* stop = nullptr;
 };
 
@@ -31,7 +31,7 @@ struct SweepOutcome {
     std::uint64_t rows_written = 0;
 };
 
-/// @throws whatever `append_rows` throws
+/// @throws what `append_rows` throws
 SweepOutcome runSweep(const SweepPlan& plan);
 
 }  // namespace mero::sweep

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Ranges are counted once and computed from their start, so that no error adds up.
-/// The last value of a range is taken when it lies within rounding of the steps.
+/// Computes each value of a range from its start, so that rounding errors do not accumulate.
+/// The end of a range is included when it differs from the last step by rounding only.
 #include "sweep/value_lists.h"
 
 #include <cmath>
@@ -13,12 +13,12 @@ namespace mero::sweep {
 namespace {
 
 constexpr std::string_view kLogarithmic = "log";
-/// What a whole number of steps may be off by after a division.
+/// Tolerance of a whole number of steps after a division.
 constexpr double kStepRounding = 1e-6;
 
 double numberOf(std::string_view text) {
     try {
-        // The strict grammar decides; the digits are taken in full.
+        // strictSingle() checks the grammar; leadingNumber() reads all digits.
         static_cast<void>(numbers::strictSingle(text));
     } catch (const RuntimeError&) {
         throw std::invalid_argument("expected a number, not \"" + std::string(text) + "\"");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The numbers of a range: arithmetic steps or a constant ratio.
+/// Expands ranges into numbers: equal steps or a constant ratio.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace mero::sweep {
 
-/// Most values that one variation takes.
+/// The largest number of values of one variation.
 inline constexpr std::size_t kMostValues = 100'000;
 
 struct NumberRange {
@@ -17,11 +17,11 @@ struct NumberRange {
     bool logarithmic = false;
 };
 
-/// The numbers of FROM:TO:STEP or log:FROM:TO:COUNT; nothing when the text is no range.
-/// @throws std::invalid_argument with the reason when it is a range that cannot be used
+/// The numbers of FROM:TO:STEP or log:FROM:TO:COUNT; nothing when the text is not a range.
+/// @throws std::invalid_argument with the reason when the range is invalid
 [[nodiscard]] std::optional<NumberRange> numberRange(std::string_view text);
 
-/// The parts of a text between the separators; empty parts are kept.
+/// Splits a text at the separators; empty parts are kept.
 [[nodiscard]] std::vector<std::string_view> split(std::string_view text, char separator);
 
 }  // namespace mero::sweep

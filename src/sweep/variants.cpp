@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Counting, checking and walking the variants.
-/// What a type needs is checked for every combination of the choices that decide about it.
+/// Counts, checks and iterates over the variants.
+/// Missing values are checked for every combination of the choices that require them.
 #include "sweep/variants.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@
 namespace mero::sweep {
 namespace {
 
-/// The choices that decide which values a facility needs.
+/// The choices that determine which values a facility needs.
 constexpr const char* kDecidingPaths[] = {"facility.type", "facility.shape", "facility.variant",
                                           "facility.catalogue_shaft"};
 

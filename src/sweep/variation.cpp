@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// From PATH=VALUES to stored numbers and their texts.
-/// Each value goes through the same door as that of a project file.
+/// Parses PATH=VALUES into stored numbers and their texts.
+/// Values are converted by the same functions as those of a project file.
 #include "sweep/variation.h"
 
 #include <algorithm>
@@ -22,7 +22,7 @@ bool isNumber(const project::Field& field) {
     return field.kind == FieldKind::Number || field.kind == FieldKind::WholeNumber;
 }
 
-/// The text of a stored value, as files and axes show it.
+/// The text of a stored value in files and on axes.
 std::string textOf(const project::Field& field, float value) {
     const auto position = [&] { return static_cast<std::size_t>(value); };
     switch (field.kind) {
@@ -54,7 +54,7 @@ std::size_t positions(const project::Field& field) {
     }
 }
 
-/// The path of a sub-panel's value asks for the sub-panel: `facility.drain.pipe_count`.
+/// The object that holds the value: `facility.drain` for `facility.drain.pipe_count`.
 std::string objectOf(const std::string& path) {
     const std::size_t dot = path.rfind('.');
     return dot == std::string::npos ? std::string() : path.substr(0, dot);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// One value of a project that a sweep varies, and the values that it takes.
+/// One varied value of a project and the values that it takes.
 /// `facility.trench_width_m=0.6:2.0:0.1`, `rain.station=all`, `subsoil....=log:1e-6:1e-3:20`.
 #pragma once
 
@@ -14,7 +14,7 @@
 
 namespace mero::sweep {
 
-/// A variation that cannot be used; what() says which and why.
+/// Thrown for a variation that cannot be used; what() says which one and why.
 class VariationError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
@@ -25,7 +25,7 @@ class Variation {
     /// Reads PATH=VALUES. VALUES are a list with commas, a range FROM:TO:STEP (TO included), COUNT values
     /// log:FROM:TO:COUNT with a constant ratio, or `all` of a choice, the stations, the periodicities, the
     /// durations.
-    /// @throws VariationError for a path that the project has not, or values that it does not take
+    /// @throws VariationError for an unknown path or invalid values
     [[nodiscard]] static Variation parse(std::string_view text, const project::Project& project);
 
     [[nodiscard]] const std::string& path() const { return path_; }
@@ -33,15 +33,15 @@ class Variation {
     [[nodiscard]] const std::string& unit() const { return unit_; }
     [[nodiscard]] std::size_t size() const { return values_.size(); }
     [[nodiscard]] float value(std::size_t index) const { return values_[index]; }
-    /// The value as it stands on an axis: a periodicity is stored by its position.
+    /// The value on an axis. It differs from value() for a periodicity, which is stored by its position.
     [[nodiscard]] double magnitude(std::size_t index) const;
-    /// The value as a file shows it: a number, the name of a station, a word.
+    /// The value in a file: a number, the name of a station, a word.
     [[nodiscard]] const std::string& text(std::size_t index) const { return texts_[index]; }
-    /// Is it a quantity that can stand on an axis?
+    /// Whether the values are numbers, so that they can form an axis.
     [[nodiscard]] bool isNumeric() const { return numeric_; }
     [[nodiscard]] bool isLogarithmic() const { return logarithmic_; }
 
-    /// Puts the value into the inputs.
+    /// Stores the value in the inputs.
     void apply(project::Inputs& inputs, std::size_t index) const;
 
   private:

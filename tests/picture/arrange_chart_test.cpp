@@ -120,6 +120,14 @@ TEST(ArrangeChart, TheMarkedLabelComesFirstWhereNotAllHaveRoom) {
     EXPECT_THAT(texts, Not(Contains("100008")));
 }
 
+TEST(ArrangeChart, WithoutPointsThereIsStillAnAxis) {
+    Chart chart = bars({});
+    for (const auto kind : {Chart::Kind::Bars, Chart::Kind::Curve}) {
+        chart.kind = kind;
+        EXPECT_THAT(textsOf(arrange(chart, {300, 200}, plainSizes())), Contains("0"));
+    }
+}
+
 TEST(ArrangeChart, TheNoteStandsBelow) {
     Chart chart = bars({10});
     chart.note = "vstupy se změnily";

@@ -68,6 +68,19 @@ picture::Chart rain() {
     return picture::rainCurve(rains, rains[2]);
 }
 
+picture::LineChart lines() {
+    picture::LineChart chart;
+    chart.title = "Délka rýhy";
+    chart.x = {"Součinitel filtrace [m/s]", true};
+    chart.y.label = "Délka rýhy [m]";
+    chart.x_values = {1e-6, 1e-5, 1e-4};
+    chart.legend = "Periodicita [1/rok]";
+    for (const char* name : {"0.5", "0.2", "0.1", "0.05"}) {
+        chart.series.push_back({name, {30.0, 20.0, 10.0}});
+    }
+    return chart;
+}
+
 const std::vector<Sheet> kSheets{{300, 220}, {480, 320}, {900, 600}};
 
 struct PicturesInPalettes : testing::TestWithParam<bool> {
@@ -84,6 +97,9 @@ TEST_P(PicturesInPalettes, TextsAndLinesStandOutFromThePaper) {
         EXPECT_GE(contrast(inkColour(palette, stroke), paper), 3.0) << static_cast<int>(stroke);
     }
     EXPECT_GE(contrast(fillColour(palette, Material::CriticalBar), paper), 3.0);
+    for (std::size_t series = 0; series < picture::kMostSeries; ++series) {
+        EXPECT_GE(contrast(seriesColour(palette, series), paper), 3.0) << series;
+    }
 }
 
 TEST_P(PicturesInPalettes, TheCriticalBarAndTheMaterialsAreToldApart) {
@@ -97,7 +113,11 @@ TEST_P(PicturesInPalettes, NothingIsPaintedOutsideTheSheet) {
     constexpr int kAround = 20;
     for (const Sheet& sheet : kSheets) {
         for (const Drawing& drawing : {arrange(shaft(), sheet, textSizes(QApplication::font())),
-                                       arrange(rain(), sheet, textSizes(QApplication::font()))}) {
+                                       arrange(rain(), sheet, textSizes(QApplication::font())),
+                                       arrange(lines(), sheet, textSizes(QApplication::font()))}) {
+            if (drawing.lines.empty()) {
+                continue;  // a line chart needs a large sheet
+            }
             QImage image(static_cast<int>(sheet.width) + 2 * kAround,
                          static_cast<int>(sheet.height) + 2 * kAround, QImage::Format_RGB32);
             image.fill(paper);
@@ -129,11 +149,14 @@ TEST(PicturePainter, LabelsInRealFontsFitTheirBoxesAndKeepApart) {
         font.setPointSize(points);
         for (const Sheet& sheet : kSheets) {
             for (const Drawing& drawing :
-                 {arrange(shaft(), sheet, textSizes(font)), arrange(rain(), sheet, textSizes(font))}) {
+                 {arrange(shaft(), sheet, textSizes(font)), arrange(rain(), sheet, textSizes(font)),
+                  arrange(lines(), sheet, textSizes(font))}) {
                 SCOPED_TRACE(std::to_string(points) + " pt");
                 expectTidy(drawing, sheet);
                 for (const picture::PlacedText& text : drawing.texts) {
-                    const QFontMetricsF metrics(pictureFont(font, text.emphasis));
+                    QFont painted = pictureFont(font, text.emphasis);
+                    painted.setPointSizeF(painted.pointSizeF() * text.size);
+                    const QFontMetricsF metrics(painted);
                     const double room = text.upright ? text.box.height() : text.box.width();
                     const double lines = text.upright ? text.box.width() : text.box.height();
                     EXPECT_GE(room + 1e-6, metrics.horizontalAdvance(shown(text.text))) << text.text;
@@ -154,6 +177,19 @@ TEST(PicturePainter, TheCriticalBarHasTheHighlightColour) {
     painter.end();
     EXPECT_EQ(image.pixelColor(20, 25), lightColours().color(QPalette::Highlight));
     EXPECT_EQ(image.pixelColor(5, 25), QColor(Qt::white));
+}
+
+TEST(PicturePainter, MarksLieAboveTheirLines) {
+    Drawing drawing;
+    drawing.lines.push_back({Stroke::Series, {{0, 25}, {50, 25}}, 1});
+    drawing.marks.push_back({1, {25, 25}, 6});
+    QImage image(50, 50, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintDrawing(painter, drawing, lightColours(), QApplication::font());
+    painter.end();
+    EXPECT_EQ(image.pixelColor(25, 25), QColor(Qt::white)) << "the mark is open";
+    EXPECT_NE(image.pixelColor(1, 25), QColor(Qt::white)) << "the line";
 }
 
 TEST(PicturePainter, ATurnedTextRunsUpwards) {

@@ -27,7 +27,7 @@ ROOMS = {
     "design": ("calc", "data", "platform"),
     "report": ("calc", "data", "platform"),
     "project": (*CORE, "design"),
-    "sweep": (*CORE, "design", "project"),
+    "sweep": (*CORE, "picture", "design", "project"),
     "forms": (*CORE, "picture", "qt"),
     "automation": (*CORE, "forms"),
     "app": (*CORE, "design", "project", "sweep", "forms", "automation", "qt"),

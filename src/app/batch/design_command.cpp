@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 /// Reads the project, designs, prints, and writes the report that the window would write.
-/// Everything is read and checked before anything is written.
+/// All inputs are read and checked before anything is written.
 #include "app/batch/design_command.h"
 
 #include <iostream>
 #include <optional>
 
-#include "app/batch/command_line.h"
 #include "app/batch/design_output.h"
 #include "app/batch/failures.h"
-#include "app/common/options.h"
+#include "app/common/command_line.h"
 #include "app/common/program_folder.h"
 #include "design/design.h"
 #include "platform/clock.h"
@@ -38,7 +37,7 @@ constexpr const char* kHelp =
     "or there is no report or it cannot be written; 2 the project or the arguments cannot be used.\n";
 
 struct Options {
-    FolderOption folder;
+    std::string folder;
     std::string project;
     std::string report;
     std::optional<platform::DateTime> moment;
@@ -55,13 +54,9 @@ Options parse(std::span<const std::string_view> arguments) {
         } else if (*argument == "--report") {
             options.report = line.value();
         } else if (*argument == "--clock") {
-            const std::string text = line.value();
-            options.moment = platform::parseDateTime(text);
-            if (!options.moment) {
-                throw UsageError("not a date and time as 2026-11-20T14:05:09: " + text);
-            }
+            options.moment = dateAndTime(line.value());
         } else if (*argument == "--folder") {
-            options.folder.folder = existingFolder(line.value());
+            options.folder = existingFolder(line.value());
         } else if (*argument == "--help" || *argument == "-h") {
             options.help = true;
         } else {
@@ -95,7 +90,7 @@ int designProject(const Options& options) {
     const int station = project.inputs.rain.station;
     if (station > 0) {
         data::MdbRainDatabase database(rainReaderProgram());
-        rain.load(station, database, options.folder.orDefault());
+        rain.load(station, database, folderOrDefault(options.folder));
         if (rain.rain(station).demonstration) {
             std::cerr << "mero-batch: note: the rain database holds demonstration values, no measurements\n";
         }

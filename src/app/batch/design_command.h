@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// mero-batch design: one project file in, results and verdicts out.
+/// `mero-batch design`: designs one project file and prints its results and verdicts.
 #pragma once
 
 #include <span>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Captions and numbers are the window's: what the table shows stands in the box of the panel.
-/// The JSON carries the stored numbers in their shortest text.
+/// Formats the results. The table has the captions and decimals of the window's panels.
+/// The JSON has the stored numbers in their shortest text.
 #include "app/batch/design_output.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace {
 
 using automation::JsonLine;
 
-/// Number of characters, which UTF-8 stores in one byte or more each.
+/// Number of characters of a UTF-8 text.
 std::size_t width(const std::string& text) {
     return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
         constexpr unsigned kLead = 0xC0U;

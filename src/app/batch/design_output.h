@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The results of one design as text for people and as JSON for programs.
+/// Formats the results of one design as a text table and as JSON.
 #pragma once
 
 #include <string>
@@ -9,10 +9,10 @@
 
 namespace mero::app {
 
-/// Results and messages in lines; a result that the design has not is a dash.
+/// A table of results and messages; a missing result is printed as a dash.
 [[nodiscard]] std::string resultTable(const project::Project& project, const design::DesignResult& result);
 
-/// One JSON object: type, results by their names (null for those that the design has not), messages.
+/// One JSON object: type, results by name (null when missing), messages.
 [[nodiscard]] std::string resultJson(const project::Project& project, const design::DesignResult& result);
 
 }  // namespace mero::app

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-/// The last stop of every error of a command.
-/// What a user can mend is told by its own text, the rest by what the library says.
+/// Catches the exceptions of a command.
+/// Errors in arguments and projects exit with 2, all others with 1.
 #include "app/batch/failures.h"
 
 #include <exception>
 #include <iostream>
 #include <stdexcept>
 
-#include "app/common/options.h"
+#include "app/common/command_line.h"
 #include "platform/numbers/runtime_error.h"
 #include "project/read_project.h"
 #include "sweep/variation.h"

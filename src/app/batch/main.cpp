@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// mero-batch: the program without any window system.
-// The first argument is the command.
+/// mero-batch: the program without a window system.
+/// Runs the command that the first argument names.
 #include <array>
 #include <iostream>
 #include <span>

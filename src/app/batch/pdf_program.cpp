@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Starting the window program for one PDF file.
-/// Its exit status is all that it says.
+/// Starts the window program for one PDF file.
+/// The result depends on its exit status only.
 #include "app/batch/pdf_program.h"
 
 #include "app/common/program_folder.h"
@@ -12,7 +12,7 @@ using platform::PdfResult;
 
 PdfResult makePdfBy(const std::string& program, const std::string& document_path,
                     const std::string& target_path, std::chrono::milliseconds time_limit) {
-    // A program whose libraries are missing ends with this status, as one that is not there does in a shell.
+    // The status of a program whose libraries are missing; shells use it for a missing program.
     constexpr int kCannotStart = 127;
     const data::ReaderResult run =
         data::runReader({program, "--export-pdf", document_path, target_path}, time_limit);

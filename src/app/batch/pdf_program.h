@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// PDF files without a window system: the window program makes them in a process of its own.
+/// Makes PDF files without a window system: the window program makes them in its own process.
 #pragma once
 
 #include <chrono>
@@ -9,15 +9,15 @@
 
 namespace mero::app {
 
-/// Asks the program `mero` beside this one for a PDF file of a document. There are no means when it is not
-/// there or cannot start; a program that takes too long is stopped, and the file is not made.
+/// Runs the program `mero` beside this one to make a PDF file of a document. @return NoMeans
+/// when it is missing or cannot start; Failed when it fails or exceeds the time limit, which stops it
 [[nodiscard]] platform::PdfResult makePdfByWindowProgram(const std::string& document_path,
                                                          const std::string& target_path);
 
-/// How long the window program may take: a fraction of a second is enough, but not on a busy machine.
+/// Time limit of the window program. It needs a fraction of a second, more on a busy machine.
 inline constexpr std::chrono::milliseconds kPdfTimeLimit{30000};
 
-/// The same with another program.
+/// Runs another program instead; for tests.
 [[nodiscard]] platform::PdfResult makePdfBy(const std::string& program, const std::string& document_path,
                                             const std::string& target_path,
                                             std::chrono::milliseconds time_limit = kPdfTimeLimit);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Rewrites its line a few times a second.
-/// A log file that catches standard error sees nothing of it.
+/// Rewrites the line a few times a second.
+/// Nothing is written when standard error is redirected to a file.
 #include "app/batch/progress.h"
 
 #include <unistd.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The progress of a long run on one line of the terminal: rows, share, rate, time left.
+/// Shows the progress of a sweep on one line of the terminal: rows, share, rate, time left.
 #pragma once
 
 #include <chrono>
@@ -11,7 +11,7 @@ namespace mero::app {
 /// The line without its control characters.
 [[nodiscard]] std::string progressLine(std::uint64_t done, std::uint64_t all, double seconds);
 
-/// Writes to standard error, and only when that is a terminal.
+/// Writes to standard error when that is a terminal, otherwise nothing.
 class Progress {
   public:
     explicit Progress(std::uint64_t all);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// POSIX writing without buffers of its own: the rows come in blocks.
-/// An interrupted write goes on where it was.
+/// Writes with POSIX calls, unbuffered: the rows come in large blocks.
+/// An interrupted write is resumed.
 #include "app/batch/row_file.h"
 
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Where the rows of a sweep go: a file or standard output.
-/// Written in large pieces; a full disk is noticed and told.
+/// Writes the rows of a sweep to a file or to standard output.
+/// Errors such as a full disk are reported.
 #pragma once
 
 #include <string>
@@ -10,16 +10,16 @@ namespace mero::app {
 
 class RowFile {
   public:
-    /// @param path "" for standard output; an existing file is emptied
+    /// @param path "" for standard output; an existing file is truncated
     /// @throws std::runtime_error when the file cannot be opened
     explicit RowFile(const std::string& path);
     ~RowFile();
     RowFile(const RowFile&) = delete;
     RowFile& operator=(const RowFile&) = delete;
 
-    /// False when it cannot be written; failure() then says why.
+    /// Returns false when writing fails; failure() then says why.
     [[nodiscard]] bool write(std::string_view text);
-    /// Closes the file; false when what was written does not get there.
+    /// Closes the file; false when the data could not be stored.
     [[nodiscard]] bool close();
     [[nodiscard]] const std::string& failure() const { return failure_; }
 

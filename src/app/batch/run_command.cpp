@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Puts the program together without a window and lets the script drive it.
-/// The trace is all that goes to standard output.
+/// Creates the program without a window and runs the script on it.
+/// Only the trace goes to standard output.
 #include "app/batch/run_command.h"
 
 #include <fstream>
@@ -35,7 +35,7 @@ constexpr const char* kHelp =
     "written, 2 unusable script or arguments.\n";
 
 int runScript(const RunOptions& options, std::istream& script) {
-    const std::string folder = options.folder.empty() ? defaultProgramFolder() : options.folder;
+    const std::string folder = folderOrDefault(options.folder);
     if (!folderExists(folder)) {
         std::cerr << "mero-batch: " << folderMissing(folder) << '\n';
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// `mero-batch run`: follows a script on the forms without any window system.
+/// `mero-batch run`: runs a script on the forms without a window system.
 #pragma once
 
 #include <span>
@@ -8,7 +8,8 @@
 namespace mero::app {
 
 /// @param arguments what follows "run"
-/// @return exit status: 0 to the script's end, 1 ended by a run-time error, 2 unusable script or arguments
+/// @return exit status: 0 the script ran to its end, 1 a run-time error ended it, 2 unusable script or
+/// arguments
 int runCommand(std::span<const std::string_view> arguments);
 
 }  // namespace mero::app

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
-/// The list needs no database; a station's table is read from it.
-/// The columns are wide enough for every intensity that a station can have.
+/// Prints the list of stations without the database, and a station's table from it.
+/// The columns are wide enough for every possible intensity.
 #include "app/batch/stations_command.h"
 
 #include <iostream>
 #include <stdexcept>
 
-#include "app/batch/command_line.h"
 #include "app/batch/failures.h"
-#include "app/common/options.h"
+#include "app/common/command_line.h"
 #include "app/common/program_folder.h"
 #include "platform/numbers/number_text.h"
 #include "project/rain_store.h"
@@ -67,7 +66,7 @@ void printStation(int station, const design::StationRain& rain) {
     }
 }
 
-int showStation(const std::string& name, const FolderOption& folder) {
+int showStation(const std::string& name, const std::string& folder) {
     const project::Field& field = *project::findField("rain.station");
     int station = 0;
     try {
@@ -77,7 +76,7 @@ int showStation(const std::string& name, const FolderOption& folder) {
     }
     data::MdbRainDatabase database(rainReaderProgram());
     project::RainStore rain;
-    rain.load(station, database, folder.orDefault());
+    rain.load(station, database, folderOrDefault(folder));
     printStation(station, rain.rain(station));
     return kDone;
 }
@@ -86,12 +85,12 @@ int showStation(const std::string& name, const FolderOption& folder) {
 
 int stationsCommand(std::span<const std::string_view> arguments) {
     return reportingFailures([&] {
-        FolderOption folder;
+        std::string folder;
         std::string station;
         CommandLine line(arguments);
         while (const auto argument = line.next()) {
             if (*argument == "--folder") {
-                folder.folder = existingFolder(line.value());
+                folder = existingFolder(line.value());
             } else if (*argument == "--help" || *argument == "-h") {
                 std::cout << kHelp;
                 return kDone;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// mero-batch stations: the rain-gauge stations, and the table of one of them.
+/// `mero-batch stations`: lists the rain-gauge stations or prints the rain table of one.
 #pragma once
 
 #include <span>

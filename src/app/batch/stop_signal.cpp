@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The only thing that a signal handler may touch is a lock-free flag.
+/// The signal handler sets a lock-free atomic flag.
 /// A second Ctrl-C ends the program at once.
 #include "app/batch/stop_signal.h"
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-/// Ctrl-C as a wish that the program looks at when it suits it.
+/// Turns Ctrl-C into a flag that the sweep polls.
 #pragma once
 
 #include <atomic>
 
 namespace mero::app {
 
-/// From now on SIGINT and SIGTERM set the flag instead of ending the program.
-/// The flag belongs to the process, because a signal does.
+/// Installs handlers for SIGINT and SIGTERM that set the flag instead of ending the program.
+/// The flag is shared by the process, as its signal handlers are.
 [[nodiscard]] const std::atomic<bool>& stopOnSignals();
 
 }  // namespace mero::app

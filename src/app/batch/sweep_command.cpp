@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Reads project and variations, reads the rain of all stations, then designs and writes.
-/// Whatever is wrong with the arguments is told before a file is opened.
+/// Errors in the arguments are reported before a file is opened.
 #include "app/batch/sweep_command.h"
 
 #include <iostream>
@@ -8,12 +8,11 @@
 #include <utility>
 #include <vector>
 
-#include "app/batch/command_line.h"
 #include "app/batch/failures.h"
 #include "app/batch/progress.h"
 #include "app/batch/row_file.h"
 #include "app/batch/stop_signal.h"
-#include "app/common/options.h"
+#include "app/common/command_line.h"
 #include "app/common/program_folder.h"
 #include "project/read_project.h"
 #include "sweep/csv.h"
@@ -51,7 +50,7 @@ constexpr const char* kHelp =
     "arguments cannot be used, nothing was written; 130 ended by Ctrl-C.\n";
 
 struct Options {
-    FolderOption folder;
+    std::string folder;
     std::string project;
     std::vector<std::string> variations;
     std::string out;
@@ -81,7 +80,7 @@ Options parse(std::span<const std::string_view> arguments) {
         } else if (*argument == "--threads") {
             options.threads = static_cast<unsigned>(wholeNumber(line.value(), 1, kMostThreads, "--threads"));
         } else if (*argument == "--folder") {
-            options.folder.folder = existingFolder(line.value());
+            options.folder = existingFolder(line.value());
         } else if (*argument == "--help" || *argument == "-h") {
             options.help = true;
         } else {
@@ -111,7 +110,7 @@ project::RainStore rainOf(const sweep::Variants& variants, const Options& option
     data::MdbRainDatabase database(rainReaderProgram());
     bool demonstration = false;
     const std::vector<int> stations = variants.stations();
-    const std::string folder = stations.empty() ? std::string() : options.folder.orDefault();
+    const std::string folder = stations.empty() ? std::string() : folderOrDefault(options.folder);
     for (const int station : stations) {
         rain.load(station, database, folder);
         demonstration |= rain.rain(station).demonstration;
@@ -153,7 +152,7 @@ int writeRows(const sweep::Variants& variants, const project::RainStore& rain, c
 
 int drawPlot(const sweep::Variants& variants, const project::RainStore& rain, const Options& options) {
     RowFile file(options.plot);
-    if (!file.write(sweep::svg(sweep::plotOf(variants, rain, options.wish))) || !file.close()) {
+    if (!file.write(sweep::plotSvg(sweep::plotOf(variants, rain, options.wish))) || !file.close()) {
         std::cerr << "mero-batch: " << file.failure() << '\n';
         return kFailed;
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// mero-batch sweep: all variants of a project as rows of a CSV file, and as a plot.
+/// `mero-batch sweep`: designs all variants of a project and writes a CSV file and a plot.
 #pragma once
 
 #include <span>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Finding the program's folder and the reader program.
-/// Paths are bytes; nothing here depends on a locale.
+/// Finds the program's folder and the rain reader.
+/// Paths are treated as bytes, independent of the locale.
 #include "app/common/program_folder.h"
 
 #include <unistd.h>
@@ -36,9 +36,8 @@ fs::path userDataFolder() {
     return fs::path(home != nullptr ? home : "/") / ".local/share/mero";
 }
 
-/// Copies a file that is missing, whole or not at all: what a full disk or a program that starts at the same
-/// moment left half done would count as the user's own for ever. The copy is the user's to replace, whatever
-/// the original's permissions are.
+/// Copies a missing file atomically: a partial copy, left by a full disk or by another program that starts at
+/// the same moment, would be taken for the user's own file. The copy is writable even if the original is not.
 void fillFile(const fs::path& file, const fs::path& original) {
     std::error_code failure;
     if (fs::exists(file, failure)) {
@@ -53,7 +52,7 @@ void fillFile(const fs::path& file, const fs::path& original) {
     static_cast<void>(report::replaceWhole(file.string(), copy));
 }
 
-/// Copies what is missing of the rain database and the pages; what the user replaced by his own stays.
+/// Copies the missing files of the rain database and the pages; files that the user replaced stay.
 void fillWithMissing(const fs::path& folder, const fs::path& installed) {
     std::error_code ended;
     fs::create_directories(folder, ended);
@@ -85,9 +84,13 @@ std::string defaultProgramFolder() {
         return beside.string();
     }
     const fs::path folder = userDataFolder();
-    // An unpacked archive that nobody here may write has its data beside the programs.
+    // A read-only unpacked archive has its data beside the programs.
     fillWithMissing(folder, own_folder ? beside : beside / kInstalledData);
     return folder.string();
+}
+
+std::string folderOrDefault(const std::string& folder) {
+    return folder.empty() ? defaultProgramFolder() : folder;
 }
 
 bool folderExists(const std::string& folder) {

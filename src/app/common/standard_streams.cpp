@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Holding the first three descriptors.
-/// An output is opened for reading, so that printing fails as it does on a closed one.
+/// Opens /dev/null for closed descriptors.
+/// Outputs are opened for reading only, so that printing fails as on a closed descriptor.
 #include "app/common/standard_streams.h"
 
 #include <fcntl.h>
@@ -14,7 +14,7 @@ namespace mero::app {
 void holdStandardStreams() {
     for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
         if (::fcntl(descriptor, F_GETFD) < 0 && errno == EBADF) {
-            // The lowest free descriptor is this one.
+            // open() returns the lowest free descriptor, which is this one.
             static_cast<void>(::open("/dev/null", O_RDONLY));
         }
     }

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-/// Standard input, output and error output, whatever the program was started with.
-/// Without them the next file that is opened takes their place, and gets what is printed.
+/// Makes sure that descriptors 0, 1 and 2 are open.
+/// Otherwise the next opened file would get one of these numbers and receive what is printed.
 #pragma once
 
 namespace mero::app {
 
-/// Puts something in the place of each of the three that is closed: input that is at its end, outputs that
-/// fail.
+/// Replaces each closed descriptor: input is at its end, writing to the outputs fails.
 void holdStandardStreams();
 
-/// Says on error output that the trace could not be written. The exit status for that.
+/// Reports on standard error that the trace could not be written. @return the exit status
 [[nodiscard]] int traceFailed(const char* program);
 
 }  // namespace mero::app

@@ -86,7 +86,7 @@ class Mero {
         : scripted_(!options.script.empty()),
           script_name_(options.script),
           script_(std::move(script)),
-          folder_(options.folder.empty() ? app::defaultProgramFolder() : options.folder),
+          folder_(app::folderOrDefault(options.folder)),
           real_desk_(scripted_ ? app::Sitter::Script : app::Sitter::Person, report::viewHtml),
           trace_desk_(std::cout, &real_desk_, folder_),
           clock_(options.frozen_moment ? std::unique_ptr<platform::Clock>(

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
-/// Walking the arguments.
-/// A text behind "=" that nobody asked for is an error of the option before.
-#include "app/batch/command_line.h"
+/// Iterates over the arguments and converts their values.
+/// A value behind "=" that was not read is reported when the next argument is asked for.
+#include "app/common/command_line.h"
 
 #include <charconv>
 #include <filesystem>
 #include <system_error>
-
-#include "app/common/options.h"
-#include "app/common/program_folder.h"
+#include <utility>
 
 namespace mero::app {
 
@@ -64,6 +62,14 @@ std::string existingFolder(const std::string& text) {
     return folder.string();
 }
 
+platform::DateTime dateAndTime(const std::string& text) {
+    const auto parsed = platform::parseDateTime(text);
+    if (!parsed) {
+        throw UsageError("not a date and time as 2026-11-20T14:05:09: " + text);
+    }
+    return *parsed;
+}
+
 int wholeNumber(const std::string& text, int least, int most, std::string_view option) {
     int number = 0;
     const char* const end = text.data() + text.size();
@@ -72,10 +78,6 @@ int wholeNumber(const std::string& text, int least, int most, std::string_view o
         throw UsageError(std::string(option) + ": not a whole number in its limits: " + text);
     }
     return number;
-}
-
-std::string FolderOption::orDefault() const {
-    return folder.empty() ? defaultProgramFolder() : folder;
 }
 
 }  // namespace mero::app
