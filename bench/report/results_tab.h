@@ -11,27 +11,10 @@
 #include "data/rain_database.h"
 #include "forms/calc/program.h"
 #include "platform/clock.h"
-#include "platform/desk.h"
 #include "platform/locale_settings.h"
+#include "support/recording_desk.h"
 
 namespace mero::bench {
-
-/// A desk whose user answers everything at once and to whom nothing is told.
-class SilentDesk : public platform::Desk {
-  public:
-    void showMessage(const platform::Message& /*message*/) override {}
-    void reportError(const RuntimeError& /*error*/) override {}
-    void openAddress(const std::string& /*address*/) override {}
-    void formOpened(const std::string& /*form*/) override {}
-    void formClosed(const std::string& /*form*/) override {}
-    void navigated(const std::string& /*view*/, const std::string& /*path*/) override {}
-    void openPrintPreview(const std::string& /*path*/) override {}
-    std::optional<std::string> askSavePath(const std::string& /*suggested_path*/) override {
-        return std::nullopt;
-    }
-    void saved(const std::string& /*path*/) override {}
-    void ended() override {}
-};
 
 /// One station with the same heavy rain in every row.
 class OneRain : public data::RainDatabase {
@@ -65,7 +48,7 @@ class Folder {
 
 struct ResultsTab {
     Folder folder;
-    SilentDesk desk;
+    test::RecordingDesk desk;
     platform::SystemClock clock;
     platform::ProgramLocale locale{".", "", ","};
     OneRain rain;
@@ -101,6 +84,7 @@ struct ResultsTab {
             program.window().SSTab1.userSelect(forms::kTabInputs);
             program.window().SSTab1.userSelect(forms::kTabResults);
         });
+        desk.forget();
     }
 };
 

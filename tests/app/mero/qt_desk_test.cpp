@@ -12,13 +12,15 @@
 #include <csignal>
 #include <filesystem>
 
+#include "support/message_box.h"
 #include "support/temporary_folder.h"
 
 namespace mero::app {
 namespace {
 
-using platform::Message;
-using platform::MessageIcon;
+using mero::test::critical;
+using mero::test::exclamation;
+using mero::test::messageOf;
 
 std::string plain(std::string_view bytes) {
     return std::string(bytes);
@@ -46,7 +48,7 @@ TEST(RealDesk, ShowsIconTextAndTitle) {
     QtDesk desk(Sitter::Person, plain);
     Seen seen;
     closeNextBox(seen);
-    desk.showMessage({"Vyberte odtokový součinitel", MessageIcon::Exclamation, "Chyba"});
+    desk.showMessage(messageOf(exclamation("Vyberte odtokový součinitel", "Chyba")));
     EXPECT_EQ(seen.text, "Vyberte odtokový součinitel");
     EXPECT_EQ(seen.title, "Chyba");
     EXPECT_EQ(seen.icon, QMessageBox::Warning);
@@ -56,7 +58,7 @@ TEST(RealDesk, WithoutATitleTheApplicationsShows) {
     QtDesk desk(Sitter::Person, plain);
     Seen seen;
     closeNextBox(seen);
-    desk.showMessage({"a < b\r\nc\r\n", MessageIcon::Critical});
+    desk.showMessage(messageOf(critical("a < b\r\nc\r\n")));
     EXPECT_EQ(seen.title, "MERO");
     EXPECT_EQ(seen.text, "a < b\nc");
     EXPECT_EQ(seen.icon, QMessageBox::Critical);
@@ -157,7 +159,7 @@ TEST(RealDesk, DoesNotWaitForABrowserThatRunsOn) {
 
 TEST(RealDesk, AnswersAScriptAtOnce) {
     QtDesk desk(Sitter::Script, plain);
-    desk.showMessage({"Zadejte dílčí plochu", MessageIcon::Exclamation, "Chyba"});
+    desk.showMessage(messageOf(exclamation("Zadejte dílčí plochu", "Chyba")));
     desk.openAddress("https://www.chmi.cz/");
     desk.openPrintPreview("/nonexistent");
     EXPECT_FALSE(desk.askSavePath("/tmp/x").has_value());
