@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Painting of drawings.
-/// Patterns are lines and dots of the painter, not pixel patterns: they are sharp at any scale.
+/// Paints drawings.
+/// Patterns are painted as lines and dots, not as pixel patterns, so they are sharp at any scale.
 #include "qt/picture_painter.h"
 
 #include <QFontMetricsF>
@@ -45,7 +45,7 @@ QColor accent(const QPalette& palette, double share) {
                  palette.color(QPalette::Active, QPalette::Highlight), share);
 }
 
-/// Oblique lines over the whole box.
+/// Diagonal lines over the whole box.
 void hatch(QPainter& painter, const QRectF& box, double distance) {
     const int count = static_cast<int>((box.width() + box.height()) / distance);
     for (int i = 0; i <= count; ++i) {
@@ -230,7 +230,7 @@ void paintDrawing(QPainter& painter, const picture::Drawing& drawing, const QPal
         painter.setFont(pictureFont(font, text.emphasis));
         painter.setPen(textColour(palette, text.emphasis));
         const QRectF box = rectOf(text.box);
-        // Leaders and grid lines stop at a text.
+        // Leaders and grid lines end at a text.
         painter.fillRect(box, fillColour(palette, Material::Air));
         if (!text.upright) {
             painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, shown(text.text));
