@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Time of one keystroke in a field of the main window, without the window system.
-// Every text box of the form is typed into; the slowest is the one that counts.
+// Measures one keystroke in each text box of the main window, without the window system.
 #include <benchmark/benchmark.h>
 
 #include <memory>
@@ -65,7 +64,7 @@ void typeInto(benchmark::State& state, Site& site, platform::TextBox& box) {
     }
 }
 
-/// One benchmark for every text box that stands on the first tab or on the type's panel.
+/// One benchmark for every text box on the first tab or on the type's panel.
 void registerFields(Site& site, int type) {
     for (platform::Control* control : site.program.window().controls()) {
         auto* box = dynamic_cast<platform::TextBox*>(control);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A program whose results tab is entered again and again: rain, areas and soil given, any of the six types.
+/// A program whose results tab is entered repeatedly, with rain, areas and soil, for any of the six types.
 #pragma once
 
 #include <unistd.h>
@@ -27,7 +27,7 @@ class OneRain : public data::RainDatabase {
     }
 };
 
-/// A folder of its own, gone at the end.
+/// A temporary folder, removed at the end.
 class Folder {
   public:
     Folder() {
@@ -54,7 +54,7 @@ struct ResultsTab {
     OneRain rain;
     forms::Program program{{desk, clock, locale, rain, folder.path()}};
 
-    /// Starts the program and gives everything that the type needs.
+    /// Starts the program and enters all inputs of the type.
     void start(int type) {
         constexpr int kAreas = 20;
         program.start();
@@ -78,7 +78,7 @@ struct ResultsTab {
         }
     }
 
-    /// Leaves the tab to the inputs and enters it: the report is built, written and shown.
+    /// Switches to the inputs and back to the results: the report is built, written and shown.
     void enter() {
         program.enter([this] {
             program.window().SSTab1.userSelect(forms::kTabInputs);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The trace's lines, and that a real desk behind it is shown the same things.
+// The trace's lines, and that all calls are passed on to a real desk.
 #include "automation/trace_desk.h"
 
 #include <gmock/gmock.h>

@@ -34,11 +34,11 @@ inline MessageBox critical(std::string text, std::optional<std::string> title = 
     return {std::move(text), platform::MessageIcon::Critical, std::move(title)};
 }
 
-/// What the program hands to its desk, as a box.
+/// The box for a message that the program passes to its desk.
 inline MessageBox boxOf(const platform::Message& message) {
     return {message.text, message.icon, message.title};
 }
-/// A message that shows as this box, to hand to a desk.
+/// A message for this box, to pass to a desk.
 inline platform::Message messageOf(const MessageBox& box) {
     platform::Message message;
     message.text = box.text;

@@ -62,7 +62,7 @@ class RecordingDesk : public platform::Desk {
         }
         return numbers;
     }
-    /// Drops everything recorded, for programs that run on and on.
+    /// Drops everything recorded, so that memory does not grow in long runs.
     void forget() {
         lines.clear();
         messages.clear();

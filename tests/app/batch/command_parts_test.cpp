@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The line of progress, and the arguments of the commands.
+/// The progress line, and the arguments of the commands.
 #include "app/batch/progress.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The real desk: what its boxes say, and that a script is never kept waiting.
+/// The real desk: the content of its boxes, and that it never blocks a script.
 #include "app/mero/qt_desk.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ std::string plain(std::string_view bytes) {
     return std::string(bytes);
 }
 
-/// What a box showed before it was closed.
+/// Content of a box before it was closed.
 struct Seen {
     QString text;
     QString title;
@@ -34,7 +34,7 @@ struct Seen {
     int boxes = 0;
 };
 
-/// Closes the next box as a person would and tells what it showed.
+/// Closes the next box like a person and stores its content in `seen`.
 void closeNextBox(Seen& seen) {
     QTimer::singleShot(0, [&seen] {
         auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -77,10 +77,10 @@ TEST(RealDesk, ReportsErrorsWithNumberAndDescription) {
     EXPECT_EQ(seen.boxes, 2);
 }
 
-/// A search path with nothing on it but an opener of addresses, or not even that.
+/// A search path with only an opener of addresses, or without one.
 class OnlyOpener {
   public:
-    /// @param shell_script what the opener does; empty: there is none
+    /// @param shell_script the opener; empty: no opener
     explicit OnlyOpener(const std::string& shell_script) : path_before_(qgetenv("PATH")) {
         if (!shell_script.empty()) {
             folder_.write("xdg-open", "#!/bin/sh\n" + shell_script + "\n");
@@ -101,7 +101,7 @@ class OnlyOpener {
     test::TemporaryFolder folder_;
 };
 
-/// Opens an address and waits for a box; its text, empty when none came in that time.
+/// Opens an address and waits for a box. @return its text, empty when none appeared in time
 QString boxAfterOpening(int most_ms) {
     QtDesk desk(Sitter::Person, plain);
     QString text;
@@ -151,7 +151,7 @@ TEST(RealDesk, DoesNotWaitForABrowserThatRunsOn) {
     const OnlyOpener opener(R"(echo $$ >"${0%/*}/pid"; read line <>"${0%/*}/fifo")");
     ASSERT_EQ(mkfifo(opener.folder().file("fifo").c_str(), 0600), 0);
     EXPECT_EQ(boxAfterOpening(500), "");
-    // The desk is gone, the browser is not.
+    // The browser outlives the desk.
     const int browser = std::stoi(opener.folder().read("pid"));
     EXPECT_EQ(kill(browser, 0), 0);
     kill(browser, SIGKILL);
