@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Project files of arbitrary bytes: each must give an error of one line that names the file, or a project
-/// that reads back unchanged in any notation. Its design must give only finite numbers, and its report must
-/// have its frame.
+/// that reads back unchanged in any notation. Its design must give finite numbers, its report its frame.
 #include <cmath>
 #include <cstdint>
 #include <exception>

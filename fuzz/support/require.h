@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Checks a condition in a fuzz target: if it fails, prints it and aborts, so that the fuzzer keeps the
-/// input.
+/// Checks a condition in a fuzz target: on failure prints it and aborts, so that the fuzzer keeps the input.
 #pragma once
 
 #include <cstdlib>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Inflow into the facility for one rain. The main window shows it, and the drain of a trench is checked
-/// against it.
+/// Inflow into the facility for one rain. The window shows it; a trench's drain is checked against it.
 #pragma once
 
 namespace mero::calc {

@@ -6,8 +6,8 @@
 namespace mero::calc::surface {
 
 /// Infiltration area in balance with one rain: the rain on the reduced area and on the infiltration area
-/// equals the infiltration at half the saturated conductivity (Darcy's law with a unit gradient), (A_red +
-/// A_s) * i = A_s * kf / 2, solved for A_s.
+/// equals the infiltration at half the saturated conductivity (Darcy's law with a unit gradient),
+/// (A_red + A_s) * i = A_s * kf / 2, solved for A_s.
 ///
 /// If the soil takes less than the rain on it, the area is negative; the formula is applied unchanged.
 ///

@@ -66,8 +66,8 @@ struct Shape {
     float depth_m;
 };
 
-/// Volume of the shape: frustum of a pyramid, a third of the depth times bottom, top and their geometric
-/// mean [m3].
+/// Volume of the shape [m3]: frustum of a pyramid, a third of the depth times bottom, top and their
+/// geometric mean.
 /// @throws RuntimeError InvalidCall when the product of the four sides is negative, Overflow
 [[nodiscard]] inline float volume(const Shape& shape) {
     const double bottom_length = shape.bottom_length_m;

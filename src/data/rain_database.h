@@ -47,9 +47,8 @@ class RainDatabase {
     ///
     /// @param station_number number of the station in the database, not its position in the list
     /// @param path           the database file
-    /// @throws RuntimeError that ends the program when the file is missing, cannot be opened, lacks the table
-    /// or
-    ///         is damaged; its description names the file and the table
+    /// @throws RuntimeError that ends the program when the file is missing, cannot be opened, lacks the
+    ///         table or is damaged; its description names the file and the table
     [[nodiscard]] virtual StationTable read(std::int16_t station_number, const std::string& path) = 0;
 };
 

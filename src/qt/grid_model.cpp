@@ -82,7 +82,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QString GridModel::spokenPlace(const QModelIndex& index) const {
     const QString heading = headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString();
     QString row;
-    // A row is named by its first column that does not merge equal neighbours, because only that one is unique.
+    // A row is named by its first column that does not merge equal neighbours: only that one is unique.
     for (int column = 0; column < columns_ && row.isEmpty(); ++column) {
         if (!grid_->columns()[static_cast<std::size_t>(column)].merges_equal_neighbours) {
             row = data(this->index(index.row(), column), Qt::DisplayRole).toString();

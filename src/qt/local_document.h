@@ -17,8 +17,7 @@ class LocalDocument : public QTextDocument {
   public:
     explicit LocalDocument(Decoder decode, QObject* parent = nullptr);
 
-    /// Loads a file. If it is missing or cannot be read, the document is a page that says so and names the
-    /// file.
+    /// Loads a file. If it is missing or unreadable, the document is a page that says so and names the file.
     /// @return false in that case
     bool load(const QString& path);
     /// The file that was loaded last, empty before.

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Writes the report file with POSIX calls, whose error numbers distinguish a locked file from other
-/// failures.
+/// Writes the report file with POSIX calls, whose error numbers distinguish a locked file.
 #include "report/report_file.h"
 
 #include <fcntl.h>
@@ -80,8 +79,7 @@ bool isDenied(const std::string& path) {
     return !old.isOpen() && isPermissionDenied(errno);
 }
 
-/// For cases where a new file cannot replace the old one: a protected folder, a full disk, a link to a
-/// device.
+/// For cases where no new file can replace the old one: a protected folder, a full disk, a link to a device.
 WriteResult writeInPlace(const std::string& path, std::string_view bytes) {
     OpenFile file(path, O_CREAT | O_TRUNC);
     if (!file.isOpen()) {

@@ -96,8 +96,7 @@ void QtDesk::openAddress(const std::string& address) {
         }
         return;
     }
-    // The process may be the browser itself, running until it is closed: it outlives the desk and the
-    // program.
+    // The process may be the browser itself, running until it is closed: it outlives the program.
     auto* process = new QProcess;
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());

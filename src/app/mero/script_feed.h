@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Passes a script's lines to the runner while the window runs: from a file, or as they arrive on standard
-/// input.
+/// Passes a script's lines to the runner while the window runs: from a file or from standard input.
 #pragma once
 
 #include <QObject>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Converts the stored bytes of a field to a number, by the field's type.
-/// The database library's number texts are not used: they depend on the locale and show Singles as
-/// 0.15000001.
+/// The library's number texts are not used: they depend on the locale and show Singles as 0.15000001.
 #pragma once
 
 #include <cstddef>

@@ -28,8 +28,7 @@ class DropList : public Control {
     void add(std::string item);
     /// Selects by position. @throws RuntimeError SubscriptOutOfRange outside the list
     void select(int position);
-    /// Selects the entry with that text. A text that is not in the list selects nothing; no handler runs
-    /// then.
+    /// Selects the entry with that text. A text that is not in the list selects nothing and runs no handler.
     void selectText(std::string_view text);
     /// Position of the entry with that text, -1 for none.
     [[nodiscard]] int find(std::string_view text) const;

@@ -20,8 +20,7 @@ struct Places {
     std::size_t map = 0;
 };
 
-/// Finds them by the bytes of the table's first row: the duration as 16-bit and the first intensity as
-/// Single.
+/// Finds them by the bytes of the table's first row: 16-bit duration and first intensity as Single.
 /// @throws std::invalid_argument when the file does not have those bytes exactly once
 [[nodiscard]] Places placesOf(const std::string& file, double first_duration, double first_intensity);
 
