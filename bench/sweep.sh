@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Times a sweep of 1,000,000 variants to CSV, and its largest memory.
+# Measures the time and the peak memory of a sweep of 1,000,000 variants to CSV.
 # Use: bench/sweep.sh [MERO_BATCH]   by default the program of the preset "bench"
 set -euo pipefail
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Texts of numbers: any bytes as a text, and as a number that is written out and read again.
-/// Written texts hold nothing but digits and signs, and read back to what was written.
+/// Texts of numbers: reads arbitrary bytes as a text, and writes and reads them as a number.
+/// Written texts must consist of digits and signs and read back to the same number.
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -19,7 +19,7 @@ using mero::RuntimeError;
 using mero::fuzz::require;
 namespace numbers = mero::numbers;
 
-/// The value, or nothing and the number of the error.
+/// The value, or no value and the number of the error.
 template <typename Value>
 struct Read {
     std::optional<Value> value;
@@ -87,7 +87,7 @@ void checkCharacters(const std::string& text, std::string_view allowed) {
     require(text.find_first_of("123456789") != std::string::npos || text.front() != '-', "there is no -0");
 }
 
-/// Distance to the next larger value: the shortest digits are no farther from the value than that.
+/// Distance to the next larger value: the greatest difference of the shortest digits from the value.
 template <typename Real>
 double stepOf(Real value) {
     const Real magnitude = std::fabs(value);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Project files of any bytes: an error of one line that names the file, or a project that reads back to
-/// itself however it is written. Its design gives numbers only, and its report has its frame.
+/// Project files of arbitrary bytes: each must give an error of one line that names the file, or a project
+/// that reads back unchanged in any notation. Its design must give finite numbers, its report its frame.
 #include <cmath>
 #include <cstdint>
 #include <exception>
@@ -30,7 +30,7 @@ namespace project = mero::project;
 
 constexpr const char* kFile = "p.json";
 
-/// What a terminal shows as one short line.
+/// Requires an error text of one short line.
 void requireTold(std::string_view error) {
     constexpr std::size_t kLongest = 2000;
     require(error.starts_with(kFile), "an error names the file");
@@ -38,11 +38,11 @@ void requireTold(std::string_view error) {
     for (const char c : error) {
         require(static_cast<unsigned char>(c) >= ' ' && c != '\x7f', "an error is one line");
     }
-    // The other forms of dump() refuse what is not UTF-8.
+    // This form of dump() throws for texts that are not UTF-8.
     require(!nlohmann::json(error).dump().empty(), "an error is readable");
 }
 
-/// Nothing when it was refused; every other exception is a finding.
+/// The project, or empty when it was refused; any other exception is a finding.
 std::optional<project::Project> read(const std::string& document) {
     try {
         return project::readProject(document, kFile);
@@ -114,7 +114,8 @@ std::vector<std::string> textsOf(const project::Project& read) {
     return texts;
 }
 
-/// Written in other words: with and without line breaks, with every foreign character as its number.
+/// Requires the same project from other notations: with and without line breaks, with escapes for every
+/// character that is not ASCII.
 void requireReadsBack(const std::string& document, const project::Project& first) {
     const nlohmann::json parsed = nlohmann::json::parse(document);
     for (const int indent : {-1, 3}) {
@@ -156,7 +157,7 @@ void requireOutputs(project::Project read, const design::Site& site, const desig
         require(html.find(read.texts.txtProjName) != std::string::npos,
                 "the project's name stands as it was given");
     }
-    // Without the texts, which may tell of "inf" as they like.
+    // Without the texts, which may contain "inf".
     read.texts = {};
     read.texts.surfaces.resize(read.inputs.areas.size());
     requireNumbers(mero::app::resultTable(read, result));

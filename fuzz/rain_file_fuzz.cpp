@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Damaged rain databases: the input is a list of edits of the database that ships, or a whole file.
-/// Each is read by the reader program, which must answer in time with the whole table or with an error.
+/// Damaged rain databases: the input is a list of edits of the shipped database, or a whole file.
+/// The reader program must answer in time with the complete table or with an error.
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -34,7 +34,7 @@ std::string contentOf(const std::string& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// One edit as it stands in the input: what, where, with what.
+/// One edit as encoded in the input: kind, position, content.
 struct Edit {
     std::uint8_t operation = 0;
     std::uint8_t place = 0;
@@ -51,7 +51,7 @@ struct Edit {
     }
 };
 
-/// The page that an edit means: any, or, for an even place, one of those that the station's table hangs on.
+/// The page of an edit: any page, or for an even position one of the pages of the station's table.
 std::size_t pageOf(const std::string& file, const Edit& edit) {
     // Brno's rows are the only ones with 5 min and 115.5; the page names the header, the header its map.
     static const std::size_t rows = file.find(std::string("\x05\x00\x00\x00\xe7\x42", 6)) / kPage;
@@ -68,7 +68,7 @@ void apply(const Edit& edit, const std::string& original, std::string& file) {
     const std::size_t at = page + edit.offset % kPage;
     const std::size_t other = edit.value % (original.size() / kPage) * kPage;
     if (at + sizeof edit.value > file.size() || other + kPage > file.size()) {
-        return;  // cut off before
+        return;  // behind the end of the cut file
     }
     switch (edit.operation % 8) {
         case 0:
@@ -112,8 +112,8 @@ std::string damaged(std::string_view input, const std::string& original) {
     return file;
 }
 
-/// The sanitizers of the reader report into files of the folder; a fault of our own code is a finding, one of
-/// the database library is what the reader is a program of its own for.
+/// The reader's sanitizers write their reports to files in the folder. An error in our code is a finding; one
+/// in the database library is not, because the reader is a separate program for that reason.
 void requireSoundReader(const mero::monkey::SandboxFolder& folder) {
     for (const auto& entry : std::filesystem::directory_iterator(folder.programFolder())) {
         const std::string name = entry.path().filename().string();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The lines that come from the rain database's reader: any bytes are refused or are, to the last byte, the
-/// text of the table that they give.
+/// Output of the rain database's reader: arbitrary bytes must be refused, or be exactly the encoded text of
+/// the table that they decode to.
 #include <cmath>
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Stands in for the fuzzer in ordinary builds: runs every file of the given files and folders once.
-/// Seeds and findings of the past are replayed so with any compiler.
+/// Replaces the fuzzer in ordinary builds: runs every file of the given files and folders once, so that seeds
+/// and former findings are tested with any compiler.
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Reports with texts of any bytes: the document keeps its frame, and the code page never fails.
-/// What was stored as windows-1250 reads back to itself.
+/// Reports with texts of arbitrary bytes: the document must keep its frame, the conversion must not fail, and
+/// text stored as windows-1250 must read back unchanged.
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -21,7 +21,7 @@ using mero::fuzz::require;
 namespace design = mero::design;
 namespace report = mero::report;
 
-/// Takes texts and numbers off the front of the input.
+/// Reads texts and numbers from the front of the input.
 class Input {
   public:
     explicit Input(std::string_view bytes) : rest_(bytes) {}
@@ -112,7 +112,7 @@ void checkReport(const report::ReportData& data) {
     require(report::toWindows1250(report::fromWindows1250(stored)) == stored, "what is stored reads back");
 }
 
-/// With all texts left out, so that what the user typed is not blamed.
+/// Checks the report without texts, because the user's texts may contain anything.
 void checkNumbers(report::ReportData data) {
     for (std::string* text : textsOf(data)) {
         text->clear();

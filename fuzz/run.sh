@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: MIT
 # Builds the fuzz targets and runs one, or all of them one after another.
 # Use: fuzz/run.sh TARGET|all SECONDS        e.g. fuzz/run.sh script 600
-# What it learns is kept in build/fuzz/corpus/TARGET; a finding is left in build/fuzz/findings/TARGET and ends
-# the run with an error. To keep a finding for good: make it small (build/fuzz/fuzz/fuzz_TARGET
-# -minimize_crash=1 -runs=10000 FILE), put it into fuzz/regressions/TARGET under a name that tells what it is.
+# The corpus is kept in build/fuzz/corpus/TARGET; a finding is stored in build/fuzz/findings/TARGET and ends the
+# run with an error. To keep a finding as a test, minimize it (build/fuzz/fuzz/fuzz_TARGET -minimize_crash=1
+# -runs=10000 FILE) and put it into fuzz/regressions/TARGET under a descriptive name.
 set -euo pipefail
 
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
@@ -21,7 +21,7 @@ if [[ $1 == all ]]; then
 fi
 
 build_quietly fuzz
-# The fuzzer leaves without tidying up.
+# The fuzzer exits without removing its temporary files.
 export TMPDIR=$root/build/fuzz/tmp
 trap 'rm -rf -- "$TMPDIR"' EXIT
 mkdir -p "$TMPDIR"
@@ -36,7 +36,7 @@ for target in "${targets[@]}"; do
     options=(-max_total_time="$2" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$findings/")
     dictionary=$root/fuzz/dictionaries/$target.dict
     [[ ! -f $dictionary ]] || options+=(-dict="$dictionary")
-    # The reader is another process, whose coverage does not guide: up to 16 edits from the start.
+    # The reader is another process, whose coverage the fuzzer does not see: up to 16 edits from the start.
     [[ $target != rain_file ]] || options+=(-len_control=0 -max_len=160)
     echo "-- $target"
     log=$root/build/fuzz/$target.log

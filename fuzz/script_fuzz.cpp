@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Automation scripts: any bytes, line by line, on a program in a sandbox.
-/// After each line all that the monkey watches must hold, and the trace must be JSON lines.
+/// Automation scripts: arbitrary bytes, performed line by line on a program in a sandbox.
+/// After each line the monkey's rules must hold, and the trace must consist of JSON lines.
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -18,7 +18,7 @@ using mero::monkey::SandboxFolder;
 using mero::monkey::Stage;
 using mero::monkey::Watcher;
 
-// Enough for what one line can start; more only takes the fuzzer's time.
+// Enough for the later effects of a line; more lines only slow the fuzzer down.
 constexpr int kMostLines = 120;
 constexpr std::size_t kMostCharacters = 200;
 
@@ -47,7 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(fault.empty(), fault.empty() ? fault : std::string(fault).append(" after: ").append(line));
         if (watcher.lastStep() == Stage::Step::Unusable) {
             require(!stage.diagnostics().empty(), "an unusable line is explained");
-            continue;  // the rest of the input is worth trying
+            continue;  // try the rest of the input
         }
         saved = saved || stage.trace().find("\"saved\"") != std::string::npos;
         requireJsonLines(stage.trace());

@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
-# Run while the portable copy is installed: puts the libraries that programs and plugins need into lib, and the licence
-# of the Debian package that each came from into share/doc/licences.
-# In: bundled_programs, bundled_plugins, bundled_texts; CMAKE_INSTALL_PREFIX and DESTDIR as in every install script.
+# Run while the portable copy is installed: copies the libraries that programs and plugins need to lib, and the licences
+# of their Debian packages to share/doc/licences.
+# Inputs: bundled_programs, bundled_plugins, bundled_texts; CMAKE_INSTALL_PREFIX and DESTDIR as in every install script.
 
-# What belongs to the machine: the C and C++ libraries, the X11 and OpenGL libraries that match its drivers,
-# its fonts, its printing, and what these use: the machine's freetype would not work with an older harfbuzz.
+# Libraries of the machine, which are not copied: the C and C++ libraries, the X11 and OpenGL libraries that match its
+# drivers, fonts, printing, and their dependencies: the machine's freetype would not work with an older harfbuzz.
 set(of_the_machine
   "^ld-linux.*" "^lib(c|m|dl|rt|pthread|resolv|util|gcc_s|stdc\\+\\+)\\.so.*"
   "^lib(GL|EGL|GLX|GLdispatch|OpenGL|drm|gbm)\\.so.*"
@@ -33,7 +33,7 @@ foreach(library IN LISTS libraries)
   list(APPEND origins ${file})
 endforeach()
 
-# A library's path may be known to the package system with or without the leading /usr.
+# The package system may list a library's path with or without the leading /usr.
 find_program(DPKG_QUERY dpkg-query REQUIRED)
 set(packages "")
 foreach(file IN LISTS origins)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# An installed copy. The programs find the rest from their own place, so the prefix may be moved.
-# program_folder.cpp knows ../share/mero and ../libexec/mero.
+# An installed copy. The programs find their files by relative paths, so the prefix may be moved: program_folder.cpp uses
+# ../share/mero and ../libexec/mero.
 include(GNUInstallDirs)
 set(share ${CMAKE_INSTALL_DATAROOTDIR})
 set(doc ${share}/doc/mero)
@@ -15,7 +15,7 @@ install(DIRECTORY icons/ DESTINATION ${share}/icons/hicolor)
 install(FILES mero.desktop DESTINATION ${share}/applications)
 install(FILES local.mero.mero.metainfo.xml DESTINATION ${share}/metainfo)
 
-# Compressed as distributions want it: the best, and without the time of packing.
+# Compressed as distributions require: with the best compression and without a time stamp.
 find_program(GZIP gzip REQUIRED)
 function(install_compressed file folder name)
   set(compressed ${CMAKE_CURRENT_BINARY_DIR}/${name}.gz)

@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
-# The portable copy: one folder, which is at once the program's folder. Qt, libmdb and what these need come along in
-# lib, found from the programs' own place; what every desktop has (C and C++ library, X11, OpenGL, fonts) does not.
+# The portable copy: one folder, which is also the program's folder. Qt, libmdb and their dependencies are in lib, found by
+# a relative run path; libraries that every desktop has (C and C++ library, X11, OpenGL, fonts) are not included.
 set(RPATH_PROGRAMS mero mero-batch mero-rain)
 set_target_properties(${RPATH_PROGRAMS} PROPERTIES INSTALL_RPATH "$ORIGIN/lib")
 foreach(program IN LISTS RPATH_PROGRAMS)
-  # The older of the two tags also holds for what libraries and plugins load in their turn.
+  # DT_RPATH, the older of the two tags, also applies to libraries loaded by other libraries and plugins.
   target_link_options(${program} PRIVATE -Wl,--disable-new-dtags)
 endforeach()
 

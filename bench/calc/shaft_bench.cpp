@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// How long a whole shaft design takes, without the fields in between.
-/// Beside it, the same formulas in a plain loop.
+/// Measures a whole shaft design, without the rounding by fields,
+/// and for comparison the same formulas in a plain loop.
 #include "calc/shaft.h"
 
 #include <benchmark/benchmark.h>

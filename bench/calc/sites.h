@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Sites for the benchmarks of the design formulas: many different ones, the same in every run.
-/// Each benchmark stands beside a loop of the same formulas written by hand without checks.
+/// Each benchmark is compared with a hand-written loop of the same formulas without checks.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -14,7 +14,7 @@ namespace mero::calc::bench {
 
 inline constexpr std::size_t kSites = 256;
 
-/// What differs from site to site; the shares keep the values within what an engineer enters.
+/// Values that differ between sites; the shares keep them in the range that engineers enter.
 struct Site {
     float reduced_area_m2;
     float filtration_m_s;
@@ -51,13 +51,13 @@ template <typename Design>
 void overSites(benchmark::State& state, Design design) {
     const auto sites = makeSites();
     std::size_t n = 0;
-    for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores): how the library counts
+    for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores): the library's way of counting
         design(sites[n++ % kSites]);
     }
     state.SetItemsProcessed(state.iterations());
 }
 
-/// What the hand-written loops give back: the maximum and its row, -1 for none.
+/// Result of the hand-written loops: the maximum and its row, -1 for none.
 struct Found {
     double maximum = 0.0;
     int row = -1;

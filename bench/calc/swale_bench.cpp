@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// How long a whole swale design takes.
-/// Beside it, the same formulas in a plain loop.
+/// Measures a whole swale design, and for comparison the same formulas in a plain loop.
 #include "calc/swale.h"
 
 #include <benchmark/benchmark.h>

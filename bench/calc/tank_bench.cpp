@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// How long a whole tank design takes.
-/// Beside it, the same formulas in a plain loop.
+/// Measures a whole tank design, and for comparison the same formulas in a plain loop.
 #include "calc/tank.h"
 
 #include <benchmark/benchmark.h>

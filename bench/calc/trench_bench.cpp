@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// How long the length of a trench takes, alone and under a swale.
-/// Beside each, the same formulas in a plain loop.
+/// Measures the length of a trench, alone and under a swale,
+/// and for comparison the same formulas in a plain loop.
 #include "calc/trench.h"
 
 #include <benchmark/benchmark.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// How many whole designs a second: the window's results without the window, type by type.
-/// Each project enters a safety factor of its own, so the pages that calculate live do so for every change.
+/// Measures whole designs per second, type by type: the window's results without the window.
+/// Each project enters a safety factor, so the pages that calculate live do so for every change.
 #include "design/design.h"
 
 #include <benchmark/benchmark.h>

@@ -16,7 +16,7 @@ struct Project {
     Facility facility;
 };
 
-/// Sites of the formulas' benchmarks with the inputs of every panel.
+/// The sites of the formulas' benchmarks, with the inputs of every panel.
 inline std::array<Project, calc::bench::kSites> makeProjects(FacilityType type) {
     const auto sites = calc::bench::makeSites();
     std::array<Project, calc::bench::kSites> projects{};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The bare formulas of the same designs, each once: no fields that round, no live calculation, no verdicts.
-/// What stands between this and a whole design is what the window does besides.
+/// Measures only the formulas of the same designs, each once: no rounding by fields, no live calculation, no
+/// verdicts. The difference to a whole design is the time for these.
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
@@ -22,7 +22,7 @@ namespace {
 
 using numbers::toSingle;
 
-/// Runs `formulas` on one project after the other.
+/// Runs `formulas` on the projects in turn.
 template <typename Formulas>
 void run(benchmark::State& state, FacilityType type, Formulas formulas) {
     const auto projects = makeProjects(type);
@@ -85,7 +85,7 @@ void SwaleTrench(benchmark::State& state) {
                                               .trench = sectionOf(site, facility, facility.overflow)},
                                              site.rains)
                 .maximum);
-        if (!(length > 0.0F)) {  // the swale alone is enough
+        if (!(length > 0.0F)) {  // the swale alone is sufficient
             return volume;
         }
         const float depth = calc::swale_trench::swaleDepth(volume, length, facility.txtSirkaRyhy);

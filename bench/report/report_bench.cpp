@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Time from entering the results tab until the report is written, without a view. It may take 20 ms.
-// The drained area has twenty entries.
+// Measures the time from entering the results tab until the report is written, without a view (target: 20
+// ms). The drained area has twenty entries.
 #include <benchmark/benchmark.h>
 
 #include "report/results_tab.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Time from entering the results tab until the report is painted in the window. It may take 150 ms.
-// The window is drawn into memory unless the environment names another window system.
+// Measures the time from entering the results tab until the report is painted in the window (target: 150 ms).
+// The window is painted into memory unless the environment sets another window system.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>

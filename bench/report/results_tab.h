@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A program whose results tab is entered again and again: rain, areas and soil given, any of the six types.
+/// A program whose results tab is entered repeatedly, with rain, areas and soil, for any of the six types.
 #pragma once
 
 #include <unistd.h>
@@ -11,27 +11,10 @@
 #include "data/rain_database.h"
 #include "forms/calc/program.h"
 #include "platform/clock.h"
-#include "platform/desk.h"
 #include "platform/locale_settings.h"
+#include "support/recording_desk.h"
 
 namespace mero::bench {
-
-/// A desk whose user answers everything at once and to whom nothing is told.
-class SilentDesk : public platform::Desk {
-  public:
-    void showMessage(const platform::Message& /*message*/) override {}
-    void reportError(const RuntimeError& /*error*/) override {}
-    void openAddress(const std::string& /*address*/) override {}
-    void formOpened(const std::string& /*form*/) override {}
-    void formClosed(const std::string& /*form*/) override {}
-    void navigated(const std::string& /*view*/, const std::string& /*path*/) override {}
-    void openPrintPreview(const std::string& /*path*/) override {}
-    std::optional<std::string> askSavePath(const std::string& /*suggested_path*/) override {
-        return std::nullopt;
-    }
-    void saved(const std::string& /*path*/) override {}
-    void ended() override {}
-};
 
 /// One station with the same heavy rain in every row.
 class OneRain : public data::RainDatabase {
@@ -44,7 +27,7 @@ class OneRain : public data::RainDatabase {
     }
 };
 
-/// A folder of its own, gone at the end.
+/// A temporary folder, removed at the end.
 class Folder {
   public:
     Folder() {
@@ -65,13 +48,13 @@ class Folder {
 
 struct ResultsTab {
     Folder folder;
-    SilentDesk desk;
+    test::RecordingDesk desk;
     platform::SystemClock clock;
     platform::ProgramLocale locale{".", "", ","};
     OneRain rain;
     forms::Program program{{desk, clock, locale, rain, folder.path()}};
 
-    /// Starts the program and gives everything that the type needs.
+    /// Starts the program and enters all inputs of the type.
     void start(int type) {
         constexpr int kAreas = 20;
         program.start();
@@ -95,12 +78,13 @@ struct ResultsTab {
         }
     }
 
-    /// Leaves the tab to the inputs and enters it: the report is built, written and shown.
+    /// Switches to the inputs and back to the results: the report is built, written and shown.
     void enter() {
         program.enter([this] {
             program.window().SSTab1.userSelect(forms::kTabInputs);
             program.window().SSTab1.userSelect(forms::kTabResults);
         });
+        desk.forget();
     }
 };
 

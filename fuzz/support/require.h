@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What must hold in a fuzz target: says what does not and aborts, so that the fuzzer keeps the input.
+/// Checks a condition in a fuzz target: on failure prints it and aborts, so that the fuzzer keeps the input.
 #pragma once
 
 #include <cstdlib>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The state of a control, as `get` prints it.
-/// Each kind adds its own members behind the common ones.
+/// Each kind of control adds its own members after the common ones.
 #include "automation/inspection.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/containers.h"

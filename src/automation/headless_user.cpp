@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Actions on controls without a window.
-/// Typing is one change per character, pasting is one change.
+/// Acts on controls without a window.
+/// Typing makes one change per character, pasting makes one change.
 #include "automation/headless_user.h"
 
 #include "automation/script_line.h"

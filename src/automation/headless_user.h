@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The user's hands without a window: every action is told to the control directly.
-/// Each one enters the program as one event, as a widget's signal would.
+/// Performs the user's actions without a window, by calling the controls directly.
+/// Each action enters the program as one event, like a widget's signal.
 #pragma once
 
 #include "automation/user.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// What a script can ask: the state of a control and the shared values, as trace lines.
-/// Asking changes nothing and always answers, also for what is hidden.
+/// Queries of a script: the state of a control and the shared values, as trace lines.
+/// A query changes nothing and is always answered, also for hidden controls.
 #pragma once
 
 #include <optional>
@@ -13,11 +13,11 @@
 
 namespace mero::automation {
 
-/// The line of `get`: kind, own enabled and visible state, and by kind its content.
+/// The line of `get`: kind, own enabled and visible state, and the content, which depends on the kind.
 /// @param name the control's name as the script wrote it
 [[nodiscard]] JsonLine stateOf(const std::string& name, const platform::Control& control);
 
-/// JSON text of a shared value, or of the stored value behind a box; nothing for an unknown name.
+/// JSON text of a shared value, or of the stored value of a box; empty for an unknown name.
 [[nodiscard]] std::optional<std::string> sharedValue(forms::Program& program, std::string_view name);
 
 }  // namespace mero::automation

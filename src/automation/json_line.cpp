@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// JSON texts of the trace's values.
-/// The JSON library escapes texts; numbers come from the texts of numbers, which are valid JSON.
+/// The JSON library escapes texts; numbers are written by platform/numbers, whose texts are valid JSON.
 #include "automation/json_line.h"
 
 #include <nlohmann/json.hpp>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// One line of the trace: a JSON object with its members in the order in which they are added.
-/// Numbers keep the text of the program's own number texts, so that no digit is added or lost.
+/// One line of the trace: a JSON object whose members are in the order in which they were added.
+/// Numbers are written by platform/numbers, so that no digit is added or lost.
 #pragma once
 
 #include <array>

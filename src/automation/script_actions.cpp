@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The actions of the script language.
-/// Each checks its words first, then whether the user can act on the control, then acts.
+/// Each action first checks its words, then that the user can reach the control, then acts.
 #include "automation/inspection.h"
 #include "automation/script_runner.h"
 
@@ -8,7 +8,7 @@ namespace mero::automation {
 
 namespace {
 
-/// @throws ScriptError when the word is no whole number
+/// @throws ScriptError when the word is not a whole number
 int number(const Word& word) {
     const auto parsed = wholeNumber(word.text);
     if (!parsed) {
@@ -151,7 +151,7 @@ void ScriptRunner::key(const Words& words) {
     if (!possible(words[0].text, control)) {
         return;
     }
-    // Only text boxes answer these keys.
+    // Only text boxes handle these keys.
     if (auto* box = dynamic_cast<platform::TextBox*>(&control)) {
         user_->press(*box, enter ? platform::Key::Enter : platform::Key::Escape);
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Splitting a script's line, and texts into the keys that type them.
-/// UTF-8 is checked once, at the line; everything behind it may rely on it.
+/// Splits a script's line into words, and a text into the keys that type it.
+/// UTF-8 is checked once, for the whole line; later steps rely on it.
 #include "automation/script_line.h"
 
 #include <charconv>
@@ -70,7 +70,7 @@ char unescaped(char c) {
     }
 }
 
-/// Takes the quoted word whose opening quote is at `at`; leaves `at` behind the closing one.
+/// Reads the quoted word whose opening quote is at `at`; sets `at` behind the closing quote.
 Word quotedWord(std::string_view line, std::size_t& at) {
     Word word{.text = "", .quoted = true};
     ++at;

@@ -11,7 +11,7 @@
 
 namespace mero::automation {
 
-/// A script that cannot be followed: syntax, an unknown name, an entry that is not there.
+/// A script cannot be performed: wrong syntax, an unknown name, a missing entry.
 class ScriptError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
@@ -23,14 +23,14 @@ struct Word {
 };
 
 /// The words of a line; none for a blank line and for a comment (first character "#").
-/// @throws ScriptError for an open quote, an unknown escape, text that touches a quote, bytes that are not
-/// UTF-8
+/// @throws ScriptError for an unclosed quote, an unknown escape, text adjacent to a quote, bytes that are not
+///         UTF-8
 [[nodiscard]] std::vector<Word> splitLine(std::string_view line);
 
-/// A whole number of at most nine digits; nothing for any other text.
+/// A whole number of at most nine digits; empty for any other text.
 [[nodiscard]] std::optional<int> wholeNumber(std::string_view text);
 
-/// The keys that a user presses for a text: UTF-8 characters, a line break ("\r\n", "\n", "\r") being one.
+/// The keys that type a text: UTF-8 characters; a line break ("\r\n", "\n", "\r") is one key.
 [[nodiscard]] std::vector<std::string> keysOf(std::string_view text);
 /// The text without its last character (a "\r\n" pair counts as one).
 [[nodiscard]] std::string withoutLastCharacter(std::string_view text);

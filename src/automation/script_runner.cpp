@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Reading a script line by line, finding controls, refusing what a user could not do.
-/// The actions themselves stand in a file of their own.
+/// Reads a script line by line, finds controls, and refuses actions that a user could not perform.
+/// The actions are in script_actions.cpp.
 #include "automation/script_runner.h"
 
 #include <utility>

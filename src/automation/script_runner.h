@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Follows a script: one action per line, each performed by the user's hands it was given.
-/// What happens meanwhile is traced by the desk; an action that a user could not do is refused.
+/// Runs a script: one action per line, each performed by the given User.
+/// The desk traces what happens meanwhile; an action that a user could not perform is refused.
 #pragma once
 
 #include <istream>
@@ -26,12 +26,13 @@ class ScriptRunner {
     enum class Step {
         Continue,
         ProgramEnded,
-        Unusable,  ///< the line cannot be followed; the reason is told
+        Unusable,  ///< the line cannot be performed; the reason is printed
     };
     /// Performs one line.
     Step execute(std::string_view line, int line_number);
 
-    /// Performs all lines of the input. @return exit status: 0 to the end, 1 ended by an error, 2 unusable
+    /// Performs all lines of the input.
+    /// @return exit status: 0 ran to the end, 1 the program ended with an error, 2 unusable script
     int run(std::istream& script);
     /// The exit status after the last step.
     [[nodiscard]] int exitStatus(Step last) const;
@@ -39,7 +40,7 @@ class ScriptRunner {
   private:
     using Words = std::vector<Word>;
     using Action = void (ScriptRunner::*)(const Words& words);
-    /// An action with the count of words behind its name.
+    /// An action and the number of words after its name.
     struct Entry {
         Action action;
         std::size_t fewest;
@@ -65,14 +66,14 @@ class ScriptRunner {
     void value(const Words& words);
     void echo(const Words& words);
 
-    /// The control of that name, with or without its form's name. @throws ScriptError for an unknown one
+    /// The control with that name, with or without its form's name. @throws ScriptError for an unknown name
     [[nodiscard]] platform::Control& find(const std::string& name) const;
-    /// The same for one kind of control. @throws ScriptError when it is of another kind
+    /// The same for one kind of control. @throws ScriptError when the control is of another kind
     template <typename T>
     [[nodiscard]] T& find(const std::string& name, const char* kind) const;
-    /// Whether the user can act on the control now; if not, the refusal is printed.
+    /// True when the user can reach the control now; otherwise prints the refusal.
     bool possible(const std::string& name, const platform::Control& control);
-    /// Whether the user still can, in the middle of an action of several keys.
+    /// True when the user can still reach the control, for the next key of an action of several keys.
     [[nodiscard]] bool stillPossible(const platform::Control& control) const;
 
     forms::Program* program_;

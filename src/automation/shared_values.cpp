@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The shared values by their names, as `value` prints them.
-/// A box that shows a shared value of another name (the reduced area, the picked rain) answers with that one.
+/// The shared values by name, as `value` prints them.
+/// A box that shows a shared value of another name (the reduced area, the picked rain) gives that value.
 #include <functional>
 #include <map>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The trace lines of what happens while a script runs.
-/// The line is printed before the real desk shows the thing, so that a box that hangs is still told.
+/// Prints trace lines while a script runs.
+/// A line is printed before the real desk is called, so that the trace also has a box that hangs.
 #include "automation/trace_desk.h"
 
 #include <utility>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The desk of a script: prints a trace line for everything that reaches the user, answers the boxes, and
-/// keeps what the next save dialog will be answered with.
+/// The desk of a script: prints a trace line for everything that leaves the program, closes message boxes,
+/// and stores the answer to the next save dialog.
 #pragma once
 
 #include <functional>
@@ -19,15 +19,15 @@ class TraceDesk : public platform::Desk {
     using PdfMaker =
         std::function<platform::PdfResult(const std::string& document_path, const std::string& target_path)>;
 
-    /// @param trace  where the lines go; flushed after each
+    /// @param trace  receives the lines; flushed after each
     /// @param inner  the real desk of a window, which shows the same things; null without a window
-    /// @param folder where relative answers of the save dialog lead
+    /// @param folder folder of relative answers to the save dialog
     TraceDesk(std::ostream& trace, platform::Desk* inner, std::string folder);
 
     void print(const JsonLine& line);
-    /// Who makes PDF files where there is no real desk.
+    /// Sets the function that makes PDF files when there is no real desk.
     void makePdfBy(PdfMaker maker) { pdf_maker_ = std::move(maker); }
-    /// Answer of the next save dialog; nothing cancels it.
+    /// Sets the answer to the next save dialog; an empty one cancels it.
     void answerSave(std::optional<std::string> path) { save_answer_ = std::move(path); }
 
     void showMessage(const platform::Message& message) override;

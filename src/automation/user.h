@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The user's hands: how an action of a script reaches a control.
-/// Without a window the control is told directly; with one the real widget is typed into and clicked.
+/// Interface for the user's actions: how an action of a script reaches a control.
+/// Without a window the control is called directly; with one, events are sent to the real widget.
 #pragma once
 
 #include <string>
@@ -23,8 +23,8 @@ class User {
     User(User&&) = delete;
     User& operator=(User&&) = delete;
 
-    /// Presses one key that adds `character` (one UTF-8 character, or "\r\n" for the line break of a
-    /// multi-line box) at the end of the box's text.
+    /// Presses one key that appends `character` (one UTF-8 character, or "\r\n" for the line break of a
+    /// multi-line box) to the box's text.
     virtual void typeCharacter(platform::TextBox& box, const std::string& character) = 0;
     /// Presses Backspace at the end of the box's text.
     virtual void eraseCharacter(platform::TextBox& box) = 0;

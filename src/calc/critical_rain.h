@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Search of the design rain table for the critical rain: the one that asks the most of the facility.
-/// One search serves every quantity (volume, trench length, water level).
+/// Searches the design rain table for the critical rain: the one that requires the largest facility.
+/// The same search is used for every quantity (volume, trench length, water level).
 #pragma once
 
 #include <concepts>
@@ -10,17 +10,17 @@
 
 namespace mero::calc {
 
-/// What a search found.
+/// Result of a search.
 struct CriticalRain {
-    /// The largest value, 0 when no row gave a positive one. A double: the caller stores it as a Single,
-    /// after the picked rain.
+    /// The largest value, 0 when no row gave a positive one. A double, because the caller first stores the
+    /// picked rain and then this value as a Single.
     double maximum = 0.0;
-    /// The row that gave it; empty when no row gave a positive value, then the picked rain stays as it is.
+    /// The row that gave it; empty when no row gave a positive value: the picked rain is then unchanged.
     std::optional<Rain> rain;
 };
 
-/// Which rows take part. Quantities that divide by the duration leave out rows without a positive one;
-/// volumes take all nine (a row of duration 0 gives volume 0).
+/// Which rows are used. Quantities that divide by the duration skip rows without a positive duration; volumes
+/// use all nine (a row of duration 0 gives volume 0).
 enum class Rows { All, PositiveDuration };
 
 template <Rows rows>
@@ -28,9 +28,9 @@ template <Rows rows>
     return rows == Rows::All || rain.duration_min > 0.0F;
 }
 
-/// Runs through the table in its order. The maximum starts at 0 and only a strictly greater value replaces
-/// it, so of equal rows the earliest is the critical one.
-/// @param quantity called with each row that takes part, gives the row's value
+/// Searches the table in its order. The maximum starts at 0 and only a strictly greater value replaces it, so
+/// of rows with equal values the first is the critical one.
+/// @param quantity called with each row used, returns the row's value
 /// @throws whatever `quantity` throws
 template <Rows rows, std::invocable<const Rain&> Quantity>
 [[nodiscard]] CriticalRain findCriticalRain(RainTable table, Quantity quantity) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Throttled outflow and storage coefficient of a trench with pipes.
-/// Both are kept from the confirmation of the drain panel until the design uses them.
+/// Both are stored when the drain panel is confirmed, and used by the design later.
 #include "calc/drain.h"
 
 #include "calc/rain.h"
@@ -21,7 +21,7 @@ float storageCoefficient(const Pipes& pipes, float porosity, float trench_width_
     const double pores = porosity;
     const double section_m2 = static_cast<double>(trench_width_m) * static_cast<double>(trench_height_m);
 
-    // A pipe's interior counts in full, which in terms of the fill is 1 / porosity; its body displaces fill.
+    // A pipe's interior is all storage, which equals 1 / porosity of fill; the whole pipe displaces fill.
     const double pipes_over_fill =
         (numbers::divide(inner * inner * count, pores) - outer * outer * count) * kPi / 4.0;
     return numbers::toSingle(numbers::divide((pipes_over_fill + section_m2) * pores, section_m2));

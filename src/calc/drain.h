@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-/// What the drain panel prepares for the trench: the throttled outflow, and the storage coefficient of a
-/// trench with pipes in its fill.
+/// Values that the drain panel computes for the trench: the throttled outflow, and the storage coefficient of
+/// a trench with pipes in its fill.
 #pragma once
 
 namespace mero::calc::drain {
 
-/// Throttled outflow that a limit per hectare of the reduced area allows [m3/s].
+/// Throttled outflow allowed by a limit per hectare of the reduced area [m3/s].
 /// @param reduced_area_m2          reduced drained area [m2]
 /// @param specific_outflow_l_s_ha  allowed outflow intensity [l/(s.ha)]
 /// @throws RuntimeError Overflow
@@ -18,8 +18,9 @@ struct Pipes {
     float count;  ///< number of pipes [-]; a Single, as it is stored
 };
 
-/// Storage coefficient of the trench with its pipes: the pores of the fill around the pipes plus the pipes'
-/// interiors, per unit of the trench's cross-section. Without pipes it is the porosity, up to rounding.
+/// Storage coefficient of the trench with its pipes: the pores of the fill around the pipes plus the
+/// interiors of the pipes, per unit of the trench's cross-section. Without pipes it is the porosity, up to
+/// rounding.
 /// @param porosity of the fill [-]
 /// @param trench_width_m, trench_height_m cross-section of the trench [m]
 /// @return coefficient [-]; may be 0 or negative for pipes wider than the trench

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Reduced drained area.
-/// Rounding after every addition makes the order of the entries part of the result.
+/// The result depends on the order of the entries, because the sum is rounded after every addition.
 #include "calc/drained_area.h"
 
 #include <cassert>

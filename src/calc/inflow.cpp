@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Inflow into the facility.
-/// Rational method, see the header.
+/// Inflow into the facility by the rational method, see the header.
 #include "calc/inflow.h"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// What one rain asks of a facility: the formula of one row, with the rows that take part in it.
-/// The search for the critical rain and whatever shows all nine rows go by the same object.
+/// The size of a facility that one rain requires: the formula for one row, and the rows that it is used for.
+/// The search for the critical rain and the chart of all nine rows use the same object.
 #pragma once
 
 #include <array>
@@ -11,7 +11,7 @@
 
 namespace mero::calc {
 
-/// The value of each row in the table's order, empty for a row that takes no part.
+/// The value of each row in the table's order, empty for a row that is not used.
 using RainValues = std::array<std::optional<double>, kRainRows>;
 
 template <Rows rows, std::invocable<const Rain&> Quantity>
@@ -19,12 +19,12 @@ class PerRain {
   public:
     explicit PerRain(Quantity quantity) : quantity_(std::move(quantity)) {}
 
-    /// The rain that asks the most. @throws whatever the formula throws
+    /// The critical rain. @throws whatever the formula throws
     [[nodiscard]] CriticalRain critical(RainTable rains) const {
         return findCriticalRain<rows>(rains, quantity_);
     }
 
-    /// What each rain asks; may be negative. @throws whatever the formula throws
+    /// The value of each rain; may be negative. @throws whatever the formula throws
     [[nodiscard]] RainValues values(RainTable rains) const {
         RainValues values;
         for (std::size_t row = 0; row < values.size(); ++row) {
@@ -39,7 +39,7 @@ class PerRain {
     Quantity quantity_;
 };
 
-/// @param quantity called with a row that takes part, gives the row's value
+/// @param quantity called with a row that is used, returns the row's value
 template <Rows rows, std::invocable<const Rain&> Quantity>
 [[nodiscard]] PerRain<rows, Quantity> perRain(Quantity quantity) {
     return PerRain<rows, Quantity>(std::move(quantity));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Infiltration shaft: water rises in the shaft and soaks away through its filter.
-/// The steps of the design in their order; between them the fields round what they show and store it back.
+/// The steps of the design in order; between them the fields round the values and store them back.
 #pragma once
 
 #include <cmath>
@@ -11,32 +11,32 @@
 
 namespace mero::calc::shaft {
 
-/// The shafts of a site as they are calculated: round, all alike.
+/// The shafts of a site for the calculation: round and all alike.
 struct Shafts {
     std::int16_t count;  ///< number of shafts [-]
     float outer_diameter_m;
     float inner_diameter_m;
 };
 
-/// The diameter of the one shaft that stands for all of them [m].
+/// The diameter of the single shaft that replaces all of them [m].
 [[nodiscard]] inline double joinedDiameter(std::int16_t count, float diameter_m) {
     return static_cast<double>(count) * static_cast<double>(diameter_m);
 }
 
-/// What the water balance of the shafts depends on.
+/// Inputs of the water balance of the shafts.
 struct Balance {
     float reduced_area_m2;  ///< reduced drained area [m2]
     float filtration_m_s;   ///< filtration coefficient of the subsoil [m/s]
-    float safety_factor;    ///< stretches the duration [-]
+    float safety_factor;    ///< multiplies the duration [-]
     Shafts shafts;
 };
 
-/// Rise of the water in the shafts that a rain brings [m]: inflow less what soaks away through the outer
-/// cross-section at half the saturated conductivity, divided by what one metre of rise takes (the inner
-/// cross-section filled over the time of the balance, and the wetted wall). The program's rule multiplies
-/// the diameter by the number of shafts before squaring it, so n shafts act as one of n times the diameter.
-/// Rows without a positive duration are left out. Its formula throws RuntimeError DivisionByZero when the
-/// safety factor or what one metre of rise takes is 0, Overflow.
+/// Rise of the water in the shafts for each rain [m]: inflow less the infiltration through the outer
+/// cross-section at half the saturated conductivity, divided by the uptake per metre of rise (the inner
+/// cross-section filled over the time of the balance, and the wetted wall). The diameter is multiplied by the
+/// number of shafts before it is squared, so n shafts act as one of n times the diameter. Rows without a
+/// positive duration are skipped.
+/// @throws RuntimeError (from the formula) DivisionByZero when the safety factor or the uptake is 0, Overflow
 [[nodiscard]] inline auto levelPerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double filtration = balance.filtration_m_s;
@@ -59,15 +59,15 @@ struct Balance {
     });
 }
 
-/// Rise of the water in the shafts under the critical rain.
-/// @return rise [m] and the critical rain; 0 and none when the soil keeps up with every rain
+/// Rise of the water in the shafts for the critical rain.
+/// @return rise [m] and the critical rain; 0 and none when the soil takes every rain as it falls
 /// @throws RuntimeError as levelPerRain()
 [[nodiscard]] inline CriticalRain waterLevel(const Balance& balance, RainTable rains) {
     return levelPerRain(balance).critical(rains);
 }
 
-/// Infiltration area: the outer cross-section and a share of the wetted wall [m2]. The program's rule for
-/// the wall is pi * h / 2, without a diameter.
+/// Infiltration area: the outer cross-section and a share of the wetted wall [m2]. The share of the wall is
+/// pi * h / 2, without a diameter; results and reports depend on this formula.
 /// @throws RuntimeError Overflow
 [[nodiscard]] inline float infiltrationArea(const Shafts& shafts, float water_level_m) {
     const double outer = joinedDiameter(shafts.count, shafts.outer_diameter_m);
@@ -75,15 +75,15 @@ struct Balance {
     return numbers::toSingle(kPi * (outer * outer) / 4.0 + kPi * level / 2.0);
 }
 
-/// The heights that make up a shaft, from the ground down.
+/// The heights of a shaft's parts, from the ground down.
 struct Layers {
     float inlet_depth_m;   ///< frost-free depth of the inlet
     float filter_layer_m;  ///< height of the filter layer
     float sand_layer_m;    ///< height of the sand or fine gravel layer
-    bool has_sand_layer;   ///< only then does the sand layer count
+    bool has_sand_layer;   ///< without it the sand layer's height is ignored
 };
 
-/// Depth of the shaft below the ground: inlet, water, filter and, if there is one, the sand layer [m].
+/// Depth of the shaft below the ground: inlet, water, filter and the sand layer, if any [m].
 /// @throws RuntimeError Overflow
 [[nodiscard]] inline float depth(float water_level_m, const Layers& layers) {
     const double inlet = layers.inlet_depth_m;
@@ -93,7 +93,7 @@ struct Layers {
     return numbers::toSingle(inlet + level + filter + sand);
 }
 
-/// Least depth of the groundwater that the shaft needs: inlet, water and minimum seepage path [m].
+/// Minimum depth of the groundwater for the shaft: inlet, water and minimum seepage path [m].
 /// @throws RuntimeError Overflow
 [[nodiscard]] inline float requiredEmbedding(float inlet_depth_m, float water_level_m, float seepage_path_m) {
     const double inlet = inlet_depth_m;
@@ -102,8 +102,9 @@ struct Layers {
     return numbers::toSingle(inlet + level + seepage_path);
 }
 
-/// Storage volume under the picked rain. The program's rule takes the duration in minutes as it stands,
-/// without the factor 60 of the other facilities, and the infiltration area as its field stores it.
+/// Storage volume for the picked rain. The duration is in minutes, without the factor 60 of the other
+/// facilities; results and reports depend on this formula. The infiltration area is the one stored by its
+/// field.
 /// @throws RuntimeError Overflow
 [[nodiscard]] inline float storageVolume(const Balance& balance, float infiltration_area_m2,
                                          const Rain& picked_rain) {
@@ -119,9 +120,9 @@ struct Layers {
     return numbers::toSingle(surplus * duration * safety_factor);
 }
 
-/// Permeability that the filter needs so that it passes what the subsoil takes: the ratio of the outer
-/// surfaces (bottom and wall up to the water level) to the inner cross-section, times the coefficient of
-/// the subsoil [m/s]. The field that shows it stores it back with two significant digits.
+/// Permeability that the filter needs to pass the flow into the subsoil: the ratio of the outer surfaces
+/// (bottom and wall up to the water level) to the inner cross-section, times the coefficient of the subsoil
+/// [m/s]. Its field stores it back with two significant digits.
 /// @throws RuntimeError DivisionByZero when the inner diameter is 0, Overflow
 [[nodiscard]] inline float requiredFilterPermeability(float water_level_m, const Shafts& shafts,
                                                       float filtration_m_s) {
@@ -135,8 +136,8 @@ struct Layers {
 
 enum class GroundwaterVerdict { DeepEnough, TooHigh };
 
-/// The groundwater must lie at least as deep as the shaft needs. A level of 0 means not given and passes;
-/// its sign does not matter.
+/// The groundwater must be at least as deep as the shaft requires. A level of 0 means not given and passes;
+/// its sign is ignored.
 [[nodiscard]] inline GroundwaterVerdict judgeGroundwater(float groundwater_depth_m,
                                                          float required_embedding_m) {
     const bool given = groundwater_depth_m != 0.0F;

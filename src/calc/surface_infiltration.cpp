@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Surface infiltration.
-/// Steady balance of rain and soil, see the header.
+/// Surface infiltration: steady balance of rain and soil, see the header.
 #include "calc/surface_infiltration.h"
 
 #include "calc/rain.h"
@@ -12,7 +11,7 @@ float infiltrationArea(float reduced_area_m2, float filtration_m_s, float intens
     const double area = reduced_area_m2;
     const double filtration = filtration_m_s;
     const double intensity = intensity_l_s_ha;
-    // How many times the soil takes what falls on it.
+    // Infiltration rate of the soil as a multiple of the rain on it.
     const double uptake_ratio = numbers::divide(filtration * kIntensityPerRate, 2.0 * intensity);
     return numbers::toSingle(numbers::divide(area, uptake_ratio - 1.0));
 }

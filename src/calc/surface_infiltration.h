@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 /// Surface infiltration: the area through which the picked rain soaks away while it falls.
-/// Nothing is stored, so one formula is the whole design.
+/// No water is stored, so the design is a single formula.
 #pragma once
 
 namespace mero::calc::surface {
 
-/// Infiltration area in balance with one rain: what the reduced area and the infiltration area itself
-/// receive equals what soaks away through half the saturated conductivity (Darcy's law with a unit
-/// gradient), (A_red + A_s) * i = A_s * kf / 2, solved for A_s.
+/// Infiltration area in balance with one rain: the rain on the reduced area and on the infiltration area
+/// equals the infiltration at half the saturated conductivity (Darcy's law with a unit gradient),
+/// (A_red + A_s) * i = A_s * kf / 2, solved for A_s.
 ///
-/// A soil that takes less than the rain brings gives a negative area; the formula is applied as it stands.
+/// If the soil takes less than the rain on it, the area is negative; the formula is applied unchanged.
 ///
 /// @param reduced_area_m2  reduced drained area [m2]
 /// @param filtration_m_s   filtration coefficient of the subsoil [m/s]

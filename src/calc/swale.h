@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Swale: a shallow grassed hollow that stores the rain and lets it soak away through its bottom.
-/// The steps of the design in their order; the swale of the combined object uses them too.
+/// The steps of the design in order; the swale of the combined object uses them too.
 #pragma once
 
 #include "calc/per_rain.h"
@@ -12,7 +12,7 @@ namespace mero::calc::swale {
 /// @param reduced_area_m2  reduced drained area [m2]
 /// @param soil_option      0 gives a tenth of the area, 1 a fifth
 /// @param previous_area_m2 the area stored before, kept for any other soil option [m2]
-/// @return infiltration area [m2]; the field that shows it stores it back with one decimal
+/// @return infiltration area [m2]; its field stores it back with one decimal
 /// @throws RuntimeError Overflow
 [[nodiscard]] inline float startingArea(float reduced_area_m2, int soil_option, float previous_area_m2) {
     const double area = reduced_area_m2;
@@ -26,17 +26,17 @@ namespace mero::calc::swale {
     }
 }
 
-/// What the water balance of a swale depends on.
+/// Inputs of the water balance of a swale.
 struct Balance {
     float reduced_area_m2;       ///< reduced drained area [m2]
     float infiltration_area_m2;  ///< infiltration area of the swale as stored [m2]
-    float filtration_m_s;        ///< coefficient of the layer that it soaks into [m/s]
-    float safety_factor;         ///< stretches the duration [-]
+    float filtration_m_s;        ///< coefficient of the layer below [m/s]
+    float safety_factor;         ///< multiplies the duration [-]
 };
 
-/// Storage volume that a rain asks for [m3]: what runs off the drained area and falls on the swale, less what
-/// soaks away through half the saturated conductivity, over the rain's duration times the safety factor.
-/// All nine rows take part, those with a negative duration too.
+/// Storage volume for each rain [m3]: the runoff of the drained area and the rain on the swale, less the
+/// infiltration at half the saturated conductivity, over the rain's duration times the safety factor.
+/// All nine rows are used, also those with a negative duration.
 [[nodiscard]] inline auto volumePerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double infiltration_area = balance.infiltration_area_m2;
@@ -52,22 +52,22 @@ struct Balance {
     });
 }
 
-/// Storage volume under the critical rain.
-/// @return volume [m3] and the critical rain; 0 and none when the soil keeps up with every rain
+/// Storage volume for the critical rain.
+/// @return volume [m3] and the critical rain; 0 and none when the soil takes every rain as it falls
 [[nodiscard]] inline CriticalRain storageVolume(const Balance& balance, RainTable rains) {
     return volumePerRain(balance).critical(rains);
 }
 
-/// Depth of the water when the whole volume stands on the infiltration area [m].
+/// Depth of the water when the whole volume is on the infiltration area [m].
 /// @throws RuntimeError DivisionByZero when the area is 0, Overflow
 [[nodiscard]] inline float pondingDepth(float volume_m3, float infiltration_area_m2) {
     return numbers::toSingle(numbers::divide(volume_m3, infiltration_area_m2));
 }
 
 /// Time in hours until the water has soaked away, at half the saturated conductivity (the soil above the
-/// groundwater is not saturated). The safety factor is already in the volume and applies once.
+/// groundwater is not saturated). The safety factor is not applied again: the volume includes it.
 /// @param depth_m        depth of the water [m]
-/// @param filtration_m_s coefficient of the layer that it soaks into [m/s]; the caller checks that it is > 0
+/// @param filtration_m_s coefficient of the layer below [m/s]; the caller checks that it is > 0
 /// @throws RuntimeError DivisionByZero when the coefficient is 0, Overflow
 [[nodiscard]] inline float emptyingTimeHours(float depth_m, float filtration_m_s) {
     const double depth = depth_m;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Infiltration tank: an open basin with sloped sides that soaks away at a rate chosen beforehand.
-/// Required storage against the volume of its shape, then proof that the rate was not too optimistic.
+/// Infiltration tank: an open basin with sloped sides, designed for an assumed infiltration rate.
+/// Compares the required storage with the volume of the shape, then checks the assumed rate.
 #pragma once
 
 #include "calc/per_rain.h"
@@ -8,7 +8,7 @@
 
 namespace mero::calc::tank {
 
-/// Infiltration flow that the design assumes: a specific intensity over the reduced area [m3/s].
+/// Infiltration flow assumed by the design: a specific intensity over the reduced area [m3/s].
 /// @param specific_intensity_l_s_ha specific infiltration intensity [l/(s.ha)]
 /// @throws RuntimeError Overflow
 [[nodiscard]] inline float infiltrationFlow(float specific_intensity_l_s_ha, float reduced_area_m2) {
@@ -17,15 +17,15 @@ namespace mero::calc::tank {
     return numbers::toSingle(kRatePerIntensity * specific_intensity * area);
 }
 
-/// What the water balance of a tank depends on.
+/// Inputs of the water balance of a tank.
 struct Balance {
     float reduced_area_m2;         ///< reduced drained area [m2]
     float infiltration_flow_m3_s;  ///< assumed infiltration flow as stored [m3/s]
-    float safety_factor;           ///< stretches the duration [-]
+    float safety_factor;           ///< multiplies the duration [-]
 };
 
-/// Storage that a rain asks for [m3]: inflow less the assumed infiltration flow, over the duration times the
-/// safety factor. All nine rows take part, those with a negative duration too.
+/// Storage for each rain [m3]: inflow less the assumed infiltration flow, over the duration times the safety
+/// factor. All nine rows are used, also those with a negative duration.
 [[nodiscard]] inline auto storagePerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double infiltration_flow = balance.infiltration_flow_m3_s;
@@ -39,13 +39,13 @@ struct Balance {
     });
 }
 
-/// Required storage under the critical rain.
-/// @return volume [m3] and the critical rain; 0 and none when the flow keeps up with every rain
+/// Required storage for the critical rain.
+/// @return volume [m3] and the critical rain; 0 and none when the assumed flow equals or exceeds every inflow
 [[nodiscard]] inline CriticalRain requiredStorage(const Balance& balance, RainTable rains) {
     return storagePerRain(balance).critical(rains);
 }
 
-/// Length or width of the top: the side slope runs out on both sides of the bottom [m].
+/// Length or width of the top: the bottom and the run of the slope on both sides [m].
 /// @param bottom_m bottom length or width [m]
 /// @param depth_m  depth of the tank [m]
 /// @param slope    horizontal run per unit of height, 0 for vertical sides [-]
@@ -66,8 +66,8 @@ struct Shape {
     float depth_m;
 };
 
-/// Volume of the shape: frustum of a pyramid, a third of the depth times bottom, top and their geometric
-/// mean [m3].
+/// Volume of the shape [m3]: frustum of a pyramid, a third of the depth times bottom, top and their
+/// geometric mean.
 /// @throws RuntimeError InvalidCall when the product of the four sides is negative, Overflow
 [[nodiscard]] inline float volume(const Shape& shape) {
     const double bottom_length = shape.bottom_length_m;
@@ -81,22 +81,22 @@ struct Shape {
 
 enum class VolumeVerdict { Sufficient, TooSmall };
 
-/// The tank must hold the required storage; equal is enough.
+/// The tank must hold the required storage; an equal volume is sufficient.
 [[nodiscard]] constexpr VolumeVerdict judgeVolume(float tank_volume_m3, float required_storage_m3) {
     return tank_volume_m3 < required_storage_m3 ? VolumeVerdict::TooSmall : VolumeVerdict::Sufficient;
 }
 
-/// Filtration coefficient that can be counted on [m/s]: in full when the water has settled before it comes
-/// to the tank, else a fifth, because the bottom clogs.
+/// Effective filtration coefficient [m/s]: the full coefficient when the water is settled before the tank,
+/// else a fifth of it, because the bottom clogs.
 [[nodiscard]] constexpr double effectiveFiltration(float filtration_m_s, bool settled_before) {
     constexpr double kCloggedShare = 5.0;
     const double filtration = filtration_m_s;
     return settled_before ? filtration : filtration / kCloggedShare;
 }
 
-/// What soaks away on average between the empty tank (its bottom) and the full one (its top), at half the
+/// Mean infiltration flow between the empty tank (bottom area) and the full one (top area), at half the
 /// effective coefficient [m3/s].
-/// @param effective_filtration_m_s as effectiveFiltration() gives it
+/// @param effective_filtration_m_s result of effectiveFiltration()
 [[nodiscard]] inline double meanInfiltrationFlow(const Shape& shape, double effective_filtration_m_s) {
     const double bottom_length = shape.bottom_length_m;
     const double bottom_width = shape.bottom_width_m;
@@ -109,7 +109,7 @@ enum class VolumeVerdict { Sufficient, TooSmall };
 
 enum class InfiltrationVerdict { Proven, Exceeded };
 
-/// The mean flow must reach the assumed one; equal is enough.
+/// The mean flow must reach the assumed one; an equal flow is sufficient.
 [[nodiscard]] constexpr InfiltrationVerdict judgeInfiltration(double mean_flow_m3_s,
                                                               float assumed_flow_m3_s) {
     return mean_flow_m3_s >= static_cast<double>(assumed_flow_m3_s) ? InfiltrationVerdict::Proven

@@ -9,16 +9,16 @@
 
 namespace mero::calc::trench {
 
-/// What the design of a trench depends on.
+/// Inputs of the design of a trench.
 struct Balance {
     float reduced_area_m2;  ///< reduced drained area [m2]
-    float safety_factor;    ///< stretches the duration [-]
+    float safety_factor;    ///< multiplies the duration [-]
     TrenchSection section;  ///< the trench in the subsoil
 };
 
-/// Trench length that a rain asks for [m]: the inflow from the reduced area divided by what one metre of
-/// trench takes. Rows without a positive duration are left out. Its formula throws RuntimeError
-/// DivisionByZero when the safety factor or what one metre takes is 0, Overflow.
+/// Trench length for each rain [m]: the inflow from the reduced area divided by the uptake per metre of
+/// trench. Rows without a positive duration are skipped.
+/// @throws RuntimeError (from the formula) DivisionByZero when the safety factor or the uptake is 0, Overflow
 [[nodiscard]] inline auto lengthPerRain(const Balance& balance) {
     const double reduced_area = balance.reduced_area_m2;
     const double safety_factor = balance.safety_factor;
@@ -32,14 +32,14 @@ struct Balance {
     });
 }
 
-/// Trench length under the critical rain.
+/// Trench length for the critical rain.
 /// @return length [m] and the critical rain; 0 and none without a rain
 /// @throws RuntimeError as lengthPerRain()
 [[nodiscard]] inline CriticalRain requiredLength(const Balance& balance, RainTable rains) {
     return lengthPerRain(balance).critical(rains);
 }
 
-/// Storage volume of the trench under the picked rain: inflow less what soaks away through the infiltration
+/// Storage volume of the trench for the picked rain: inflow less the infiltration through the infiltration
 /// area at half the saturated conductivity, over the duration times the safety factor [m3].
 /// @throws RuntimeError Overflow
 [[nodiscard]] inline float storageVolume(const Balance& balance, float length_m, const Rain& picked_rain) {
@@ -63,14 +63,14 @@ struct Balance {
     return numbers::toSingle(infiltrationWidth(width_m, height_m) * length);
 }
 
-/// The openings of the drain pipes through which water leaves.
+/// The outlet openings of the drain pipes.
 struct DrainOutlet {
     float openings_cm2_m;  ///< area of the openings of one pipe [cm2 per metre of trench]
     float pipe_count;      ///< number of pipes [-]; a Single, as it is stored
     float velocity_m_s;    ///< velocity in the openings [m/s]
 };
 
-/// What the drain lets out along the whole trench (continuity, area times velocity) [l/s].
+/// Outflow of the drain along the whole trench (continuity: area times velocity) [l/s].
 /// @throws RuntimeError Overflow
 [[nodiscard]] inline float drainOutflow(const DrainOutlet& outlet, float length_m) {
     const double openings = outlet.openings_cm2_m;
@@ -83,7 +83,7 @@ struct DrainOutlet {
 
 enum class OutflowVerdict { Met, NotMet };
 
-/// The drain must let out at least what flows in; equal is enough.
+/// The outflow of the drain must reach the inflow; an equal outflow is sufficient.
 [[nodiscard]] constexpr OutflowVerdict judgeOutflow(float outflow_l_s, float inflow_l_s) {
     return outflow_l_s < inflow_l_s ? OutflowVerdict::NotMet : OutflowVerdict::Met;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Cross-section of an infiltration trench and what one metre of it can take.
+/// Cross-section of an infiltration trench and the uptake of one metre of it.
 /// Shared by the trench and by the trench under a swale.
 #pragma once
 
@@ -11,18 +11,18 @@ namespace mero::calc {
 struct TrenchSection {
     float width_m;              ///< mean width [m]
     float height_m;             ///< height of the fill [m]
-    float storage_coefficient;  ///< share of the section that holds water, with pipes if there are any [-]
+    float storage_coefficient;  ///< share of the section that holds water, including any pipes [-]
     float filtration_m_s;       ///< filtration coefficient of the subsoil [m/s]
 };
 
-/// Infiltration area per metre of trench: the bottom, plus half the height for the walls, which are wetted
-/// from empty to full [m2/m].
+/// Infiltration area per metre of trench: the width of the bottom plus half the height for the walls, which
+/// are wetted from empty to full [m2/m].
 [[nodiscard]] constexpr double infiltrationWidth(double width_m, double height_m) {
     return width_m + height_m / 2.0;
 }
 
-/// What one metre of trench takes over the time of a balance: its pores filled in that time, and what soaks
-/// away through its infiltration area at half the saturated conductivity.
+/// Uptake of one metre of trench over the time of a balance: the filling of its pores in that time, and the
+/// infiltration through its infiltration area at half the saturated conductivity.
 class UptakePerMetre {
   public:
     explicit UptakePerMetre(const TrenchSection& section) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 /// The reference tables, row by row.
-/// Some texts carry a no-break space after a one-letter word, two blanks, or other oddities: all are data.
+/// Some texts have a no-break space after a one-letter word, two blanks or other oddities. They are fixed,
+/// because tests and the report's readers compare them.
 #include "data/mod_default_data.h"
 
 #include <array>
 #include <utility>
 
-// U+00A0, written out so that an editor cannot turn it into a blank.
+// U+00A0 as an escape, so that an editor cannot replace it by a blank.
 #define NBSP "\xC2\xA0"
 
 namespace mero::data {
@@ -47,7 +48,7 @@ struct Station {
     std::int16_t number;
 };
 
-// In alphabetical order of the names; the numbers are keys of the rain database and follow no order.
+// In alphabetical order of the names; the numbers are keys of the rain database, in no order.
 constexpr std::array<Station, kStationCount> kStations{{
     {"Bakov nad Jizerou", 15},
     {"Banín - vodárna", 86},
@@ -161,7 +162,7 @@ struct Soil {
     double filtration_m_s;
 };
 
-// The coefficients do not fall steadily down the list; the order is the table's own.
+// The coefficients do not decrease steadily down the list; the order is that of the table.
 constexpr std::array<Soil, 8> kSoils{{
     {"Jemný a střední štěrk", 7E-4},
     {"Písčitý štěrk", 4E-4},

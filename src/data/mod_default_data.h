@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// modDefaultData: the fixed reference tables of the program and the defaults of five inputs.
-/// Nothing is read from files; only the rain intensities come from outside.
+/// They are compiled in; only the rain intensities are read from a file.
 #pragma once
 
 #include "data/mod_public_variables.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Reads a station by running `mero-rain` and says in Czech what went wrong.
-/// Nothing of the database's own format is known here.
+/// Reads a station by running `mero-rain` and reports errors in Czech.
+/// This file does not depend on the database's format.
 #include "data/rain_database.h"
 
 #include <algorithm>
@@ -30,8 +30,8 @@ bool exists(const std::string& path) {
     return std::filesystem::exists(path, ignored);
 }
 
-/// The program's own texts of paths join folder and file by a backslash, which is an ordinary character of a
-/// name here; so it is read as a slash when no file has that very name.
+/// Stored path texts join folder and file by a backslash, which is an ordinary character in POSIX names, so
+/// it is read as a slash unless a file with that exact name exists.
 std::string filePath(const std::string& path) {
     const std::size_t joint = path.rfind('\\');
     if (joint == std::string::npos || exists(path)) {
@@ -42,7 +42,7 @@ std::string filePath(const std::string& path) {
     return resolved;
 }
 
-/// The texts that name the file and the table which could not be read.
+/// Error texts with the file and the table that could not be read.
 struct Failures {
     std::string table;
     std::string path;
@@ -124,7 +124,7 @@ StationTable MdbRainDatabase::read(std::int16_t station_number, const std::strin
     if (status.type() == std::filesystem::file_type::not_found) {
         throw failures.fileMissing();
     }
-    if (status.type() != std::filesystem::file_type::regular) {  // a folder; a pipe would never answer
+    if (status.type() != std::filesystem::file_type::regular) {  // a folder; reading a pipe would block
         throw failures.cannotOpen();
     }
     return tableOf(runReader({reader_program_, file, failures.table}), failures);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The rain database: one table of rain intensities per rain-gauge station.
-/// What goes where is the rain dialog's rule; this only brings the named columns and the rows of a table.
+/// This class only returns the columns and rows of a table; the rain dialog decides how to use them.
 #pragma once
 
 #include <cstddef>
@@ -18,16 +18,16 @@ struct StationTable {
 
     std::vector<std::string> columns;      ///< field names as stored
     std::vector<std::vector<Value>> rows;  ///< one value per column; nullopt: null or not a number
-    bool demonstration = false;  ///< the file carries the table `Demo`: its values are no measurement
+    bool demonstration = false;            ///< the file has the table `Demo`: its values are not measured
 };
 
-/// Position of a field by its name; upper and lower case are the same, as in the database itself.
+/// Position of a field by its name, ignoring case as the database does.
 [[nodiscard]] std::optional<std::size_t> columnIndex(const StationTable& table, std::string_view name);
 
 /// True when the table has the field, e.g. "005" (a table without it has "004").
 [[nodiscard]] bool hasField(const StationTable& table, std::string_view name);
 
-/// Error numbers of a read that fails, besides 53 (the file does not exist).
+/// Error numbers of a failed read, besides 53 (the file does not exist).
 inline constexpr int kCannotOpenDatabase = 3051;  ///< no permission, not a file, not a database
 inline constexpr int kTableNotFound = 3078;       ///< the file has no table of that station
 inline constexpr int kReadFailed = 3112;          ///< damaged: the read crashed, hung or ended early
@@ -35,7 +35,7 @@ inline constexpr int kReadFailed = 3112;          ///< damaged: the read crashed
 /// Name of a station's table: "List" and the number in plain decimal.
 [[nodiscard]] std::string tableName(std::int16_t station_number);
 
-/// Where the dialog gets a station's rain intensities from.
+/// Interface through which the dialog reads a station's rain intensities.
 class RainDatabase {
   public:
     RainDatabase() = default;
@@ -47,19 +47,19 @@ class RainDatabase {
     ///
     /// @param station_number number of the station in the database, not its position in the list
     /// @param path           the database file
-    /// @throws RuntimeError that ends the program; its description names the file and the table. The file is
-    ///         missing, cannot be opened, lacks the table, or is damaged.
+    /// @throws RuntimeError that ends the program when the file is missing, cannot be opened, lacks the
+    ///         table or is damaged; its description names the file and the table
     [[nodiscard]] virtual StationTable read(std::int16_t station_number, const std::string& path) = 0;
 };
 
-/// Reads `mero.mdb` with the reader program `mero-rain`, started anew for each read: the database library
-/// crashes or never ends on some damaged files, and there it can harm nobody.
+/// Reads `mero.mdb` with the reader program `mero-rain`, started for each read: the database library crashes
+/// or never ends on some damaged files, which is harmless in a separate process.
 class MdbRainDatabase : public RainDatabase {
   public:
     /// @param reader_program path of `mero-rain`
     explicit MdbRainDatabase(std::string reader_program);
 
-    /// Ends within 2 s, whatever the file holds. `path` may join folder and file by a backslash.
+    /// Returns or throws within 2 s for any file. `path` may join folder and file by a backslash.
     [[nodiscard]] StationTable read(std::int16_t station_number, const std::string& path) override;
 
   private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The lines between `mero-rain` and the rain database, written and read side by side.
-/// Reading is as strict as can be: what encode() would not write is refused.
+/// Writes and reads the lines between `mero-rain` and the rain database.
+/// Reading is strict: a text that encode() would not write is refused.
 #include "data/rain_protocol.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace mero::data {
 namespace {
 
 constexpr std::string_view kFirstLine = "mero-rain 1";
-constexpr std::size_t kMostColumns = 255;  // as many as a table of the database can have
+constexpr std::size_t kMostColumns = 255;  // the limit of the database's tables
 constexpr std::size_t kMostRows = std::numeric_limits<std::int16_t>::max();
 
 bool isControl(char c) {
@@ -56,12 +56,12 @@ std::string count(std::size_t number) {
     return numbers::general(static_cast<int>(number));
 }
 
-/// Takes the text apart from front to back; each step fails once one has failed.
+/// Parses the text from front to back; after a failed step all later steps fail.
 class LineReader {
   public:
     explicit LineReader(std::string_view text) : rest_(text) {}
 
-    /// The next line, which must begin with `start`; the part after it.
+    /// The rest of the next line, which must begin with `start`.
     std::optional<std::string_view> after(std::string_view start) {
         const std::size_t end = rest_.find('\n');
         if (end == std::string_view::npos || !rest_.substr(0, end).starts_with(start)) {
@@ -88,7 +88,7 @@ class LineReader {
     std::string_view rest_;
 };
 
-/// @return false when the text is neither empty nor the text that encode() writes for a number
+/// @return false when the text is neither empty nor a number as encode() writes it
 bool decodeValue(std::string_view text, StationTable::Value& value) {
     if (text.empty()) {
         value = std::nullopt;

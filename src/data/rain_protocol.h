@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// What `mero-rain` prints and the rain database reads: one station table as strict lines of text.
-/// A text that was cut, interleaved or made up by a crashing program is told from a whole one.
+/// The output of `mero-rain`, read by the rain database: one station table as strict lines of text.
+/// A text that is cut, interleaved or printed by a crashing program is distinguished from a complete one.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@
 
 namespace mero::data {
 
-/// How `mero-rain` ends. Any other status, or a signal, is a failed read.
+/// Exit statuses of `mero-rain`. Any other status, or a signal, is a failed read.
 enum class ReaderExit {
     Done = 0,
     WrongArguments = 2,
@@ -30,12 +30,11 @@ enum class ReaderExit {
 ///     row<TAB>5<TAB>115.5   one line per row; a value is the shortest text of its double, empty for none
 ///     end 9
 ///
-/// @return empty when the table cannot be sent: no column, a name with control characters, more than 32767
-/// rows,
-///         a value that is not finite
+/// @return empty when the table cannot be encoded: no column, a name with control characters, more than 32767
+///         rows, a value that is not finite
 [[nodiscard]] std::optional<std::string> encode(const StationTable& table);
 
-/// The table that the text holds; empty when the text is not, to the last byte, what encode() gives.
+/// Parses a table; empty when the text differs in any byte from the result of encode().
 [[nodiscard]] std::optional<StationTable> decode(std::string_view text);
 
 }  // namespace mero::data

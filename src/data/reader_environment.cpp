@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Copies the environment but for a few names.
+/// Copies the environment without a few variables.
 #include "data/reader_environment.h"
 
 #include <unistd.h>

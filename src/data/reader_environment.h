@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The variables that change what the database library answers, and an environment without them.
-/// The program cleans its child's environment, and the reader once more its own.
+/// The environment variables that change the database library's results, and an environment without them.
+/// The program removes them from its child's environment, and the reader again from its own.
 #pragma once
 
 #include <array>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A program run in a process group of its own, its output through a pipe, one deadline for all of it.
-/// POSIX calls behind owners that close, kill and reap on every way out.
+/// Runs a program in its own process group, with a pipe for its output and one deadline for everything.
+/// POSIX calls wrapped in RAII classes that close, kill and reap on every path.
 #include "data/reader_process.h"
 
 #include <fcntl.h>
@@ -26,7 +26,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-// A killed process ends at once; one that waits for a dead network drive may not, and is left to the system.
+// A killed process ends at once, except while it waits for a dead network drive; it is then not waited for.
 constexpr milliseconds kReapLimit{250};
 // 32767 rows of 8 values of 24 characters: more than any station table has.
 constexpr std::size_t kOutputLimit = 8U << 20U;
@@ -64,7 +64,7 @@ class Pipe {
     bool open_;
 };
 
-/// A started program; killed with its process group and reaped when it goes out of scope before its end.
+/// A started program; if it still runs at the end of the scope, its process group is killed and it is reaped.
 class Child {
   public:
     explicit Child(pid_t pid) : pid_(pid) {}
@@ -77,7 +77,7 @@ class Child {
         }
     }
 
-    /// The status as waitpid() gives it; empty when the deadline passed first.
+    /// The status from waitpid(); empty when the deadline passed first.
     std::optional<int> wait(Clock::time_point deadline) {
         while (true) {
             int status = 0;
@@ -86,7 +86,7 @@ class Child {
                 ended_ = true;
                 return status;
             }
-            if (ended < 0 && errno != EINTR) {  // somebody else has reaped it
+            if (ended < 0 && errno != EINTR) {  // reaped elsewhere
                 ended_ = true;
                 return std::nullopt;
             }
@@ -102,7 +102,7 @@ class Child {
     bool ended_ = false;
 };
 
-/// Output to the pipe, no input, no error output.
+/// Redirections: output to the pipe, no input, no error output.
 class FileActions {
   public:
     explicit FileActions(int output) {
@@ -120,7 +120,7 @@ class FileActions {
     posix_spawn_file_actions_t actions_{};
 };
 
-/// A process group of its own; signals as a fresh program has them, whatever this one ignores or blocks.
+/// Attributes: a separate process group; default signals, whatever this process ignores or blocks.
 class Attributes {
   public:
     Attributes() {
@@ -143,7 +143,7 @@ class Attributes {
     posix_spawnattr_t attributes_{};
 };
 
-/// The texts as the null-terminated list of pointers that the system call takes.
+/// The texts as a null-terminated list of pointers, for the system call.
 std::vector<char*> pointers(std::vector<std::string>& texts) {
     std::vector<char*> list;
     std::transform(texts.begin(), texts.end(), std::back_inserter(list),
@@ -164,7 +164,7 @@ std::optional<pid_t> start(std::vector<std::string> command, int output) {
 
 enum class Reading { Ended, TimeLimit, OutputLimit };
 
-/// Appends what comes through the pipe until its last writer has closed it.
+/// Appends the output read from the pipe until its last writer has closed it.
 Reading readAll(int pipe, Clock::time_point deadline, std::string& output) {
     std::array<char, 1U << 16U> block{};
     while (output.size() <= kOutputLimit) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Clock texts and the machine's clock.
-/// The texts are fixed patterns, so that no locale decides them.
+/// Formats and parses dates and times, and reads the machine's clock.
+/// The texts are fixed patterns, independent of the locale.
 #include "platform/clock.h"
 
 #include <charconv>
@@ -71,10 +71,10 @@ std::string dateText(const DateTime& moment) {
 DateTime SystemClock::now() const {
     constexpr DateTime kNotSet{.year = 1970, .month = 1, .day = 1};
     constexpr int kLastYear = 1000000;
-    // In seconds: what counts nanoseconds ends in the year 2262.
+    // In seconds: a clock in nanoseconds ends in the year 2262.
     const std::time_t seconds = std::time(nullptr);
     std::tm local{};
-    // A clock that is set beyond every calendar counts as one that nobody has set.
+    // A clock beyond the last year of the calendar counts as not set.
     if (localtime_r(&seconds, &local) == nullptr || local.tm_year > kLastYear) {
         return kNotSet;
     }

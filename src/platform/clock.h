@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Date and time as texts in the user's formats, from a clock that is injected.
-/// A script or a test freezes it; the program reads the machine's local time.
+/// Scripts and tests inject a frozen clock; otherwise it is the machine's local time.
 #pragma once
 
 #include <optional>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The door between the program and its user: message boxes, error reports, opened addresses, dialogs of the
-/// system. One object is injected; the window shows the real things, a script or a test records them.
+/// The port for everything that leaves the program: message boxes, error reports, opened addresses, dialogs
+/// of the system. One object is injected: the window's shows them, those of scripts and tests record them.
 #pragma once
 
 #include <cstdint>
@@ -29,13 +29,13 @@ struct Message {
     }
 };
 
-/// The title of message boxes that set none of their own.
+/// The title of message boxes without one of their own.
 inline constexpr const char* kApplicationTitle = "MERO";
 
 enum class PdfResult {
     Made,
     Failed,   ///< the document cannot be read or the file cannot be written
-    NoMeans,  ///< nothing here can lay out pages
+    NoMeans,  ///< this program cannot lay out pages
 };
 
 class Desk {
@@ -49,9 +49,9 @@ class Desk {
 
     /// Shows a message box and returns when the user has closed it.
     virtual void showMessage(const Message& message) = 0;
-    /// Shows the report of a run-time error that nothing trapped.
+    /// Reports a run-time error that no handler caught.
     virtual void reportError(const RuntimeError& error) = 0;
-    /// Hands a web address to the default browser.
+    /// Opens a web address in the default browser.
     virtual void openAddress(const std::string& address) = 0;
 
     /// A form was shown / closed.
@@ -61,9 +61,9 @@ class Desk {
     virtual void navigated(const std::string& view, const std::string& path) = 0;
     /// The print preview is opened on a document.
     virtual void openPrintPreview(const std::string& path) = 0;
-    /// The save dialog: the chosen path, nothing when the user cancels.
+    /// Shows the save dialog. @return the chosen path, empty when the user cancels
     virtual std::optional<std::string> askSavePath(const std::string& suggested_path) = 0;
-    /// Makes a PDF file of the pages that the print preview shows.
+    /// Writes the pages of the print preview to a PDF file.
     /// @param target_path an empty file, or a new one
     virtual PdfResult makePdf(const std::string& /*document_path*/, const std::string& /*target_path*/) {
         return PdfResult::NoMeans;

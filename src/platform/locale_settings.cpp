@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The program's own separators.
-/// The environment is asked through a locale object of its own; the process's locale is never switched.
+/// Separators of this program.
+/// The environment's are read through a separate locale object; the process's locale is not changed.
 #include "platform/locale_settings.h"
 
 #include <langinfo.h>
@@ -27,7 +27,7 @@ ProgramLocale::ProgramLocale() : ProgramLocale(".", "", ",") {
     const std::string decimal = nl_langinfo_l(RADIXCHAR, environment);
     texts_[LocaleItem::DecimalSeparator] = decimal;
     texts_[LocaleItem::ThousandsSeparator] = nl_langinfo_l(THOUSEP, environment);
-    // A list is separated by a semicolon wherever the comma separates decimals.
+    // Where the comma is the decimal separator, lists are separated by a semicolon.
     texts_[LocaleItem::ListSeparator] = decimal == "," ? ";" : ",";
     freelocale(environment);
 }

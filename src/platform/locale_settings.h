@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The platform's interface to the user's number separators, as small as the locale guard needs it.
-/// Behind it stands the system's locale, this program's own separators, or a test.
+/// Interface to the user's number separators, with only what the locale guard needs.
+/// Implemented by this program's own separators and by a double in tests.
 #pragma once
 
 #include <map>
@@ -9,7 +9,7 @@
 
 namespace mero::platform {
 
-/// The items of the locale that the program reads and sets, with their platform identifiers.
+/// Locale items that the program reads and sets, with their platform identifiers.
 enum class LocaleItem { ListSeparator = 12, DecimalSeparator = 14, ThousandsSeparator = 15 };
 
 class LocaleSettings {
@@ -30,8 +30,8 @@ class LocaleSettings {
     virtual void write(long locale, LocaleItem item, const std::string& text) = 0;
 };
 
-/// Separators of this program only: they start as the user's environment has them, and setting them leaves
-/// the user's settings untouched.
+/// Separators of this program only: they start with the values of the user's environment, and setting them
+/// does not change the user's settings.
 class ProgramLocale : public LocaleSettings {
   public:
     /// Reads the separators of the user's environment.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The three routines of the locale guard.
-/// The module name in their error texts is the one that users have always been shown.
+/// The module name in their error texts is part of a fixed interface: tests and the manual name the texts.
 #include "platform/mod_reg_settings.h"
 
 #include <vector>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// modRegSettings, the locale guard: makes the point the decimal separator for the run of the program
-/// and puts the user's own separators back at its end.
+/// modRegSettings, the locale guard: makes the point the decimal separator while the program runs and
+/// restores the user's separators at its end.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ class modRegSettings {
 
     /// Saves the user's locale identifier and the decimal, thousands and list separators, in this order.
     void Get_locale();
-    /// Sets "." / " " / "," for the run.
+    /// Sets "." / " " / "," while the program runs.
     void Set_locale();
     /// Sets the saved separators again.
     void Restore_Locale();
@@ -28,7 +28,7 @@ class modRegSettings {
     [[nodiscard]] const std::string& savedList() const { return saved_list_; }
 
   private:
-    /// Runs one routine; an error is shown with the routine's name and ends the routine.
+    /// Runs one routine. An error ends the routine and is shown with its name.
     template <typename Routine>
     void trapped(const char* procedure, Routine routine);
     [[nodiscard]] std::string read(LocaleItem item) const;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Binding of buttons and labels.
-/// A click on the selected option runs its handler again, so the click counts and not the change.
+/// Binds buttons and labels to widgets.
+/// A click on the selected option runs its handler again, so clicks are observed, not changes.
 #include "qt/buttons.h"
 
 #include <QKeyEvent>
@@ -24,7 +24,7 @@ using platform::UpDown;
 
 void showSelected(QRadioButton& radio, bool selected) {
     const QSignalBlocker silence(radio);
-    // An exclusive button cannot be switched off by itself, and code may leave a group without a selection.
+    // An exclusive button cannot be switched off alone, but code may leave a group without a selection.
     radio.setAutoExclusive(false);
     radio.setChecked(selected);
     radio.setAutoExclusive(true);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Placing of the cell editor.
-/// The control says when it is shown; where the cell then is only the view knows.
+/// Places the cell editor.
+/// The control decides when it is shown; the view gives the cell's position.
 #include "qt/cell_editor_box.h"
 
 #include "qt/text_fields.h"
@@ -21,7 +21,7 @@ constexpr int kLine = 1;
 QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view,
                           const platform::Grid& grid) {
     QLineEdit& line = makeLineEdit(kit, box, *view.viewport());
-    // The cell is low: a frame and wide margins would leave no room for the text.
+    // The cell is low: with a frame and wide margins the text would not fit.
     line.setFrame(false);
     view.setEditor(line);
     line.setAutoFillBackground(true);

@@ -9,8 +9,8 @@
 
 namespace mero::qt {
 
-/// Binds the dialog's cell editor to a line edit over the grid's current cell: a little smaller than the
-/// cell, all selected when it opens, moving with the cell.
+/// Binds the dialog's cell editor to a line edit over the grid's current cell. It is a little smaller than
+/// the cell and moves with it; its whole text is selected when it opens.
 QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view, const platform::Grid& grid);
 
 }  // namespace mero::qt

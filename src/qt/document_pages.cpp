@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Laying out and painting of pages.
-/// Lengths of a page are pixels of 1/96 inch there and everywhere scaled to the device.
+/// Lays out and paints pages.
+/// Lengths on a page are in pixels of 1/96 inch and are scaled to the device.
 #include "qt/document_pages.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -21,7 +21,7 @@ constexpr qreal kLeastWidthPx = 660;
 constexpr qreal kFootHeightPx = 30;
 constexpr qreal kFootPoints = 8;
 
-/// One page's room for the document, in device pixels, and how much smaller than in its own size it is drawn.
+/// The area of a page for the document, in device pixels, and the factor by which the document is reduced.
 struct PageRoom {
     QSizeF paper;
     qreal foot_height = 0;
@@ -38,7 +38,7 @@ PageRoom roomOn(const QPagedPaintDevice& device) {
     return {paper, kFootHeightPx * pixel, std::min(1.0, paper.width() / (kLeastWidthPx * pixel))};
 }
 
-/// Paints what stands between two heights of the document.
+/// Paints the part of the document between two heights.
 void paintContent(QPainter& painter, const LocalDocument& document, const PageRoom& room, qreal top,
                   qreal bottom) {
     QAbstractTextDocumentLayout::PaintContext context;

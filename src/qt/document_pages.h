@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A document on paper: the pages of the print preview, of the printer and of a PDF file are all painted
-/// here.
+/// Paints a document on pages, for the print preview, the printer and PDF files.
 #pragma once
 
 #include <QPageLayout>
@@ -10,14 +9,13 @@
 
 namespace mero::qt {
 
-/// A4 upright with margins of 15 mm.
+/// A4 portrait with margins of 15 mm.
 [[nodiscard]] QPageLayout paperLayout();
 
-/// Paints the pages, numbered at their foot, one after another; only those that the device's page ranges ask
-/// for. Lines and rows of tables are not cut (see pageBreaks). On paper too narrow for the document
-/// everything is made smaller. The document is laid out for the device and serves no other purpose
-/// afterwards.
-/// @return how many pages the whole document has
+/// Paints the pages in the device's page ranges, each with its number at the foot. Lines and rows of tables
+/// are not cut (see pageBreaks). On paper too narrow for the document everything is reduced. The document is
+/// laid out for the device and must not be used for anything else afterwards.
+/// @return number of pages of the whole document
 int paintPages(LocalDocument& document, QPagedPaintDevice& device);
 
 }  // namespace mero::qt

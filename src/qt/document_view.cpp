@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Binding of browser views.
-/// Pages are made for paper: they are shown black on white whatever the desktop's colours are.
+/// Binds browser views to text browsers.
+/// Pages are made for paper, so they are black on white whatever the desktop's colours.
 #include "qt/document_view.h"
 
 #include <QFileInfo>
@@ -28,7 +28,7 @@ void setPaperColours(QTextBrowser& browser) {
 void load(QTextBrowser& browser, LocalDocument& document, const QString& path) {
     document.load(path);
     browser.moveCursor(QTextCursor::Start);
-    // Showing the cursor scrolls the margin above it away.
+    // Making the cursor visible scrolled past the margin above it.
     browser.verticalScrollBar()->setValue(0);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A browser view as a widget: shows local pages, follows links between them, hands web addresses on.
+/// A browser view as a widget: shows local pages, follows links between them, passes web addresses on.
 #pragma once
 
 #include <QTextBrowser>
@@ -12,10 +12,10 @@
 
 namespace mero::qt {
 
-/// What a browser view needs from outside.
+/// Services that a browser view needs.
 struct DocumentServices {
     Decoder decode;
-    /// What becomes of a web address that was clicked.
+    /// Called with a web address that was clicked.
     std::function<void(const std::string& address)> open_address;
 };
 

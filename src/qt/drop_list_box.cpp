@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Binding of drop-down lists.
-/// Only `activated` speaks of a person's choice; filling and selecting by code are silent.
+/// Binds drop-down lists to combo boxes.
+/// Only `activated` is observed: it is emitted for the user's choice, not for filling and selecting by code.
 #include "qt/drop_list_box.h"
 
 #include <QProxyStyle>
@@ -17,7 +17,7 @@ using platform::DropList;
 
 constexpr int kVisibleEntries = 20;
 
-/// Drops the list down below its box, a screenful at most, instead of over the whole screen.
+/// Opens the list below its box with a limited number of entries, instead of over the whole screen.
 class ListStyle : public QProxyStyle {
   public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -9,8 +9,8 @@
 
 namespace mero::qt {
 
-/// Picking an entry runs the handler, also the entry that is selected already. The mouse wheel scrolls the
-/// page; it turns over the entries only while the list has the focus.
+/// Choosing an entry runs the handler, also for the selected entry. The mouse wheel scrolls the page; it
+/// changes the selection only while the list has the focus.
 QComboBox& makeDropList(WidgetKit& kit, platform::DropList& list, QWidget& parent);
 
 }  // namespace mero::qt

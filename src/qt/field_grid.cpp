@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of fields.
-/// Long captions are broken into lines instead of being cut or pushing the fields away.
+/// Lays out fields.
+/// Long captions are wrapped instead of being cut or pushing the fields away.
 #include "qt/field_grid.h"
 
 #include <QRadioButton>
@@ -16,10 +16,10 @@ constexpr int kNumberCharacters = 14;
 constexpr int kLongestCaptionLine = 36;
 constexpr int kLeastAreaLines = 3;
 constexpr int kMostAreaLines = 14;
-/// A text area takes the room that there is before the empty end of the grid does.
+/// A text area takes the free space before the empty end of the grid does.
 constexpr int kAreaStretch = 1000;
 
-/// The text in lines of about the same length, none longer than a caption may be unless a word is.
+/// The text in lines of about equal length, none longer than a caption may be, except for a longer word.
 QString broken(const QString& text) {
     if (text.length() <= kLongestCaptionLine) {
         return text;
@@ -41,8 +41,7 @@ QString broken(const QString& text) {
     return result;
 }
 
-/// Widens a field for a text that its usual width would cut: a number without its first digits is another
-/// number.
+/// Widens a field whose text does not fit, because a number without its first digits is another number.
 void growWithText(QLineEdit& line) {
     const auto fit = [&line, usual = line.width()] {
         const int needed = line.fontMetrics().horizontalAdvance(line.text()) + 2 * gap(line);
@@ -125,7 +124,7 @@ void FieldGrid::widget(const QString& text, QWidget& widget) {
     if (widget.accessibleName().isEmpty()) {
         describe(widget, text);
     }
-    // An option alone does not say what it is an option of.
+    // The caption of an option alone does not say what the option is for.
     for (auto* option : widget.findChildren<QRadioButton*>()) {
         option->setAccessibleDescription(widget.accessibleName());
     }
@@ -134,7 +133,7 @@ void FieldGrid::widget(const QString& text, QWidget& widget) {
 }
 
 void FieldGrid::pair(const QString& text, QWidget& first, QWidget& second) {
-    // Both stay children of the grid's parent: assistive technology looks for the caption among siblings.
+    // Both remain children of the grid's parent: assistive technology looks for the caption among siblings.
     caption(text).setBuddy(&first);
     describe(first, text);
     auto* row = new QHBoxLayout;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Fields in columns: caption, field, unit, and what stands beside it.
-/// All groups of a window are set out by it, so that they look alike.
+/// Lays out fields in columns: caption, field, unit, widget beside it.
+/// All groups of a window use it, so that they look alike.
 #pragma once
 
 #include <QGridLayout>
@@ -13,14 +13,14 @@ namespace mero::qt {
 
 class FieldGrid {
   public:
-    /// Gives `parent` its layout.
+    /// Sets the layout of `parent`.
     FieldGrid(WidgetKit& kit, QWidget& parent);
 
     /// A field for a number.
     QLineEdit& input(platform::TextBox& box, const QString& caption, const QString& unit = {});
-    /// A field that only the program fills.
+    /// A read-only field, filled by the program.
     QLineEdit& result(platform::TextBox& box, const QString& caption, const QString& unit = {});
-    /// A field for a text, as wide as there is room.
+    /// A field for a text, as wide as the space allows.
     QLineEdit& text(platform::TextBox& box, const QString& caption);
     /// Several lines of text.
     QPlainTextEdit& area(platform::TextBox& box, const QString& caption);
@@ -32,11 +32,11 @@ class FieldGrid {
     void beside(QWidget& widget);
     /// A widget in place of the last row's unit.
     void besideField(QWidget& widget);
-    /// A widget as wide as its contents, over all columns.
+    /// A widget as wide as its content, across all columns.
     void line(QWidget& widget);
-    /// A widget over all columns.
+    /// A widget across all columns.
     void wide(QWidget& widget);
-    /// A little distance before the next row.
+    /// A small gap before the next row.
     void space();
     /// Keeps the rows together at the top.
     void end();

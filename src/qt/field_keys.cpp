@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Event filters for keys and the wheel.
-/// Each of them ends in the event that a click would have caused, so the handlers cannot tell them apart.
+/// Each causes the same event as a click, so the handlers need not distinguish them.
 #include "qt/field_keys.h"
 
 #include <QKeyEvent>
@@ -12,7 +12,7 @@ namespace {
 
 using platform::UpDown;
 
-/// Steps that an arrow key makes in a row or column of options; in Czech, right is forward.
+/// Steps of an arrow key in a row or column of options; right is forward, as Czech is written.
 std::optional<int> stepOf(int key) {
     switch (key) {
         case Qt::Key_Right:
@@ -94,7 +94,7 @@ class SpinKeys : public QObject {
     WidgetKit* kit_;
     UpDown* control_;
     QLineEdit* field_;
-    int turned_ = 0;  ///< what a wheel without steps has turned so far
+    int turned_ = 0;  ///< rotation so far of a wheel without steps
 };
 
 class WheelGuard : public QObject {
@@ -124,7 +124,7 @@ void spinByKeys(WidgetKit& kit, UpDown& control, QLineEdit& field) {
 }
 
 void keepWheelForFocus(QWidget& widget) {
-    // The wheel itself must not bring the focus either: entering a list has consequences.
+    // The wheel must not set the focus either, because focusing a list runs a handler.
     widget.setFocusPolicy(Qt::StrongFocus);
     widget.installEventFilter(new WheelGuard(widget));
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Showing of the focus.
-/// The frame lies above the widgets and follows its one, also while that is scrolled.
+/// Shows the focus.
+/// The frame lies above the widgets and follows the one with the focus, also when that one is scrolled.
 #include "qt/focus_ring.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A ring around the widget that has the focus: the same for every kind of widget, in every palette.
+/// Draws a ring around the widget with the focus: the same for every kind of widget and every palette.
 #pragma once
 
 #include <QColor>
@@ -9,13 +9,13 @@
 
 namespace mero::qt {
 
-/// A colour that stands out from fields and from what is around them.
+/// A colour that contrasts with fields and with their surroundings.
 [[nodiscard]] QColor ringColour(const QPalette& palette);
 
-/// Draws the ring just inside of `place`, as thick as suits the font.
+/// Draws the ring just inside `place`; its thickness depends on the font.
 void paintRing(QPainter& painter, const QRectF& place, const QPalette& palette);
 
-/// Shows the ring in this window from now on. Widgets that show the focus on one of their parts (a cell, a
+/// Shows the ring in this window from now on. Widgets that mark the focus on one of their parts (a cell, a
 /// tab) call `showsFocusItself`.
 void addFocusRing(QWidget& window);
 

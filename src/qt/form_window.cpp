@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Windows of forms.
-/// Closing is the form's decision: the close box only asks it.
+/// Builds, places and closes the windows of forms.
+/// The close box only requests closing; the form decides.
 #include "qt/form_window.h"
 
 #include <QApplication>
@@ -27,7 +27,7 @@ constexpr int kLeftTwips = 5880;
 constexpr int kTopTwips = 1080;
 constexpr int kTwipsPerInch = 1440;
 
-/// Scrolls the content of a dialog that is too large for the screen; otherwise it cannot be noticed.
+/// Scrolls the content of a dialog that is too large for the screen; otherwise it is invisible.
 class ContentArea : public QScrollArea {
   public:
     explicit ContentArea(QWidget& window) : QScrollArea(&window) {
@@ -107,7 +107,7 @@ void FormWindow::showForm() {
     }
     show();
     if (opens) {
-        // Only now is it known how much the window system's frame adds.
+        // Only now is the size of the window system's frame known.
         moveOntoScreen(pos());
     }
     raise();
@@ -138,7 +138,7 @@ void FormWindow::setFormEnabled(bool enabled) {
 }
 
 void FormWindow::fitContent() {
-    // From the inside out, so that each size is known before the next one asks for it.
+    // From the inside out, so that each size is known before the next one needs it.
     for (QWidget* holder = content_; holder != this; holder = holder->parentWidget()) {
         if (holder->layout() != nullptr) {
             holder->layout()->activate();
@@ -151,7 +151,7 @@ void FormWindow::fitContent() {
 }
 
 QSize FormWindow::roomOnScreen() const {
-    // The window manager's frame is known only once the window is there.
+    // The window manager's frame is known only after the window was shown.
     const QSize frame =
         isVisible() ? frameSize() - size() : QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     return screen()->availableGeometry().size() - frame;
@@ -187,7 +187,7 @@ void FormWindow::moveOntoScreen(QPoint wanted) {
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    // What a dialog shows later may make it larger.
+    // A dialog may grow when it shows something later.
     if (owner_ != nullptr && isVisible() && !owner_->screen()->availableGeometry().contains(geometry())) {
         moveOntoScreen(pos());
     }
@@ -204,7 +204,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
             form_->close_requested();
         }
     });
-    // An unanswered close request would hold up the end of the user's session.
+    // An unanswered close request would block the end of the user's session.
     event->setAccepted(!form_->visible());
 }
 

@@ -17,14 +17,14 @@ class FormWindow : public QWidget {
     FormWindow(WidgetKit& kit, platform::Form& form, FormWindow* owner);
 
   protected:
-    /// Puts the widgets into `content`, which is disabled while the form is.
+    /// Adds the widgets to `content`, which is disabled while the form is.
     virtual void build(QWidget& content) = 0;
 
-    /// The button that Enter presses where the field with the focus has no use for it.
+    /// Sets the button that Enter presses when the field with the focus does not use the key.
     void confirmWith(QPushButton& button);
-    /// Makes a dialog as large as its content wants to be, as far as the screen allows.
+    /// Resizes a dialog to its content's preferred size, as far as the screen allows.
     void fitContent();
-    /// What of the screen is there for the window's content: all but the window manager's frame.
+    /// Screen size available for the window's content: without the window manager's frame.
     [[nodiscard]] QSize roomOnScreen() const;
 
     [[nodiscard]] WidgetKit& kit() const { return *kit_; }
@@ -37,7 +37,7 @@ class FormWindow : public QWidget {
     void showForm();
     void hideForm();
     void setFormEnabled(bool enabled);
-    /// Where the owner's form places its dialogs, moved so that the whole window is on the screen.
+    /// Moves the dialog to its offset from the owner, or nearer so that the whole window is on the screen.
     void placeOverOwner();
     /// Moves a dialog so that all of it is on the screen, as far as it fits.
     void moveOntoScreen(QPoint wanted);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Painting of grid cells.
+/// Paints grid cells.
 /// The pictures are drawn, not stored, so they are sharp at any scale and follow the palette.
 #include "qt/grid_delegate.h"
 
@@ -13,7 +13,7 @@ namespace mero::qt {
 namespace {
 
 constexpr double kPickedTint = 0.16;
-/// A cell without a picture shows where one can click, fainter than the unmarked picture.
+/// A clickable cell without a picture shows a hint, fainter than the unmarked picture.
 constexpr double kHintStrength = 0.35;
 constexpr double kBoxStrength = 0.75;
 

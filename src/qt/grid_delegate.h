@@ -12,7 +12,7 @@ class GridDelegate : public QStyledItemDelegate {
   public:
     GridDelegate(const GridModel& model, QObject* parent);
 
-    /// Height that the text of a cell needs in a column of that width.
+    /// Height of a cell's text in a column of that width.
     [[nodiscard]] static int textHeight(const QString& text, int column_width, const QFont& font);
     /// Blank space around a text.
     [[nodiscard]] static int padding(const QFontMetrics& metrics) { return metrics.height() / 4; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Answers of the grid's item model.
-/// The grid may have changed since the last refresh, so every access looks whether the cell is there.
+/// Item model of a grid.
+/// The grid may have changed since the last refresh, so every access checks that the cell exists.
 #include "qt/grid_model.h"
 
 #include "qt/texts.h"
@@ -82,7 +82,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QString GridModel::spokenPlace(const QModelIndex& index) const {
     const QString heading = headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString();
     QString row;
-    // What tells rows apart stands in their first column that does not repeat itself.
+    // A row is named by its first column that does not merge equal neighbours: only that one is unique.
     for (int column = 0; column < columns_ && row.isEmpty(); ++column) {
         if (!grid_->columns()[static_cast<std::size_t>(column)].merges_equal_neighbours) {
             row = data(this->index(index.row(), column), Qt::DisplayRole).toString();
@@ -99,7 +99,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     if (role == Qt::DisplayRole) {
         return shown(grid_->rows().front()[column]);
     }
-    // A heading stands over its column's texts, also where the texts are centred.
+    // A heading is aligned like its column's texts, also where these are centred.
     return role == Qt::TextAlignmentRole ? alignment(grid_->columns()[column].header) : QVariant();
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The cells of a grid as an item model; the header row is the model's header.
-/// It reads the control itself, so nothing is kept twice but the shape of the table.
+/// It reads the control directly and keeps only a copy of the numbers of rows and columns.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -11,20 +11,20 @@ namespace mero::qt {
 
 class GridModel : public QAbstractTableModel {
   public:
-    /// @param choice_column column whose cells carry the pictures
+    /// @param choice_column column of the cells with pictures
     GridModel(const platform::Grid& grid, int choice_column, QObject* parent);
 
-    /// Takes over what the grid now holds. Returns true when rows or columns were added or removed.
+    /// Updates the model from the grid. @return true when rows or columns were added or removed
     bool refresh();
 
     [[nodiscard]] int choiceColumn() const { return choice_column_; }
-    /// The grid's cell of a model index: the header is row 0 there.
+    /// The grid's cell for a model index; in the grid the header is row 0.
     [[nodiscard]] static platform::GridCell cellOf(const QModelIndex& index) {
         return {index.row() + 1, index.column()};
     }
     /// The picture of a cell, none outside the grid.
     [[nodiscard]] std::optional<bool> mark(const QModelIndex& index) const;
-    /// Whether the row of that cell carries the marked picture.
+    /// True when the row has the marked picture.
     [[nodiscard]] bool rowIsMarked(int row) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The grid's table widget.
-/// Handlers fill a grid cell by cell; the view follows once, after the event, or when somebody asks for it.
+/// Handlers fill a grid cell by cell; the view is updated once, after the event or on request.
 #include "qt/grid_view.h"
 
 #include <QApplication>
@@ -94,7 +94,7 @@ void GridView::layOutColumns() {
         widths.push_back(qMax(qRound(fraction * available), headingWidth(column)));
         excess += widths.back();
     }
-    // Headings are never cut: what a narrow column needs more comes from the widest one.
+    // Headings are never cut: the width that a narrow column lacks is taken from the widest one.
     for (; excess > 0 && columns > 0; --excess) {
         auto widest = std::max_element(widths.begin(), widths.end());
         if (*widest <= headingWidth(static_cast<int>(widest - widths.begin()))) {
@@ -161,7 +161,7 @@ QString GridView::spokenPlace(GridCell cell) const {
 void GridView::reveal(GridCell cell) {
     refresh();
     scrollTo(model_.index(cell.row - 1, cell.column));
-    // A merged cell counts as shown when any of it is; the row itself is wanted.
+    // A merged cell counts as visible when any part of it is, but this row must be visible.
     const QRect rect = cellRect(cell);
     if (rect.top() < 0) {
         verticalScrollBar()->setValue(verticalScrollBar()->value() + rect.top());
@@ -234,7 +234,7 @@ bool GridView::typeIntoCell(QKeyEvent& event) {
         return false;
     }
     click(GridModel::cellOf(currentIndex()));
-    // The editor opens with its whole text selected: the first key replaces it, as any typing there would.
+    // The editor opens with its whole text selected, so the first key replaces it.
     if (!editor_.isNull() && editor_->isVisible()) {
         QApplication::sendEvent(editor_, &event);
     }

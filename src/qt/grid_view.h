@@ -13,30 +13,30 @@
 
 namespace mero::qt {
 
-/// The room that a grid asks for; its window may give it more or less.
+/// Preferred size of a grid; its window may give it more or less.
 struct GridRoom {
     int characters;  ///< width in average characters
-    int rows;        ///< data rows that are seen without scrolling
+    int rows;        ///< data rows visible without scrolling
 };
 
 class GridView : public QTableView {
   public:
     /// @param choice_column column of the pictures, where a click picks the row
-    /// @param room          what the grid asks for
+    /// @param room          preferred size
     GridView(WidgetKit& kit, platform::Grid& grid, int choice_column, GridRoom room, QWidget& parent);
 
-    /// Brings the view in step with the grid at once instead of after the running event.
+    /// Updates the view from the grid at once instead of after the running event.
     void refresh();
     /// Where a cell of the data rows is drawn, in coordinates of the viewport.
     [[nodiscard]] QRect cellRect(platform::GridCell cell) const;
     /// Heading and row of a cell in words.
     [[nodiscard]] QString spokenPlace(platform::GridCell cell) const;
-    /// Scrolls until the cell is to be seen.
+    /// Scrolls until the cell is visible.
     void reveal(platform::GridCell cell);
 
     [[nodiscard]] QSize sizeHint() const override;
 
-    /// Typing over a cell of a column that can be edited clicks it and types into this editor.
+    /// Sets the editor: typing over a cell of an editable column clicks the cell and types into the editor.
     void setEditor(QLineEdit& editor) { editor_ = &editor; }
 
     /// Called when cells have moved: scrolled, resized, refreshed.
@@ -68,7 +68,7 @@ class GridView : public QTableView {
     platform::Grid* grid_;
     GridModel model_;
     GridRoom room_;
-    bool stale_ = true;  ///< behind the grid until it is first shown
+    bool stale_ = true;  ///< not updated from the grid; true until first shown
     bool laying_out_ = false;
     std::optional<platform::GridCell> pressed_;
     QPointer<QLineEdit> editor_;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Loading of local documents.
-/// The report and the description pages join folders by backslashes and declare no character set.
+/// Loads local documents.
+/// The report and the description pages use backslashes in paths and declare no character set.
 #include "qt/local_document.h"
 
 #include <QFile>
@@ -19,9 +19,9 @@
 namespace mero::qt {
 namespace {
 
-/// No report and no description page comes near; a file that somebody put there by mistake may.
+/// Far above the size of any report or description page; protects against a wrong file in their place.
 constexpr qint64 kLargestFile = 32LL << 20;
-/// A character set is declared in the head of a page.
+/// The declaration of a character set is looked for in these bytes at the page's beginning.
 constexpr qsizetype kHeadBytes = 2048;
 
 bool declaresUtf8(const QByteArray& bytes) {
@@ -40,23 +40,22 @@ bool declaresUtf8(const QByteArray& bytes) {
     return name.startsWith("utf-8");
 }
 
-/// The margin that browsers give a page without one.
+/// The margin that browsers give a page that sets none.
 constexpr qreal kBrowserMargin = 8;
 
-/// The same family wherever the document is shown, so that lines break alike.
+/// The same family on the screen and on paper, so that lines break at the same places.
 QFont standardFont() {
     constexpr qreal kPoints = 12;
     QFont font(QStringList{QStringLiteral("DejaVu Sans"), QStringLiteral("Arial")});
     font.setStyleHint(QFont::SansSerif);
     font.setPointSizeF(kPoints);
-    // Letters that stand apart by next to nothing form no ligatures: a word copied out of a PDF file is
-    // found.
+    // A tiny letter spacing prevents ligatures, so that words copied from a PDF file can be searched for.
     constexpr qreal kNextToNothing = 1.0 / 64;
     font.setLetterSpacing(QFont::AbsoluteSpacing, kNextToNothing);
     return font;
 }
 
-/// Headings come with a relative size, which would win over the size that the page gives them.
+/// Removes the relative size of headings, which would override the size set by the page.
 void keepGivenSizes(QTextDocument& document) {
     struct Piece {
         int begin;

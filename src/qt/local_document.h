@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A local HTML document: decoded, with its pictures, and nothing else. It loads nothing from the network.
-/// Text without a font of its own stands in 12 pt, as in browsers, on the screen and on paper.
+/// Loads and decodes a local HTML document with its pictures. It loads nothing from the network.
+/// Text without a font size has 12 pt, as in browsers, on the screen and on paper.
 #pragma once
 
 #include <QTextDocument>
@@ -10,19 +10,19 @@
 
 namespace mero::qt {
 
-/// UTF-8 text of the bytes of a file that declares no character set.
+/// Converts the bytes of a file that declares no character set to UTF-8.
 using Decoder = std::function<std::string(std::string_view bytes)>;
 
 class LocalDocument : public QTextDocument {
   public:
     explicit LocalDocument(Decoder decode, QObject* parent = nullptr);
 
-    /// Loads a file; one that is missing or cannot be read gives a page that says so and names it.
-    /// @return false for that page
+    /// Loads a file. If it is missing or unreadable, the document is a page that says so and names the file.
+    /// @return false in that case
     bool load(const QString& path);
     /// The file that was loaded last, empty before.
     [[nodiscard]] const QString& path() const { return path_; }
-    /// Local path that a reference of the document leads to; empty for everything that is not local.
+    /// Local path of a reference in the document; empty if the target is not local.
     [[nodiscard]] QString resolve(const QUrl& reference) const;
 
   protected:

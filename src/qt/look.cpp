@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Palettes of fields.
+/// Sets the colours of fields.
 /// The tint of a result is mixed from the palette, so it suits light and dark desktops.
 #include "qt/look.h"
 
@@ -20,7 +20,7 @@ constexpr int kDarkBelow = 128;
 constexpr QRgb kWarningOnLight = 0xffb3261e;
 constexpr QRgb kWarningOnDark = 0xffff9a7a;
 
-/// Gives the widget one colour in all its states, and the desktop's own colour back without one.
+/// Sets one colour for all states of the widget, or the desktop's colour when none is given.
 void setColour(QWidget& widget, QPalette::ColorRole role, const std::optional<QColor>& colour) {
     QPalette palette;
     if (colour) {
@@ -62,7 +62,7 @@ class Colouring : public QObject {
         refresh();
     }
     void refresh() {
-        // Colouring is a change of the palette too.
+        // Setting the colour sends a palette change event too.
         if (!std::exchange(colouring_, true)) {
             colour_(*widget_);
             colouring_ = false;

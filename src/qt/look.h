@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// How fields look: inputs, results, and fields that the program has greyed.
-/// They follow when the desktop changes its colours.
-/// All colours come from the user's palette and all sizes from the user's font.
+/// Look of fields: inputs, results, and fields that the program has greyed.
+/// All colours come from the user's palette, also after it changes, and all sizes from the user's font.
 #pragma once
 
 #include <QLabel>
@@ -10,22 +9,22 @@
 
 namespace mero::qt {
 
-/// A field that only the program fills: people can read and copy it, not change it.
+/// Shows the field as a result: read-only, but its text can be copied.
 void showAsResult(QLineEdit& field);
 
-/// A warning that stands on the window all the time.
+/// Shows the label as a permanent warning.
 void showAsWarning(QLabel& label);
 
-/// Whether the window shows light texts on a dark ground.
+/// True when texts are light on a dark background.
 [[nodiscard]] bool isDark(const QPalette& palette);
 
-/// Button-face background, or the field's normal one.
+/// Sets the button-face background, or the field's normal one.
 void setGreyed(QWidget& field, bool greyed);
 
 /// Width of `characters` average characters in the widget's font.
 [[nodiscard]] int textWidth(const QWidget& widget, int characters);
 
-/// Distance between things that belong together, from the font.
+/// Gap between widgets that belong together, from the font.
 [[nodiscard]] int gap(const QWidget& widget);
 
 /// `first` and `second` mixed: 0 gives the first colour, 1 the second.

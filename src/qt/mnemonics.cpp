@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Choice of the letters: the first of a word if possible, plain letters only, so that any keyboard has them.
-/// Only what the window shows is marked; the forms' captions stay as they are.
+/// Chooses the letters: the first of a word if possible, and only unaccented letters, which every keyboard
+/// has. Only the window's texts are marked; the forms' captions are not changed.
 #include "qt/mnemonics.h"
 
 #include <QAbstractButton>
@@ -20,7 +20,7 @@ bool isPlainLetter(QChar letter) {
     return letter.unicode() < 128 && letter.isLetter();
 }
 
-/// Where the mark goes: before the first letter of a word that is still free, else before any that is.
+/// Position of the mark: before the first free letter that begins a word, else before any free letter.
 std::optional<qsizetype> choose(const QString& text, const Letters& taken) {
     if (text.contains(kMark)) {
         return std::nullopt;
@@ -38,7 +38,7 @@ std::optional<qsizetype> choose(const QString& text, const Letters& taken) {
     return inside;
 }
 
-/// The text with its mark; as it was where no letter is free.
+/// The text with its mark; unchanged when no letter is free.
 QString marked(const QString& text, Letters& taken) {
     const auto place = choose(text, taken);
     if (!place) {
@@ -48,7 +48,7 @@ QString marked(const QString& text, Letters& taken) {
     return QString(text).insert(*place, kMark);
 }
 
-/// Buttons choose first: there is no other quick way to them.
+/// Buttons choose first: there is no other quick way to reach them.
 enum class Turn { Buttons, Fields };
 
 void mark(QWidget& widget, Turn turn, Letters& taken) {
@@ -58,7 +58,7 @@ void mark(QWidget& widget, Turn turn, Letters& taken) {
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
         button->setText(marked(button->text(), taken));
     } else if (auto* label = qobject_cast<QLabel*>(&widget); label != nullptr && label->buddy() != nullptr) {
-        // Results are read, not worked: they leave the letters to the inputs.
+        // Results are read-only: the letters are kept for the inputs.
         const auto* line = qobject_cast<const QLineEdit*>(label->buddy());
         const bool result = line != nullptr && line->isReadOnly();
         if (!result && (label->buddy()->focusPolicy() & Qt::TabFocus) != 0) {
@@ -67,7 +67,7 @@ void mark(QWidget& widget, Turn turn, Letters& taken) {
     }
 }
 
-/// Marks what is below `root`, and leaves out the panels that take turns.
+/// Marks the widgets below `root` except in alternative panels.
 void markBelow(QWidget& root, Turn turn, Letters& taken) {
     for (auto* child : root.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
         if (!child->property(kAlternativeProperty).toBool()) {

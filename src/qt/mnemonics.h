@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Underlined letters that bring the keyboard to a field or press a button together with the Alt key.
+/// Underlined letters: with the Alt key they focus a field or press a button.
 #pragma once
 
 #include <QSet>
@@ -8,21 +8,21 @@
 
 namespace mero::qt {
 
-/// Letters that are given away already, small.
+/// Letters in use, in lower case.
 using Letters = QSet<QChar>;
 
-/// Gives the tabs their letters and returns them.
+/// Assigns letters to the tabs. @return these letters
 Letters addMnemonics(QTabWidget& tabs);
 
-/// Gives letters to the buttons, options and inputs below `root`. What an exclusive panel holds (see
-/// `markAlternative`) shares letters with the other panels, never with what shows beside them.
+/// Assigns letters to the buttons, options and inputs below `root`. Alternative panels (see
+/// `markAlternative`) may use the same letters as each other, but not those of widgets shown beside them.
 void addMnemonics(QWidget& root, Letters taken);
 
-/// A panel that never shows at the same time as its neighbours.
+/// Marks a panel that is never visible at the same time as its neighbours.
 void markAlternative(QWidget& panel);
 
-/// Lets a button's letter bring the focus there first, as a click would: what the field that is left has to
-/// do comes before what the button does.
+/// Makes a button's letter set the focus before it presses the button, as a click does: the lost-focus
+/// handler of the field runs before the button's handler.
 void focusByMnemonic(QWidget& button);
 
 }  // namespace mero::qt

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Finding the places.
-/// The text layout's own pages cut through rows of several lines, so it is given no pages at all.
+/// Finds the page breaks.
+/// The pages of QTextDocument's layout split table rows of several lines, so they are not used.
 #include "qt/page_breaks.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -13,13 +13,13 @@
 namespace mero::qt {
 namespace {
 
-/// A stretch from top to bottom that no cut goes through.
+/// A vertical span that must not be split.
 struct Stretch {
     qreal top;
     qreal bottom;
 };
 
-/// Collects the stretches of a document from its beginning to its end.
+/// Collects these spans from a document, from its beginning to its end.
 class Stretches {
   public:
     explicit Stretches(const QTextDocument& document) : layout_(document.documentLayout()) {
@@ -86,8 +86,7 @@ class Stretches {
     Next next_ = Next::MayBeApart;
 };
 
-/// The last place at or before `limit` that lies in no stretch; `limit` itself where a stretch fills the
-/// page.
+/// The last position at or before `limit` outside every span; `limit` itself when a span fills the page.
 qreal cutBefore(qreal limit, qreal begin, const std::vector<Stretch>& stretches) {
     qreal cut = limit;
     for (auto it = stretches.rbegin(); it != stretches.rend(); ++it) {

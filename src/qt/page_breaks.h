@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Where a document is cut into pages: between lines and between the rows of tables, never through them.
+/// Splits a document into pages: between lines and between the rows of tables, never through them.
 #pragma once
 
 #include <QTextDocument>
@@ -7,11 +7,11 @@
 
 namespace mero::qt {
 
-/// Beginnings of the pages and the document's end, from its top, in the document's own units.
+/// Tops of the pages and the document's end, from the document's top and in its units.
 ///
-/// A line, a table's row and a picture stay whole unless they are higher than a page; a heading stays with
-/// what follows it, a text before a table with the table's first row.
-/// @param document laid out in one piece, without pages
+/// A line, a table row and a picture are not split unless they are higher than a page. A heading stays on the
+/// page of the following line, a text before a table on the page of the table's first row.
+/// @param document laid out without pages
 [[nodiscard]] std::vector<qreal> pageBreaks(const QTextDocument& document, qreal page_height);
 
 }  // namespace mero::qt

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Pages that suit small and large windows.
-/// The pair says itself how narrow it can be; a plain layout would only know its present direction.
+/// Lays out pages for small and large windows.
+/// FlowPair computes its minimum width itself: a box layout only knows that of its current direction.
 #include "qt/page_layout.h"
 
 #include <QEvent>

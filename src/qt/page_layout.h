@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of whole pages: two columns that stand below each other in a narrow window, and scrolling.
+/// Lays out whole pages: two columns, stacked in a narrow window, and scroll areas.
 #pragma once
 
 #include <QBoxLayout>
@@ -8,12 +8,12 @@
 
 namespace mero::qt {
 
-/// Two widgets beside each other where there is room, below each other where there is not.
+/// Two widgets side by side, or stacked where the width is too small.
 class FlowPair : public QWidget {
   public:
     explicit FlowPair(QWidget& parent);
 
-    /// Adds the next of the two. @param stretch share of the room that is left
+    /// Adds the next of the two. @param stretch share of the remaining space
     void add(QWidget& widget, int stretch);
 
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -30,7 +30,7 @@ class FlowPair : public QWidget {
     QBoxLayout* layout_;
 };
 
-/// Fills `page` with an area that scrolls where the window is too small, and returns what to build in.
+/// Fills `page` with a scroll area, for windows that are too small. @return the widget to build in
 QWidget& makeScrollPage(QWidget& page);
 
 /// Options or buttons in one row, kept together on the left.

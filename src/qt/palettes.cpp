@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The colours of the two palettes.
-/// Texts stand out from their grounds by 4.5 : 1 at least, also where something is disabled.
+/// The contrast of texts to their background is 4.5 : 1 at least, also for disabled widgets.
 #include "qt/palettes.h"
 
 #include <QApplication>
@@ -21,7 +21,7 @@ struct Colours {
     QRgb link;
     QRgb visited_link;
     QRgb tip;
-    // The edges of what is raised, from the brightest to the darkest.
+    // The edges of raised widgets, from the brightest to the darkest.
     QRgb light;
     QRgb mid_light;
     QRgb mid;

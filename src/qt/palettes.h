@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Two palettes of our own, for people who want other colours than their desktop has.
+/// Two palettes for users who want other colours than their desktop's.
 #pragma once
 
 #include <QPalette>
@@ -9,7 +9,7 @@ namespace mero::qt {
 [[nodiscard]] QPalette lightPalette();
 [[nodiscard]] QPalette darkPalette();
 
-/// Shows the whole program in these colours. They come with the style that draws with nothing else.
+/// Applies the palette to the whole program. It also sets a style that uses only the palette's colours.
 void usePalette(const QPalette& palette);
 
 }  // namespace mero::qt

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Binding of frames and panels.
+/// Binds frames and panels to widgets.
 #include "qt/panels.h"
 
 #include "qt/mnemonics.h"
@@ -27,7 +27,7 @@ QWidget& makePanel(WidgetKit& kit, platform::Panel& panel, QWidget& parent) {
 
 QGroupBox& makeFramedPanel(WidgetKit& kit, platform::Panel& panel, const QString& heading, QWidget& parent) {
     auto& box = *new QGroupBox(heading, &parent);
-    // Without a name of its own it would be called like the group that it lies in.
+    // Without a name of its own it would get the name of the surrounding group.
     describe(box, heading);
     bindCommon(kit, panel, box);
     return box;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Frames and panels as widgets: boxes around what belongs together.
+/// Frames and panels as widgets.
 #pragma once
 
 #include <QGroupBox>
@@ -12,8 +12,7 @@ namespace mero::qt {
 /// A frame with its caption.
 QGroupBox& makeFrame(WidgetKit& kit, platform::Frame& frame, QWidget& parent);
 
-/// A panel that code shows in place of others. Its place is the layout's; code's only says what stands above
-/// what.
+/// A panel that code shows in place of others. The layout decides its position, not the one set by code.
 QWidget& makePanel(WidgetKit& kit, platform::Panel& panel, QWidget& parent);
 
 /// The same with a frame and a heading.

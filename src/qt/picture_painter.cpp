@@ -48,7 +48,7 @@ QColor accent(const QPalette& palette, double share) {
                  palette.color(QPalette::Active, QPalette::Highlight), share);
 }
 
-/// Oblique lines over the whole box.
+/// Diagonal lines over the whole box.
 void hatch(QPainter& painter, const QRectF& box, double distance) {
     const int count = static_cast<int>((box.width() + box.height()) / distance);
     for (int i = 0; i <= count; ++i) {

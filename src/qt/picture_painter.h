@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Paints drawings: fills, patterns and pens, all colours mixed from the palette, all sizes from the font.
+/// Paints drawings. All colours are mixed from the palette, all sizes come from the font.
 #pragma once
 
 #include <QFont>
@@ -10,13 +10,13 @@
 
 namespace mero::qt {
 
-/// The fonts of a drawing: what is strong is bold.
+/// The font for a text of a drawing: bold for strong emphasis.
 [[nodiscard]] QFont pictureFont(const QFont& font, picture::Emphasis emphasis);
 
 /// Text sizes in that font.
 [[nodiscard]] picture::TextSizes textSizes(const QFont& font);
 
-/// Fill and ink of what a drawing shows, in the colours of the palette.
+/// Fill and line colour of a material, from the palette.
 [[nodiscard]] QColor fillColour(const QPalette& palette, picture::Material material);
 [[nodiscard]] QColor inkColour(const QPalette& palette, picture::Stroke stroke);
 /// Colour of a series in a chart; on dark paper a light one of the same hue.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Pictures as widgets: a sheet of paper in the colours of a text field.
+/// Pictures as widgets: a sheet with the colours of a text field.
 #include "qt/picture_view.h"
 
 #include <QPainter>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A picture in a window. It asks for its drawing when it is painted, and only then.
+/// A picture in a window. It requests its drawing only when it is painted.
 #pragma once
 
 #include <QWidget>
@@ -11,13 +11,13 @@ namespace mero::qt {
 
 class PictureView : public QWidget {
   public:
-    /// Sets the picture of this moment out on the sheet.
+    /// Arranges the current picture on the sheet.
     using Source = std::function<picture::Drawing(const picture::Sheet&, const picture::TextSizes&)>;
 
-    /// @param name what assistive technology calls it; the drawing's summary describes it
+    /// @param name accessible name; the accessible description is the drawing's summary
     PictureView(QWidget& parent, const QString& name, Source source);
 
-    /// The size that it likes and the smallest one, in characters and lines.
+    /// Sets the preferred and the minimum size, in characters and lines.
     void setRoom(QSize liked, QSize least);
 
     [[nodiscard]] QSize sizeHint() const override;

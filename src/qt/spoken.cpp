@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Names and roles for assistive technology.
-/// A widget's own class answers for everything else, so only the role and the link's action are replaced.
+/// Only the role and the link's action are replaced; everything else is left to the widget's class.
 #include "qt/spoken.h"
 
 #include <QAccessibleWidget>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What a screen reader says of a widget: its name, what it is for, and what kind of thing it is.
+/// What a screen reader says about a widget: its name, description and role.
 #pragma once
 
 #include <QAccessible>
@@ -8,11 +8,11 @@
 
 namespace mero::qt {
 
-/// Names the widget: its caption without the colon, and the unit.
+/// Sets the accessible name: the caption without the colon, and the unit.
 void describe(QWidget& widget, const QString& caption, const QString& unit = {});
 
-/// Tells what kind of thing a widget is whose class does not say it: a group, a picture, a link. A link can
-/// be pressed. To be called before anything else is told about the widget, best where it is made.
+/// Sets the role of a widget whose class does not give it: a group, a picture, a link. A link gets a press
+/// action. Call it before any other accessible property is set, best where the widget is created.
 void speakAs(QWidget& widget, QAccessible::Role role);
 
 }  // namespace mero::qt

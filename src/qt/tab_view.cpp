@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Binding of the tab control.
-/// A handler may switch back at once; the control's position is what counts.
+/// Binds the tab control to a tab widget.
+/// A handler may switch back at once, so the widget follows the control's position.
 #include "qt/tab_view.h"
 
 #include <QPainter>
@@ -15,7 +15,7 @@ namespace mero::qt {
 
 namespace {
 
-/// Shows which tab the arrow keys start from.
+/// Draws the focus ring on the current tab, from which the arrow keys start.
 class TabBar : public QTabBar {
   public:
     explicit TabBar(QWidget* parent) : QTabBar(parent) { showsFocusItself(*this); }

@@ -18,22 +18,22 @@ class TabView : public QTabWidget {
 
     TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent);
 
-    /// How a page gets its content. The page that is shown now gets it at once.
+    /// Sets the function that builds a page. The current page is built at once.
     void setPage(int position, Builder builder);
 
-    /// Where a tab is drawn, in coordinates of the tab bar.
+    /// Rectangle of a tab, in coordinates of the tab bar.
     [[nodiscard]] QRect tabRect(int position) const;
 
   private:
     void addShortcuts();
-    /// Brings the focus from an empty page that got it to the first field of the page.
+    /// Moves the focus from the page itself to the page's first field.
     void enterPage();
     void showPosition();
     void buildPage(int position);
 
     platform::TabControl* tabs_;
     std::map<int, Builder> builders_;
-    Letters letters_;  ///< that the tabs have taken
+    Letters letters_;  ///< used by the tabs
 };
 
 }  // namespace mero::qt

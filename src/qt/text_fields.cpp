@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Binding of text boxes.
-/// A handler may rewrite the text while it is being typed: the widget is brought in step after each event.
+/// Binds text boxes to widgets.
+/// A handler may rewrite the text while the user types, so the widget is updated after each event.
 #include "qt/text_fields.h"
 
 #include <QKeyEvent>
@@ -16,11 +16,11 @@ using platform::Aspect;
 using platform::Key;
 using platform::TextBox;
 
-/// Far above what anybody enters; the widget's own limit would cut a pasted text without a word.
+/// Far above any real input; the widget's default limit would silently cut a pasted text.
 constexpr int kLongestText = 16'000'000;
 
-/// Gives Enter and Escape to the box's handler. What no handler wants, and Escape where it has closed no
-/// editor, goes on to the window.
+/// Passes Enter and Escape to the box's handler. A key without a handler, and an Escape that closed no
+/// editor, go on to the window.
 class KeyFilter : public QObject {
   public:
     KeyFilter(WidgetKit& kit, TextBox& box, QWidget& widget) : QObject(&widget), kit_(&kit), box_(&box) {}

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Text boxes as widgets: one line, or several.
-/// What a person types reaches the control; what code assigns is shown and does not come back.
+/// Text that the user types goes to the control; text that code assigns is shown and causes no user event.
 #pragma once
 
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Texts between the two worlds: the forms hold UTF-8, Qt its own strings.
+/// Converts between the forms' UTF-8 texts and Qt's strings.
 #pragma once
 
 #include <QByteArray>
@@ -17,7 +17,7 @@ namespace mero::qt {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-/// A caption in which an ampersand is no keyboard mark.
+/// A caption in which an ampersand is no mnemonic mark.
 [[nodiscard]] inline QString captionText(const std::string& text) {
     return shown(text).replace(QLatin1Char('&'), QLatin1String("&&"));
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Common binding of controls and widgets.
-/// Controls keep their observers for ever, so each observer looks first whether its widget still lives.
+/// Binds the common properties of controls and widgets.
+/// Controls never remove observers, so each observer first checks that its widget still exists.
 #include "qt/widget_kit.h"
 
 #include <QEvent>

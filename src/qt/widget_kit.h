@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// What every widget needs of the program around it: the gate for events and the list of what is bound.
-/// It also holds what all controls have in common: name, enabled, visible, focus.
+/// Shared by all widgets: the gate for events, the list of bound widgets, and the binding of the properties
+/// common to all controls (name, enabled, visible, focus).
 #pragma once
 
 #include <QPointer>
@@ -14,11 +14,11 @@
 
 namespace mero::qt {
 
-/// Runs an event of the user. Whoever owns the program decides what an error in it means.
+/// Runs an event of the user. The owner of the program handles errors in it.
 using Gate = std::function<void(const std::function<void()>&)>;
 
-/// Whether getting and losing the focus of the window system runs the controls' handlers. It does for a
-/// person; a script says itself when a field gets and loses the focus.
+/// Whether focus events of the window system run the controls' handlers. They do for a person; a script
+/// states itself when a field gets and loses the focus.
 enum class FocusEvents { RunHandlers, RunNothing };
 
 class WidgetKit {
@@ -29,7 +29,7 @@ class WidgetKit {
     [[nodiscard]] bool runsFocusHandlers() const { return focus_events_ == FocusEvents::RunHandlers; }
 
     void add(const platform::Control& control, QWidget& widget) { widgets_[&control] = &widget; }
-    /// The widget of a control, null while it is not built.
+    /// The widget of a control, null until it is built.
     [[nodiscard]] QWidget* find(const platform::Control& control) const;
 
   private:
@@ -38,24 +38,24 @@ class WidgetKit {
     std::unordered_map<const platform::Control*, QPointer<QWidget>> widgets_;
 };
 
-/// Calls `action` with what of the control changed, for as long as the widget lives.
+/// Calls `action` with the changed property of the control, as long as the widget exists.
 void follow(platform::Control& control, QWidget& widget, std::function<void(platform::Aspect)> action);
 
-/// Binds what all controls have in common and enters the widget into the kit. The widget has a parent.
+/// Binds the properties common to all controls and adds the widget to the kit. The widget must have a parent.
 void bindCommon(WidgetKit& kit, platform::Control& control, QWidget& widget);
 
 /// Runs the handlers when a person moves the focus to the widget or away from it. Switching windows, menus
-/// and lists that drop down count as neither.
+/// and drop-down lists count as neither.
 void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost);
 
-/// Scrolls the areas around the widget to where it is seen.
+/// Scrolls the areas around the widget until it is visible.
 void showInScrollAreas(QWidget& widget);
 
-/// Shows the widget and puts the focus there, its text selected. No handler runs: it is as if the window had
-/// been left and entered again.
+/// Shows the widget, focuses it and selects its text. No handler runs, as when the window is left and entered
+/// again.
 void leadTo(QWidget& widget);
 
-/// Calls `action` once, after the running event, if the object still lives then.
+/// Calls `action` once, after the running event, if the object still exists then.
 void later(QObject& object, std::function<void()> action);
 
 }  // namespace mero::qt

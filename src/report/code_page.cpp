@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// windows-1250 over iconv, one character at a time: so each character is either one of the code page or "?",
-/// whatever an iconv implementation does with characters it drops, substitutes or combines.
+/// Converts windows-1250 with iconv, one character at a time, so that each result is one character of the
+/// code page or "?", although iconv implementations may drop, substitute or combine characters.
 #include "report/code_page.h"
 
 #include <iconv.h>
@@ -13,11 +13,11 @@
 namespace mero::report {
 namespace {
 
-/// One direction of conversion; closes itself.
+/// An iconv handle for one direction of conversion; the destructor closes it.
 class Converter {
   public:
     Converter(const char* to, const char* from) : handle_(iconv_open(to, from)) {
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): failure is minus one in place of a pointer
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): failure is a pointer of value -1
         if (handle_ == iconv_t(-1)) {
             throw std::system_error(errno, std::generic_category(), "iconv_open");
         }
@@ -50,8 +50,8 @@ bool isAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80;
 }
 
-/// The bytes that may follow the first one, and how many of them: the table of well-formed UTF-8, which
-/// narrows the second byte so that overlong forms, surrogates and what lies beyond U+10FFFF are malformed.
+/// The bytes that may follow the first one, and their number, by the table of well-formed UTF-8. The range of
+/// the second byte excludes overlong forms, surrogates and code points beyond U+10FFFF.
 struct Follow {
     std::size_t count = 0;
     unsigned char second_lowest = 0x80;
@@ -78,7 +78,7 @@ struct Sequence {
     bool well_formed = false;
 };
 
-/// The character that a text starts with (not ASCII), or the malformed sequence that stands in its place.
+/// The first character of a text (not ASCII), or the malformed sequence in its place.
 Sequence firstSequence(std::string_view text) {
     const Follow follow = followOf(static_cast<unsigned char>(text[0]));
     std::size_t length = 1;

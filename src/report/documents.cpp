@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Paths of the report and of the description pages.
+/// Builds the paths of the report and of the description pages.
 #include "report/documents.h"
 
 #include "platform/numbers/number_text.h"

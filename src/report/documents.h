@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Where the documents lie in the program's folder: the report and the description pages.
+/// Paths of the documents in the program's folder: the report and the description pages.
 #pragma once
 
 #include <string>

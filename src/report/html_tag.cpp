@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Reading of tags.
-/// A letter, "/" or "!" behind "<" makes a tag; everything else is text.
+/// Parses tags.
+/// "<" followed by a letter, "/" or "!" begins a tag; everything else is text.
 #include "report/html_tag.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// One tag of an HTML text, read as browsers read tags.
-/// It refers to the text and owns nothing but its name.
+/// One tag of an HTML text, parsed like in browsers.
+/// It is a view into the text and owns only its name.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@ namespace mero::report {
 
 class HtmlTag {
   public:
-    /// The tag at the beginning of a text; nothing where a text begins, also one with a lone "<".
+    /// The tag at the beginning of `html`; empty when it begins with text, also with a lone "<".
     [[nodiscard]] static std::optional<HtmlTag> at(std::string_view html);
 
     /// The whole tag from "<" to ">".

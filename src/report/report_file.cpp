@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The report file over POSIX calls: their error numbers tell a locked file from every other failure.
+/// Writes the report file with POSIX calls, whose error numbers distinguish a locked file.
 #include "report/report_file.h"
 
 #include <fcntl.h>
@@ -21,14 +21,14 @@
 namespace mero::report {
 namespace {
 
-/// An open file; closes itself.
+/// An open file; the destructor closes it.
 class OpenFile {
   public:
-    /// A pipe that nobody reads is not waited for.
+    /// Opening a pipe without a reader fails instead of blocking.
     explicit OpenFile(const std::string& path, int flags = 0)
         : descriptor_(open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | flags, 0666)) {
         if (isOpen()) {
-            static_cast<void>(fcntl(descriptor_, F_SETFL, 0));  // a pipe that is read is waited for
+            static_cast<void>(fcntl(descriptor_, F_SETFL, 0));  // writing to a pipe with a reader may block
         }
     }
     ~OpenFile() { static_cast<void>(closeIt()); }
@@ -37,7 +37,7 @@ class OpenFile {
 
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
 
-    /// True for a file of a file system; a device or a pipe that the path leads to is none of ours to remove.
+    /// True for a regular file; a device or a pipe at the path must not be removed.
     [[nodiscard]] bool isRegular() const {
         struct stat status {};
         return fstat(descriptor_, &status) == 0 && S_ISREG(status.st_mode);
@@ -57,7 +57,7 @@ class OpenFile {
         return true;
     }
 
-    /// Some file systems report a full disk only here.
+    /// Closes the file. Some file systems report a full disk only here.
     [[nodiscard]] bool closeIt() {
         const int descriptor = descriptor_;
         descriptor_ = -1;
@@ -68,8 +68,8 @@ class OpenFile {
     int descriptor_;
 };
 
-/// Errors of opening that mean: there, but not for us now. A file protected against writing, by its rights,
-/// as immutable or by its file system; a file in use, which network shares report as busy.
+/// True for errors of opening an existing file that cannot be written now: it is write-protected (by its
+/// mode, as immutable or by its file system), or in use, which network shares report as busy.
 bool isPermissionDenied(int error) {
     return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == ETXTBSY;
 }
@@ -79,8 +79,7 @@ bool isDenied(const std::string& path) {
     return !old.isOpen() && isPermissionDenied(errno);
 }
 
-/// Where no new file can take the old one's place: in a protected folder, on a full disk, through a link to a
-/// device.
+/// For cases where no new file can replace the old one: a protected folder, a full disk, a link to a device.
 WriteResult writeInPlace(const std::string& path, std::string_view bytes) {
     OpenFile file(path, O_CREAT | O_TRUNC);
     if (!file.isOpen()) {
@@ -102,15 +101,15 @@ WriteResult writeBytes(const std::string& path, std::string_view bytes) {
     if (isDenied(path)) {
         return WriteResult::PermissionDenied;
     }
-    // A second program in this folder may be reading a report of the same name: it gets the old one or the
-    // new one whole.
+    // Another program in this folder may be reading a report of the same name: it gets the complete old or
+    // new one.
     return replaceWhole(path, bytes, OnDisk::NotRequired) ? WriteResult::Written : writeInPlace(path, bytes);
 }
 
 }  // namespace
 
 WriteResult writeReport(const std::string& path, std::string_view html_utf8) {
-    // A path is cut at a zero character, and the cut path is another file's.
+    // The system cuts a path at a zero character, and the cut path is another file's.
     if (path.empty() || path.find('\0') != std::string::npos) {
         return WriteResult::Failed;
     }
@@ -123,7 +122,7 @@ WriteResult writeReport(const std::string& path, std::string_view html_utf8) {
 
 bool holdsReport(const std::string& path, std::string_view html_utf8) {
     std::error_code failure;
-    if (!std::filesystem::is_regular_file(path, failure)) {  // a pipe would keep us waiting
+    if (!std::filesystem::is_regular_file(path, failure)) {  // opening a pipe would block
         return false;
     }
     std::ifstream file(path, std::ios::binary);

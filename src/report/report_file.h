@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The report file: written whole or not at all, removed without complaint.
+/// Writes the report file, completely or not at all, and removes it.
 #pragma once
 
 #include <string>
@@ -10,21 +10,20 @@ namespace mero::report {
 enum class WriteResult {
     Written,
     PermissionDenied,  ///< the file is locked or protected; it keeps its old content
-    Failed,            ///< any other error; a report file that was begun is removed
+    Failed,            ///< any other error; an incomplete report file is removed
 };
 
 /// Creates or overwrites the file with the text in windows-1250. The path is a POSIX path in UTF-8.
-/// Where the folder can be written, whoever reads the file meanwhile gets the old report or the new one
-/// whole.
+/// If the folder is writable, a program that reads the file meanwhile gets the complete old or new report.
 [[nodiscard]] WriteResult writeReport(const std::string& path, std::string_view html_utf8);
 
-/// Whether the file is there and holds exactly this report.
+/// True when the file exists and its content is exactly this report.
 [[nodiscard]] bool holdsReport(const std::string& path, std::string_view html_utf8);
 
-/// Deletes the file if there is one; every error is ignored. Does nothing for an empty path or a folder.
+/// Deletes the file if it exists; errors are ignored. Does nothing for an empty path or a folder.
 void removeReport(const std::string& path);
 
-/// The file name without its folder, as the message about a locked report tells it.
+/// The file name without its folder, for the message about a locked report.
 [[nodiscard]] std::string bareFileName(const std::string& path);
 
 }  // namespace mero::report

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Making the report independent of its folder.
-/// The copy needs nothing of the program's folder.
+/// Makes the report independent of its folder.
 #include "report/saved_copy.h"
 
 #include <algorithm>
@@ -21,14 +20,14 @@ namespace {
 
 constexpr std::string_view kLogoReference = "src=Webs\\Desc_soubory\\logo.gif";
 constexpr std::string_view kDocumentStart = "<html>";
-/// Whatever markup the user's texts bring along: the copy asks for nothing from anywhere and runs nothing.
+/// Whatever markup the user's texts contain, the copy loads nothing from elsewhere and runs no script.
 constexpr std::string_view kHead =
     "<head><meta charset=\"utf-8\"><meta http-equiv=\"Content-Security-Policy\" "
     "content=\"default-src 'none'; img-src data:; style-src 'unsafe-inline'\"></head>";
 
 std::optional<std::string> readFile(const std::string& path) {
     std::error_code failure;
-    if (!std::filesystem::is_regular_file(path, failure)) {  // a pipe would keep us waiting
+    if (!std::filesystem::is_regular_file(path, failure)) {  // opening a pipe would block
         return std::nullopt;
     }
     std::ifstream file(path, std::ios::binary);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A copy of the report that can be handed over: it opens correctly in any browser and any folder.
-/// It declares its character set and carries its logo inside.
+/// Saves a copy of the report that opens correctly in any browser and any folder.
+/// The copy declares its character set and contains its logo.
 #pragma once
 
 #include <string>
@@ -9,19 +9,19 @@
 namespace mero::report {
 
 /// Saves the report file as a self-contained HTML document in UTF-8. An existing file is replaced only by a
-/// whole new one.
+/// complete new one.
 /// @param report_path    the report file (windows-1250)
-/// @param program_folder where the report's relative picture paths lead
-/// @param target_path    where the copy goes
-/// @return false when the report cannot be read or the copy cannot be written; an old file stays whole then
+/// @param program_folder folder of the report's relative picture paths
+/// @param target_path    path of the copy
+/// @return false when the report cannot be read or the copy cannot be written; an old file is unchanged then
 [[nodiscard]] bool saveCopy(const std::string& report_path, const std::string& program_folder,
                             const std::string& target_path);
 
-/// The same of a report that is at hand, in UTF-8: it does not depend on what became of its file.
+/// The same for a report in memory, in UTF-8; its file is not read.
 [[nodiscard]] bool saveCopyOf(std::string html, const std::string& program_folder,
                               const std::string& target_path);
 
-/// Does the name ask for a PDF file? Its suffix says so, in large or small letters; all others mean HTML.
+/// True when the suffix is that of a PDF file, in upper or lower case; all others mean HTML.
 [[nodiscard]] bool isPdfPath(std::string_view path);
 
 }  // namespace mero::report

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-/// Arranging the report's tags for a rich-text view.
-/// Such a view knows no fixed-width block, lets text behind a rule slip in front of it, gives paragraphs
-/// around tables a height, and sets cells to the top.
+/// Rewrites the report's tags for Qt's rich-text view.
+/// That view has no blocks of fixed width, moves text after a rule in front of it, gives the paragraphs
+/// around tables a height, and aligns cells to the top.
 #include "report/view_html.h"
 
 #include <algorithm>
@@ -15,10 +15,10 @@
 namespace mero::report {
 namespace {
 
-/// How the report begins; its block is 650 px wide.
+/// Beginning of the report; its block is 650 px wide.
 constexpr std::string_view kReportStart = "<html><body><div style=position:relative;width:650px";
 
-/// Column widths as the report asks for them and what a browser gives them within the block's width.
+/// Column widths in the report, and the width that a browser gives them within the block.
 struct ColumnWidth {
     std::string_view asked;
     std::string_view given;
@@ -26,7 +26,7 @@ struct ColumnWidth {
 constexpr std::array kProjectColumns{ColumnWidth{"200", "148"}, ColumnWidth{"450", "288"},
                                      ColumnWidth{"210", "202"}};
 constexpr std::array kValueColumns{ColumnWidth{"200", "198"}, ColumnWidth{"250", "248"}};
-/// A browser adds padding and rule to what is asked for.
+/// A browser adds padding and rule to the given width.
 constexpr std::array kRuledColumns{ColumnWidth{"150", "153"}, ColumnWidth{"200", "203"},
                                    ColumnWidth{"250", "253"}};
 
@@ -34,7 +34,7 @@ constexpr std::string_view kPlainTable = "<table border=0 cellspacing=2 cellpadd
 constexpr std::string_view kRuledTable = "<table border=1 cellspacing=0 cellpadding=1";
 constexpr std::string_view kRuledTableStyle =
     "border-collapse:collapse;border-style:solid;border-color:#000;";
-/// The report's block, which only rules and the description fill.
+/// The report's block; only rules and the description are as wide as it.
 constexpr std::string_view kBlockBegin = "<table width=650 border=0 cellspacing=0 cellpadding=0><tr><td>";
 constexpr std::string_view kBlockEnd = "</td></tr></table>";
 constexpr std::string_view kParagraphGap = "margin-top:16px;";
@@ -114,7 +114,7 @@ class Arranger {
         }
     }
 
-    /// A break that nothing follows in its paragraph only ends the line.
+    /// Writes the pending breaks. A break at the end of a paragraph only ends the line.
     void addBreaks() { out_ += std::exchange(breaks_, {}); }
 
     void addTagInTable(const HtmlTag& tag) {
@@ -129,7 +129,7 @@ class Arranger {
             cell += " valign=middle";
         }
         replaceWidth(cell, tag.attribute("width"));
-        // The logo is higher than the rows that it stands beside: over all of them it stretches none.
+        // The logo is higher than the rows beside it: spanning all of them, it does not stretch any.
         replace(cell, "rowspan=4", "rowspan=5");
         out_ += cell + ">";
     }
@@ -187,7 +187,7 @@ class Arranger {
         gap_ = false;
     }
 
-    /// The one text that is long enough to need the block's width.
+    /// The only text that is long enough to need the block's width.
     void beginDescription() {
         endParagraph();
         in_paragraph_ = true;
@@ -211,7 +211,7 @@ class Arranger {
     bool ruled_ = false;
     bool in_paragraph_ = false;
     bool in_description_ = false;
-    /// A paragraph began whose first content is still to come.
+    /// A paragraph has begun and has no content yet.
     bool gap_ = false;
 };
 

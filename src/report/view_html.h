@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The report as a rich-text view has to be told it, so that it looks as in a browser.
-/// Only what is shown is arranged; the file keeps its bytes.
+/// Rewrites the report so that Qt's rich-text view renders it like a browser.
+/// Only the shown text is rewritten; the file is not changed.
 #pragma once
 
 #include <string>
@@ -8,12 +8,12 @@
 
 namespace mero::report {
 
-/// Text in UTF-8 of a page in windows-1250 for the view and the printed pages. A report is arranged (see
-/// arrangedForView); every other page stays as it is.
+/// Converts a page in windows-1250 to UTF-8 for the view and the printed pages. A report is rewritten (see
+/// arrangedForView); other pages are not.
 [[nodiscard]] std::string viewHtml(std::string_view bytes);
 
-/// A report with the same content whose rules, gaps, column widths and borders a rich-text view places as a
-/// browser places the original's. A text that is no report comes back unchanged.
+/// A report with the same content, rewritten so that a rich-text view places its rules, gaps, column widths
+/// and borders like a browser places the original's. A text that is not a report is returned unchanged.
 [[nodiscard]] std::string arrangedForView(std::string_view html);
 
 }  // namespace mero::report

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Making the new file, bringing it to the disk, renaming it.
-/// A rename within one folder is the one step that cannot end half way.
+/// Writes the new file, flushes it to the disk and renames it.
+/// A rename within one folder is atomic.
 #include "report/whole_file.h"
 
 #include <fcntl.h>
@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where the path leads to, and the rights that the new file gets.
+/// The file that the path leads to, and the mode of the new file.
 struct Target {
     std::string path;
     mode_t mode = 0;
@@ -35,7 +35,7 @@ std::optional<Target> findTarget(const std::string& path) {
     }
     struct stat status {};
     if (stat(path.c_str(), &status) != 0) {
-        // Also a link that leads nowhere: its own place is taken.
+        // Also a dangling link: the link itself is replaced.
         return Target{path, rightsOfNewFiles()};
     }
     std::error_code failure;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Replacing a file by a whole new one, or not at all.
-/// The new file is made beside the old one and takes its place only when it is complete on the disk.
+/// Replaces a file by a complete new one, or not at all.
+/// The new file is written beside the old one and replaces it only when it is complete.
 #pragma once
 
 #include <functional>
@@ -9,22 +9,22 @@
 
 namespace mero::report {
 
-/// Whether the file must be on the disk before it takes its place, so that even a loss of power leaves the
-/// old one or the new one; that can take long.
+/// Whether the new file must be flushed to the disk before it replaces the old one, so that even a loss of
+/// power leaves one of them complete; flushing can take long.
 enum class OnDisk { Required, NotRequired };
 
-/// Replaces a file or makes a new one.
+/// Replaces a file or creates a new one.
 ///
-/// A link keeps leading where it led, and the file it leads to is replaced. What is no file of a file system
-/// (a folder, a device, a pipe) is left alone.
-/// @param write makes the content in the empty file whose path it is given; false when it could not
-/// @return false when the file could not be made or replaced; an old file is whole then and nothing is left
-///         beside it
+/// If the path is a link, the file that it leads to is replaced. A folder, a device or a pipe is not
+/// replaced.
+/// @param write writes the content to the empty file at the given path; returns false on failure
+/// @return false when the file could not be written or replaced; an old file is unchanged then and no
+///         temporary file is left
 [[nodiscard]] bool replaceWhole(const std::string& path,
                                 const std::function<bool(const std::string& fresh_path)>& write,
                                 OnDisk on_disk = OnDisk::Required);
 
-/// The same with the content at hand.
+/// The same for content in memory.
 [[nodiscard]] bool replaceWhole(const std::string& path, std::string_view content,
                                 OnDisk on_disk = OnDisk::Required);
 

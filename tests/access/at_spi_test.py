@@ -1,9 +1,9 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Walks all controls of the real window as a screen reader does, over AT-SPI.
+"""Checks all controls of the real window over AT-SPI, as a screen reader sees them.
 
-In every tab, panel and dialog each control that can be worked has a role and a name of its own, the Tab key reaches
-each that is enabled, values can be read, and a button that is pressed over AT-SPI leaves its result in a field.
+In every tab, panel and dialog each control that can be operated has a role and a unique name, the Tab key reaches
+each enabled one, values can be read, and a button pressed over AT-SPI writes its result to a field.
 Use: at_spi_test.py --program MERO
 """
 
@@ -32,7 +32,7 @@ click frmDialog.OKButton
 set txtSoucFiltrace "1e-4"
 set txtHPV "4"
 """
-# The states of the window: what leads there, its window, how many controls it has at least.
+# States of the window: the script that leads there, the window, the minimum number of controls.
 STATES = [
     ("inputs", "", "MERO", 18),
     ("rain", "click cmdEdit(0)", "Intenzity", 5),
@@ -82,17 +82,17 @@ def check_cells(state: str, table) -> None:
 
 
 def check_focus_order(state: str, window, watch: FocusWatch) -> None:
-    # The small arrows beside a number cannot be entered: the number itself knows the arrow keys.
+    # The small arrow buttons beside a number take no focus: the arrow keys work in the number's field.
     wanted = {group_of(each) for each in worked_controls(window)
               if has(each, "SENSITIVE") and has(each, "FOCUSABLE")}  # fmt: skip
-    # Links inside of a page are stations of their own.
+    # Links inside a page take the focus too.
     reached = watch.press("Tab", len(wanted) + 10, wanted)
     lost = wanted - set(reached)
     check(not lost, f"{state}: the Tab key never comes to {sorted(lost)}; it goes {reached}")
 
 
 def check_values(program: Window) -> None:
-    """The trench by AT-SPI: inputs are read, the button is pressed, its results are read."""
+    """A trench over AT-SPI: reads the inputs, presses the button, reads the results."""
     program.say("tab 1\nclick optSelType(0)\nselect cboSelType 4\nset txtPorVyplne(4) 0.35\nset txtSirkaRyhy(4) 0.8\n"
                 "set txtVyskaRyhy(4) 1.2")  # fmt: skip
     window = program.window("MERO")

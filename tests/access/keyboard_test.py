@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""A trench designed by a person who has only a keyboard; what the person would read is read over AT-SPI.
+"""Designs a trench only with the keyboard, and reads the window's texts over AT-SPI.
 
-The site is that of examples/ryha.mero, so the results are known. On the way an input is forgotten: after the message
+The site is that of examples/ryha.mero, so the results are known. One input is left out at first: after the message
 the focus must be in its field.
 Use: keyboard_test.py --program MERO
 """
@@ -44,18 +44,18 @@ class Person:
             f"window {title!r} in front")  # fmt: skip
 
     def tab(self) -> str:
-        """The caption of the tab that is chosen."""
+        """The caption of the current tab."""
         bars = [each for each in walk(self.window.window("MERO")) if each.get_role_name() == "page tab list"]
         return bars[0].get_name() if bars else ""
 
     def focus(self) -> str:
-        """Where the focus is, as "role name"."""
+        """The control with the focus, as "role name"."""
         self.watch.listen()
         if self.watch.stations:
             return self.watch.stations[-1]
         front = self.front()
         found = [] if front is None else [each for each in walk(front) if is_worked(each) and has(each, "FOCUSED")]
-        # The chosen tab always says that it has the focus; it has it where nothing else does.
+        # The chosen tab always reports that it has the focus; that is true only if no other control does.
         found.sort(key=lambda each: each.get_role_name() == "page tab")
         return group_of(found[0]) if found else ""
 
@@ -84,7 +84,7 @@ class Person:
         check(self.read(name) == text, f"{name} is {self.read(name)!r} and not {text!r}")
 
     def message(self) -> str:
-        """The text of the message box, which is then closed by the Enter key."""
+        """Returns the text of the message box and closes it with the Enter key."""
         box = Window.wait_for(
             lambda: next((each for each in children(self.window.application)
                           if each.get_role_name() in ("alert", "dialog") and has(each, "SHOWING")
@@ -132,7 +132,7 @@ def choose_trench(person: Person) -> None:
     person.tab_to("options Výběr typu vsakování")
     press("space")
     person.tab_to("combo box Výběr typu vsakování")
-    # In the open list the arrows only look; each step in a closed one would choose.
+    # In the open list the arrows only highlight; in a closed list each step would choose.
     press("alt+Down")
     time.sleep(LIST_OPENS_S)
     press("Down", 4)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""The window as a screen reader sees it: over AT-SPI, on a bus and a screen of its own.
+"""The window as a screen reader sees it: over AT-SPI, on a separate bus and screen.
 
-Importing it ends the program with a clear text where the tools are missing."""
+Importing it ends the program with a clear message if the tools are missing."""
 
 import json
 import os
@@ -26,7 +26,7 @@ except (ImportError, ValueError):
     sys.exit(MISSING.format("python3-gi with the typelib of AT-SPI is"))
 warnings.simplefilter("ignore", DeprecationWarning)
 
-# What can be worked, by its role; labels, panels and cells are checked in their own way.
+# Roles of controls that can be operated; labels, panels and cells are checked separately.
 WORKED = {"push button", "radio button", "check box", "combo box", "text", "link", "table", "page tab", "spin button"}
 
 failures: list[str] = []
@@ -39,7 +39,7 @@ def check(holds: bool, text: str) -> None:
 
 
 def on_a_bus_of_its_own() -> None:
-    """Neither the user's screen reader nor another test hears this program. Starts this test again."""
+    """Restarts this test on a private bus, so that no screen reader and no other test sees this program."""
     for tool in ("dbus-run-session", "Xvfb", "xdotool"):
         if shutil.which(tool) is None:
             sys.exit(MISSING.format(f"{tool} is"))
@@ -50,7 +50,7 @@ def on_a_bus_of_its_own() -> None:
 
 
 class Window:
-    """The running program: a script's hand on one side, the accessibility bus on the other."""
+    """The running program, driven by a script and observed over the accessibility bus."""
 
     def __init__(self, program: Path, *options: str):
         self.process = subprocess.Popen(
@@ -87,7 +87,7 @@ class Window:
         return self.say(f"get {control}")[-1]
 
     def window(self, title: str):
-        """The window in front whose title begins so."""
+        """The active window whose title begins with the text."""
         fronts = [each for each in children(self.application) if has(each, "SHOWING")]
         return next((each for each in reversed(fronts) if each.get_name().startswith(title)), None)
 
@@ -106,7 +106,7 @@ def has(accessible, state: str) -> bool:
 
 
 def walk(accessible):
-    """Everything below that shows, the parts of lists and tables left out."""
+    """Everything visible below, without the parts of lists and tables."""
     if not has(accessible, "SHOWING"):
         return
     yield accessible
@@ -120,13 +120,13 @@ def worked_controls(window) -> list:
 
 
 def is_worked(accessible) -> bool:
-    # A page is a text that can be entered, to read and scroll it.
+    # A page is a text that takes the focus, to read and scroll it.
     role = accessible.get_role_name()
     return role in WORKED or (role == "label" and has(accessible, "FOCUSABLE"))
 
 
 def spoken_name(accessible) -> str:
-    """What a reader says: a list is called by its label, everything else by its own name."""
+    """The name that a screen reader says: of a list its label, otherwise the control's own name."""
     if accessible.get_role_name() == "combo box":
         labels = [relation.get_target(0).get_name() for relation in accessible.get_relation_set()
                   if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY]  # fmt: skip
@@ -140,7 +140,7 @@ def press(key: str, times: int = 1) -> None:
 
 
 class FocusWatch:
-    """Writes down what is told to have got the focus."""
+    """Records the controls that are reported to get the focus."""
 
     PATIENCE_S = 3
 
@@ -154,10 +154,10 @@ class FocusWatch:
             if event.detail1:
                 self.stations.append(group_of(event.source))
         except GLib.Error:
-            pass  # it has gone since
+            pass  # it no longer exists
 
     def press(self, key: str, times: int, wanted: set[str]) -> list[str]:
-        """Presses a key several times and returns where the focus went, as soon as it was everywhere wanted."""
+        """Presses a key several times, until all wanted controls had the focus; returns those that got it."""
         self.stations = []
         press(key, times)
         end = time.monotonic() + self.PATIENCE_S
@@ -171,7 +171,7 @@ class FocusWatch:
 
     @staticmethod
     def listen() -> None:
-        """Takes in what has been told by now."""
+        """Processes the events received so far."""
         context = GLib.MainContext.default()
         while context.iteration(False):
             pass
@@ -188,7 +188,7 @@ class FocusWatch:
 
 
 def group_of(accessible) -> str:
-    """One option of a group stands for all: the others are reached by arrows. So does one tab."""
+    """The Tab key reaches one option of a group, and arrow keys the others; the same holds for tabs."""
     if accessible.get_role_name() in ("page tab", "page tab list"):
         return "tabs"
     if accessible.get_role_name() == "table cell":

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What `get` and `value` answer: every kind of control, every shared value by its name.
+// Results of `get` and `value`: every kind of control, every shared value by its name.
 #include "automation/inspection.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Each action of the script language on the controls that it is made for.
+// Each action of the script language on the controls that it applies to.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Words of a script's line, numbers, and texts taken apart into keys.
+// Words of a script's line, numbers, and texts split into keys.
 #include "automation/script_line.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Following a script: files as editors leave them, unusable lines, refusals, exit status.
+// Running a script: files as editors write them, unusable lines, refusals, exit status.
 #include "automation/script_runner.h"
 
 #include <gmock/gmock.h>
@@ -90,7 +90,7 @@ TEST(ScriptRunner, EntriesAndCellsThatAreNotThereMakeItUnusable) {
     }
 }
 
-/// The line that an action prints which the user could not do.
+/// The trace line of an action that the user could not perform.
 std::string refused(const std::string& control, const std::string& why) {
     return "{\"refused\": \"" + control + "\", \"why\": \"" + why + "\"}";
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A script that is followed on a whole program: what it printed, what it complained of, how it ended.
+/// Runs scripts on a whole program and keeps trace, diagnostics and exit status.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ class ScriptedProgram {
   public:
     ScriptedProgram() { program.start(); }
 
-    /// Follows the script; its trace is `<folder>` where the program's folder stands.
+    /// Runs the script. In its trace the program's folder is replaced by `<folder>`.
     int run(const std::string& text) {
         std::istringstream script(text);
         return ScriptRunner(program, user, desk, diagnostics, "s.mero").run(script);

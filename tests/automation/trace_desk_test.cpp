@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The trace's lines, and that a real desk behind it is shown the same things.
+// The trace's lines, and that all calls are passed on to a real desk.
 #include "automation/trace_desk.h"
 
 #include <gmock/gmock.h>
@@ -7,20 +7,26 @@
 
 #include <sstream>
 
+#include "support/message_box.h"
 #include "support/recording_desk.h"
 
 namespace mero::automation {
 namespace {
 
+using mero::test::critical;
+using mero::test::exclamation;
+using mero::test::information;
+using mero::test::messageOf;
+using mero::test::plain;
 using testing::ElementsAre;
 
 TEST(TraceDesk, OneJsonObjectPerThing) {
     std::ostringstream trace;
     TraceDesk desk(trace, nullptr, "/f");
-    desk.showMessage({"První\r\nDruhý \"x\"\r\n", platform::MessageIcon::Critical});
-    desk.showMessage({"a", platform::MessageIcon::Exclamation, "Chyba"});
-    desk.showMessage({"b", platform::MessageIcon::Information});
-    desk.showMessage({"c"});
+    desk.showMessage(messageOf(critical("První\r\nDruhý \"x\"\r\n")));
+    desk.showMessage(messageOf(exclamation("a", "Chyba")));
+    desk.showMessage(messageOf(information("b")));
+    desk.showMessage(messageOf(plain("c")));
     desk.reportError(RuntimeError(ErrorNumber::DivisionByZero));
     desk.reportError(RuntimeError(53, "pryč", RuntimeError::Effect::EndsProgram));
     desk.openAddress("https://example.org/");
@@ -62,7 +68,7 @@ TEST(TraceDesk, TheDeskBehindItIsShownTheSame) {
     std::ostringstream trace;
     mero::test::RecordingDesk inner;
     TraceDesk desk(trace, &inner, "/f");
-    desk.showMessage({"a", platform::MessageIcon::Exclamation, "Chyba"});
+    desk.showMessage(messageOf(exclamation("a", "Chyba")));
     desk.reportError(RuntimeError(ErrorNumber::Overflow));
     desk.openAddress("https://example.org/");
     desk.formOpened("f");

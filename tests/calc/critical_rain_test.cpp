@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Tests of the search for the critical rain.
-/// Ties, tables without a positive value, and which rows take part.
+/// Ties, tables without a positive value, and which rows are used.
 #include "calc/critical_rain.h"
 
 #include <gtest/gtest.h>

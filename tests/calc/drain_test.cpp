@@ -23,7 +23,7 @@ TEST(ThrottledOutflow, IsTheAllowedIntensityOverTheReducedArea) {
 }
 
 TEST(StorageCoefficient, AddsThePipesAndTakesAwayTheFillTheyDisplace) {
-    // Interiors 0.15^2 * 2 / 0.35 = 0.128571429, bodies 0.16^2 * 2 = 0.0512; difference 0.077371429,
+    // Interiors 0.15^2 * 2 / 0.35 = 0.128571429, pipes 0.16^2 * 2 = 0.0512; difference 0.077371429,
     // * pi / 4 = 0.060767379; (0.060767379 + 1.5) * 0.35 / 1.5 = 0.364179055
     expectClose(storageCoefficient(kTwoPipes, 0.35F, 1.0F, 1.5F), 0.364179055);
 }

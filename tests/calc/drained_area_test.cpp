@@ -26,15 +26,15 @@ TEST(ReducedArea, IsZeroWithoutEntries) {
 }
 
 TEST(ReducedArea, TotalIsRoundedAfterEveryAddition) {
-    // Above 2^24 a Single counts in twos: each 1 m2 is lost on its own, together they would not be.
+    // Above 2^24 a Single has a step of 2: each addition of 1 m2 is lost, their sum would not be.
     const std::array coefficients{1.0F, 1.0F, 1.0F};
     EXPECT_EQ(reducedArea(coefficients, std::array{16777216.0F, 1.0F, 1.0F}), 16777216.0F);
     EXPECT_EQ(reducedArea(coefficients, std::array{1.0F, 1.0F, 16777216.0F}), 16777218.0F);
 }
 
 TEST(ReducedArea, ProductIsNotRoundedBeforeItIsAdded) {
-    // (1 + 2^-13) * (1 - 2^-13) = 1 - 2^-26, which a Single would round up to 1. At 16777218 a Single counts
-    // in twos: the sum 16777218.99999999 falls back, 16777219 would be a tie and go up to 16777220.
+    // (1 + 2^-13) * (1 - 2^-13) = 1 - 2^-26, which a Single would round up to 1. At 16777218 a Single has a
+    // step of 2: the sum 16777218.99999999 is rounded down, 16777219 would be a tie, rounded up to 16777220.
     EXPECT_EQ(addPartialArea(16777218.0F, 1.0001220703125F, 0.9998779296875F), 16777218.0F);
     EXPECT_EQ(addPartialArea(16777218.0F, 1.0F, 1.0F), 16777220.0F);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The formula of one rain serves the search and the list of all rows alike.
+// The formula of one rain is used by the search and by the list of all rows.
 #include "calc/per_rain.h"
 
 #include <gmock/gmock.h>

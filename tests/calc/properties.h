@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// What the properties of the design formulas share: random sites, exact values, tolerances.
-/// Each procedure is held against its formula evaluated once more in extended precision.
+/// Shared by the property tests of the design formulas: random sites, exact values, tolerances.
+/// Each function is compared with its formula evaluated in extended precision.
 #pragma once
 
 // RapidCheck's header for GoogleTest needs GoogleTest included before it.
@@ -22,24 +22,24 @@ using Exact = long double;
 
 constexpr Exact kExactPi = 3.1415927410125732L;
 
-/// A formula has at most some 20 operations in double, each off by at most 2^-53 of its result: 64 steps of
-/// 2^-53 of the largest term leave room, and are still far below one step of a Single.
+/// A formula has at most some 20 operations in double, each with an error of at most 2^-53 of its result: a
+/// tolerance of 64 times 2^-53 of the largest term is sufficient, and far below one step of a Single.
 constexpr Exact kDoubleArithmetic = 64.0L * 0x1p-53L;
 /// Storing rounds to the nearest Single: half a step, 2^-24 of the value.
 constexpr Exact kSingleStore = 0x1p-24L + kDoubleArithmetic;
 
-/// `largest_term` bounds what is added and subtracted; a difference can be as wrong as its terms.
+/// `largest_term` bounds the terms of a sum or difference, whose absolute errors are those of its terms.
 inline bool near(Exact actual, Exact expected, Exact largest_term, Exact share) {
     return std::fabs(actual - expected) <= share * std::max(std::fabs(expected), std::fabs(largest_term));
 }
 
-/// A Single lies half a step of itself from the exact value, plus what the terms of a difference lose.
+/// A Single differs from the exact value by half a step, plus the errors of the terms of a difference.
 inline bool storedNear(float actual, Exact expected, Exact largest_term) {
     return std::fabs(actual - expected) <=
            kSingleStore * std::fabs(expected) + kDoubleArithmetic * std::fabs(largest_term);
 }
 
-/// A decimal number from `low` to `high` in steps of `step`, as a user would type it.
+/// A decimal number from `low` to `high` in steps of `step`, as a user types it.
 inline float number(double low, double high, double step) {
     const auto steps = static_cast<int>((high - low) / step) + 1;
     return static_cast<float>(low + step * *rc::gen::inRange(0, steps));
@@ -58,12 +58,12 @@ inline float porosity() {
     return number(0.05, 1.0, 0.01);
 }
 
-/// From clay to gravel: one digit and a decimal times a power of ten.
+/// A coefficient from clay to gravel: one digit and a decimal times a power of ten.
 inline float filtration() {
     return static_cast<float>(number(1.0, 9.9, 0.1) * std::pow(10.0, *rc::gen::inRange(-8, -2)));
 }
 
-/// Nine rows; one in five has no duration, as in a table that is only partly read.
+/// Nine rows; one in five has no duration, as in a partly filled table.
 inline Table rains() {
     Table table{};
     for (Rain& rain : table) {
@@ -81,8 +81,8 @@ inline TrenchSection trenchSection() {
             .filtration_m_s = filtration()};
 }
 
-/// The search written down once more: an exact value per row, the largest positive one wins.
-/// Where two rows differ by less than the arithmetic can tell, either may be critical.
+/// A second implementation of the search: an exact value per row, the largest positive one is the result.
+/// Where two rows differ by less than the tolerance, either may be critical.
 struct ExactSearch {
     Exact maximum = 0.0L;
     Exact largest_term = 0.0L;

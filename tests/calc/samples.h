@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Rain tables and tolerances that the tests of the design formulas share.
-/// The expected numbers are worked out with the decimal values that stand here.
+/// Rain tables and tolerances shared by the tests of the design formulas.
+/// The expected numbers are computed from these decimal values.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ namespace mero::calc::test {
 
 using Table = std::array<Rain, kRainRows>;
 
-/// A plausible station: the longer the rain, the lighter.
+/// A plausible station: the intensity decreases with the duration.
 inline constexpr Table kStorms{{{5.0F, 300.0F},
                                 {10.0F, 200.0F},
                                 {15.0F, 150.0F},
@@ -28,14 +28,14 @@ inline constexpr Table kStorms{{{5.0F, 300.0F},
 /// No rain read yet: every duration is 0.
 inline constexpr Table kEmptyTable{};
 
-/// A table whose first rows are given and whose other rows are empty.
+/// A table with the given first rows; the others are empty.
 template <typename... Rains>
 constexpr Table tableOf(Rains... rains) {
     return Table{{rains...}};
 }
 
-/// Inputs such as 0.00001 are rounded to Single (6e-8 of the value each); a formula with a handful of them
-/// and a difference of terms of like size stays within this share of the decimal result.
+/// Inputs such as 0.00001 are rounded to Single (6e-8 of the value each). A formula with a few of them and a
+/// difference of terms of similar size has a relative error below this tolerance.
 inline constexpr double kSingleInputs = 2e-6;
 
 inline void expectClose(double actual, double expected) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Properties of the shaft design and of its geometry over random sites.
-/// Extended precision beside the program's arithmetic, and truths that hold whatever the site.
+/// Compares with extended precision, and checks relations that hold for every site.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -95,7 +95,7 @@ RC_GTEST_PROP(ShaftGeometry, EquivalentCirclesHaveTheAreaOfTheRectangle, ()) {
     const float wall = number(0.0, 0.5, 0.01);
     const Exact inner = shaft_geometry::equivalentInnerDiameter(a, b);
     const Exact outer = shaft_geometry::equivalentOuterDiameter(a, b, wall);
-    // Squaring doubles the share that storing the diameter may be off.
+    // Squaring doubles the relative error from storing the diameter.
     RC_ASSERT(
         near(kExactPi * inner * inner / 4.0L, static_cast<Exact>(a) * b, 0.0L, 2.0L * kSingleStore + 1e-14L));
     RC_ASSERT(near(kExactPi * outer * outer / 4.0L,

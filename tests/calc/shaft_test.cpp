@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Tests of the shaft design, step by step, and of its three verdicts.
+/// Tests of the steps of the shaft design and of its three verdicts.
 #include "calc/shaft.h"
 
 #include <gtest/gtest.h>
@@ -127,7 +127,7 @@ TEST(ShaftVerdicts, FilterLimitIsIncludedInSinglePrecision) {
     EXPECT_EQ(judgeFilter(0.001F), FilterVerdict::Sufficient);
     EXPECT_EQ(judgeFilter(std::nextafter(0.001F, 1.0F)), FilterVerdict::TooPermeable);
     EXPECT_EQ(judgeFilter(0.0011F), FilterVerdict::TooPermeable);
-    // What a field shows as 1.0E-03 it also stores; before that the value is still too large.
+    // The field rounds this value to 1.0E-03 and stores that; unrounded it is too large.
     EXPECT_EQ(judgeFilter(0.00104F), FilterVerdict::TooPermeable);
 }
 

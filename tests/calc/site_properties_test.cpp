@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Properties of inflow, reduced area and surface infiltration over random sites.
-/// Extended precision beside the program's arithmetic, and truths that hold whatever the site.
+/// Compares with extended precision, and checks relations that hold for every site.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -41,7 +41,7 @@ RC_GTEST_PROP(SurfaceInfiltration, SatisfiesItsBalance, ()) {
     const float kf = filtration();
     const float intensity = number(0.1, 500.0, 0.1);
     const Exact ratio = static_cast<Exact>(kf) * 1e7L / (2.0L * intensity);
-    // Next to the pole the difference has no digits left; the tests of the errors look at the pole itself.
+    // Next to the pole the difference has no significant digits; the error tests cover the pole itself.
     RC_PRE(std::fabs(ratio - 1.0L) > 1e-6L);
     const Exact expected = reduced_area / (ratio - 1.0L);
     const Exact pole_amplifies = expected * (ratio + 1.0L) / (ratio - 1.0L);

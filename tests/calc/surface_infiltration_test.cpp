@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Tests of surface infiltration.
-/// The formula is applied as it stands, without a guard.
+/// The formula is applied without a range check.
 #include "calc/surface_infiltration.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Properties of the swale design over random sites.
-/// Extended precision beside the program's arithmetic, and truths that hold whatever the site.
+/// Compares with extended precision, and checks relations that hold for every site.
 #include <gtest/gtest.h>
 
 #include "calc/properties.h"

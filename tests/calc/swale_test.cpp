@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Tests of the swale design, step by step.
+/// Tests of the steps of the swale design.
 #include "calc/swale.h"
 
 #include <gtest/gtest.h>

@@ -77,7 +77,7 @@ TEST(SwaleTrench, NothingToTakeTheWaterDividesByZero) {
     sealed.trench.storage_coefficient = 0.0F;
     sealed.trench.filtration_m_s = 0.0F;
     EXPECT_EQ(errorNumberOf([&] { return trenchLength(sealed, kStorms); }), 11);
-    // Nothing is divided when no row takes part.
+    // Nothing is divided when no row is used.
     EXPECT_EQ(errorNumberOf([&] { return trenchLength(sealed, kEmptyTable); }), 0);
 }
 

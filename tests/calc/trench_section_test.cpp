@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Tests of what one metre of trench takes.
+/// Tests of the uptake of one metre of trench.
 #include "calc/trench_section.h"
 
 #include <gtest/gtest.h>

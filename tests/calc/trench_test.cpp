@@ -64,7 +64,7 @@ TEST(Trench, VolumeIsWhatDoesNotSoakAwayDuringTheRain) {
 }
 
 TEST(Trench, VolumeFillsThePoresOfTheCriticalLength) {
-    // The balance turned round: the length was chosen so that the volume is its pores, 0.525 m2 * L.
+    // The inverse balance: for this length the volume equals the pores, 0.525 m2 * L.
     expectClose(storageVolume(kSite, 40.27972F, {120.0F, 28.0F}), 0.525 * 40.27972);
 }
 

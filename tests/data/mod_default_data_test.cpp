@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The reference tables against plain lists of what they hold, and the five default inputs.
-// The lists in expected/ were written down on their own; no-break spaces stand in them as such.
+// Compares the reference tables with the lists in expected/, and checks the five default inputs.
+// The lists were written independently and contain no-break spaces as characters.
 #include "data/mod_default_data.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ namespace {
 
 using Fields = std::vector<std::string>;
 
-/// The rows of a list behind its header line.
+/// The rows of a list after its header line.
 std::vector<Fields> expected(const std::string& name) {
     std::ifstream file(std::string(MERO_EXPECTED_TABLES) + "/" + name + ".csv");
     EXPECT_TRUE(file.is_open()) << name;

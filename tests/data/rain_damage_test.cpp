@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Damaged copies of the rain database: the answer is the table or an error, in time, never fewer rows.
-/// The file has no check sums, so a flipped bit inside a stored value, a name or a type is a value, a name or
-/// a type; what is judged there is that the table has all its rows and fields.
+/// The file has no checksums, so a flipped bit inside a stored value, a name or a type cannot be detected;
+/// the test then only checks that the table has all its rows and fields.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -22,7 +22,7 @@ using test::TemporaryFolder;
 constexpr std::size_t kPage = 4096;
 constexpr std::uint32_t kSeed = 20261120;
 
-/// Where a table lies in the file, found by its first row's bytes.
+/// The pages of a table in the file, found by the bytes of its first row.
 struct Places {
     std::size_t data_page = 0;
     std::size_t header_page = 0;
@@ -51,7 +51,7 @@ class RainDamage : public ::testing::Test {
         return test::read(folder_.write("mero.mdb", content));
     }
 
-    /// An error that ends the program, or all rows and fields of the table; in time.
+    /// Expects an error that ends the program, or all rows and fields of the table; in time.
     void expectWholeOrError(const Outcome& outcome, const std::string& what) const {
         EXPECT_LT(outcome.took, kReadLimit) << what;
         if (outcome.error() != nullptr) {
@@ -113,7 +113,7 @@ TEST_F(RainDamage, NoiseIsAnError) {
         byte = static_cast<char>(random());
     }
     EXPECT_NE(readDamaged(noise).error(), nullptr);
-    noise.replace(0, kPage, file_, 0, kPage);  // a header that promises a database
+    noise.replace(0, kPage, file_, 0, kPage);  // the header of a database
     EXPECT_NE(readDamaged(noise).error(), nullptr);
 }
 
@@ -127,7 +127,7 @@ TEST_F(RainDamage, FlippedBitsGiveTheTableOrAnError) {
         std::string what;
         for (auto flips = 1 + random() % 3; flips > 0; --flips) {
             const std::size_t page = pages.at(random() % pages.size());
-            // A header's structure is at its front.
+            // The structure of a header is at its front.
             const std::size_t at = random() % (page == brno.header_page ? 400 : kPage);
             const auto bit = random() % 8;
             damaged[page * kPage + at] =
@@ -141,7 +141,7 @@ TEST_F(RainDamage, FlippedBitsGiveTheTableOrAnError) {
 }
 
 TEST_F(RainDamage, AnEndlessLoopOfTheLibraryIsStopped) {
-    // A property in the catalog claims to be 1.5 GB long; libmdb 1.0.0 then goes round in its block and takes
+    // A property in the catalog has a length of 1.5 GB; libmdb 1.0.0 then loops in its block and allocates
     // more and more memory.
     const std::string property("K\0e\0e\0p\0L\0o\0c\0a\0l\0\x16\0\0\0", 22);
     std::string damaged = contentOf(MERO_ODD_TABLES);
@@ -150,7 +150,7 @@ TEST_F(RainDamage, AnEndlessLoopOfTheLibraryIsStopped) {
     damaged[at + property.size() - 1] = '\x5b';
     const Outcome outcome = test::read(folder_.write("mero.mdb", damaged), 1);
     EXPECT_LT(outcome.took, kReadLimit);
-    if (outcome.error() == nullptr) {  // a library that knows better
+    if (outcome.error() == nullptr) {  // a library without this defect
         EXPECT_EQ(outcome.table()->rows.size(), 12U);
     } else {
         EXPECT_EQ(outcome.errorNumber(), kReadFailed) << outcome.error()->description();
@@ -158,7 +158,7 @@ TEST_F(RainDamage, AnEndlessLoopOfTheLibraryIsStopped) {
 }
 
 TEST_F(RainDamage, ATableThatTakesAnothersPlaceIsNoticed) {
-    // The catalog's entry of Brno is made to lead to the table whose header lies four pages on.
+    // The catalog's entry of Brno is changed to the table whose header is four pages later.
     const Places brno = placesOfBrno(file_);
     const std::string name("L\0i\0s\0t\0008\0004\0", 12);
     const std::string narrow_name("\xff\xfeList84");

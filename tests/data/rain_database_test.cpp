@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Reading stations from the rain database that ships, and what is said when that cannot be.
-/// Expected intensities are worked out by hand from the formula of the demonstration values.
+/// Reading stations from the shipped rain database, and the errors when that fails.
+/// Expected intensities are computed by hand from the formula of the demonstration values.
 #include "data/rain_database.h"
 
 #include <gmock/gmock.h>
@@ -170,7 +170,7 @@ TEST(RainDatabase, WhatIsNoDatabaseCannotBeOpened) {
 
 enum class Outcome { Came, Refused, Otherwise };
 
-/// What comes of it when an ordinary user reads Brno from the file.
+/// Result when an ordinary user reads Brno from the file.
 Outcome readUnprivileged(const std::string& reader, const std::string& path) {
     return mero::test::unprivileged([&] {
         try {
@@ -186,7 +186,7 @@ TEST(RainDatabase, AnUnreadableFileCannotBeOpened) {
     namespace fs = std::filesystem;
     const TemporaryFolder folder;
     const std::string path = folder.write("mero.mdb", contentOf(MERO_RAIN_DATABASE));
-    // The build may lie where only its owner may look.
+    // The build may be in a folder that only its owner can read.
     const std::string reader = folder.file("mero-rain");
     fs::copy_file(MERO_RAIN_READER, reader);
     fs::permissions(fs::path(path).parent_path(), fs::perms(0755));

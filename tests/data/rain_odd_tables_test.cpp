@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What an office's own database may hold: other numbers of rows, every type of field, deleted rows.
+/// Other databases than the shipped one: other numbers of rows, every type of field, deleted rows.
 /// odd_tables.mdb is written by ReaderFixture of tools/rain-database: row r holds r and r + 0.25.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

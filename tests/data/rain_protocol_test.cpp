@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The lines that the reader prints: whole texts are read back exactly, everything else is refused.
+/// The lines that the reader prints: complete texts are read back exactly, everything else is refused.
 #include "data/rain_protocol.h"
 
 #include <gtest/gtest.h>

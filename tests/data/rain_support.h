@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Helpers of the rain database's tests: a folder that vanishes, the reader, what a read ended in, how long.
-/// The reader and the database that ships come from the build.
+/// Helpers of the rain database's tests: a temporary folder, the reader, the outcome and the time of a read.
+/// The reader and the shipped database come from the build.
 #pragma once
 
 #include <unistd.h>
@@ -21,7 +21,7 @@
 
 namespace mero::data::test {
 
-/// A new folder, removed with all that is in it at the end.
+/// A new folder, removed with its content at the end.
 class TemporaryFolder {
   public:
     TemporaryFolder() {
@@ -40,13 +40,13 @@ class TemporaryFolder {
 
     [[nodiscard]] std::string file(const std::string& name) const { return (path_ / name).string(); }
 
-    /// Writes a file of the folder and gives its path.
+    /// Writes a file to the folder. @return its path
     [[nodiscard]] std::string write(const std::string& name, const std::string& content) const {
         std::ofstream(file(name), std::ios::binary) << content;
         return file(name);
     }
 
-    /// Writes a shell script that stands in for the reader.
+    /// Writes a shell script that replaces the reader. @return its path
     [[nodiscard]] std::string script(const std::string& commands) const {
         std::string path = write("reader", "#!/bin/sh\n" + commands + "\n");
         std::filesystem::permissions(path, std::filesystem::perms::owner_all);
@@ -62,10 +62,10 @@ inline std::string contentOf(const std::string& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// Limit of every read, whatever the file or the reader does.
+/// Time limit of every read, for any file and any reader.
 constexpr std::chrono::milliseconds kReadLimit{2500};
 
-/// What a read ended in, and after how long.
+/// Outcome and time of a read.
 struct Outcome {
     std::variant<StationTable, RuntimeError> result;
     std::chrono::milliseconds took;
@@ -92,7 +92,7 @@ inline Outcome read(const std::string& path, std::int16_t station = 84,
     }
 }
 
-/// The value at a row (from 0) in a field, by its name.
+/// The value in a row (from 0) of the field with that name.
 inline std::optional<double> valueAt(const StationTable& table, std::size_t row, const std::string& field) {
     return table.rows.at(row).at(columnIndex(table, field).value());
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The reader's environment: everything but the variables that change the database library's answers.
+/// The reader's environment: everything but the variables that change the database library's results.
 #include "data/reader_environment.h"
 
 #include <gmock/gmock.h>
@@ -16,7 +16,7 @@ using ::testing::Contains;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-/// Sets variables for the life of the object.
+/// Sets variables during the lifetime of the object.
 class Variables {
   public:
     explicit Variables(std::vector<std::pair<const char*, const char*>> variables)

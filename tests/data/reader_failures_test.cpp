@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A reader that crashes, hangs, lies or floods: each is a failed read, in time, and no process is left.
-/// Shell scripts stand in for the reader.
+/// A reader that crashes, hangs, prints wrong or endless output: each is a failed read, in time, and no
+/// process is left. Shell scripts replace the reader.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -131,7 +131,7 @@ TEST_F(ReaderFailures, WhatTheReaderStartedIsStoppedWithIt) {
     expectFailedRead("sleep 30 & echo $! >'" + mark + "'; wait");
     const pid_t grandchild = std::stoi(test::contentOf(mark));
     for (int tries = 0; tries < 200 && ::kill(grandchild, 0) == 0; ++tries) {
-        // Whoever adopted it may not have reaped it yet; then its state is Z.
+        // Its new parent may not have reaped it yet; then its state is Z.
         if (test::contentOf("/proc/" + std::to_string(grandchild) + "/stat").find(") Z ") !=
             std::string::npos) {
             break;

@@ -4,38 +4,28 @@
 #include "design/entered_window.h"
 
 #include <stdexcept>
+#include <variant>
 
 #include "design/shaft_catalogue.h"
 #include "forms/calc/report_data.h"
 #include "platform/locale_settings.h"
 #include "platform/numbers/number_text.h"
 #include "report/html_report.h"
+#include "support/recording_desk.h"
 
 namespace mero::design::test {
 namespace {
 
-class RecordingDesk : public platform::Desk {
-  public:
-    void showMessage(const platform::Message& message) override {
-        const Severity severity = message.icon == platform::MessageIcon::Information   ? Severity::Information
-                                  : message.icon == platform::MessageIcon::Exclamation ? Severity::Warning
-                                                                                       : Severity::Refusal;
-        told.push_back({message.text, severity, message.title == "Chyba", 0, *verdictId(message.id)});
-    }
-    void reportError(const RuntimeError& error) override {
-        told.push_back({error.description(), Severity::Refusal, false, error.number(), verdictOf(error)});
-    }
-    void openAddress(const std::string&) override {}
-    void formOpened(const std::string&) override {}
-    void formClosed(const std::string&) override {}
-    void navigated(const std::string&, const std::string&) override {}
-    void openPrintPreview(const std::string&) override {}
-    std::optional<std::string> askSavePath(const std::string&) override { return std::nullopt; }
-    void saved(const std::string&) override {}
-    void ended() override {}
+Message asDesigned(const platform::Message& message) {
+    const Severity severity = message.icon == platform::MessageIcon::Information   ? Severity::Information
+                              : message.icon == platform::MessageIcon::Exclamation ? Severity::Warning
+                                                                                   : Severity::Refusal;
+    return {message.text, severity, message.title == "Chyba", 0, *verdictId(message.id)};
+}
 
-    std::vector<Message> told;
-};
+Message asDesigned(const RuntimeError& error) {
+    return {error.description(), Severity::Refusal, false, error.number()};
+}
 
 }  // namespace
 
@@ -61,11 +51,12 @@ data::StationTable MadeUpRain::read(std::int16_t station_number, const std::stri
 const platform::DateTime EnteredWindow::kMoment{2026, 11, 20, 14, 5, 9};
 
 struct EnteredWindow::Parts {
-    RecordingDesk desk;
+    mero::test::RecordingDesk desk;
     platform::FrozenClock clock{kMoment};
     platform::ProgramLocale locale{".", " ", ","};
     MadeUpRain rain_database;
     forms::Program program{{desk, clock, locale, rain_database, "/nowhere"}};
+    std::vector<Message> told;
 
     forms::frmCalc& window() { return program.window(); }
 
@@ -304,7 +295,11 @@ EnteredWindow::EnteredWindow(const project::Project& project) : parts_(std::make
 EnteredWindow::~EnteredWindow() = default;
 
 const std::vector<Message>& EnteredWindow::told() const {
-    return parts_->desk.told;
+    const auto& reports = parts_->desk.reports;
+    for (std::size_t i = parts_->told.size(); i < reports.size(); ++i) {
+        parts_->told.push_back(std::visit([](const auto& it) { return asDesigned(it); }, reports[i]));
+    }
+    return parts_->told;
 }
 
 const data::modPublicVariables& EnteredWindow::values() const {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Stands in for the window program: what it does is named by the document that it is given.
-// Prints nothing; a file that it makes holds the document's name.
+// Replaces the window program: the name of the given document selects what it does.
+// It prints nothing; a file that it makes contains the document's name.
 #include <unistd.h>
 
 #include <fstream>

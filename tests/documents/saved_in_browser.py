@@ -3,8 +3,8 @@
 
 Use: saved_in_browser.py --program MERO_BATCH --root PROJECT
 
-Looks at what the browser made of them: diacritics, the logo, bold row of the chosen rain, rules and tables in the
-file's order. No copy may refer to anything outside itself. Skipped where there is no browser.
+Checks the rendered pages: diacritics, the logo, bold row of the chosen rain, rules and tables in the file's order.
+No copy may refer to anything outside itself. Skipped if there is no browser.
 """
 
 import argparse
@@ -60,7 +60,7 @@ def save_copies(program: Path, root: Path, scratch: Path) -> list[str]:
                               capture_output=True, timeout=TIME_LIMIT_S, check=False)
         if '"saved"' not in done.stdout:
             wrong.append(f"type {kind}: not saved: {done.stdout} {done.stderr}")
-    # The copies must not live on the folder that they come from.
+    # The copies must not depend on the folder that they come from.
     shutil.rmtree(folder)
     return wrong
 
@@ -111,7 +111,7 @@ def judge(kind: int, seen: dict, copy: str) -> list[str]:
             wrong.append(f"no {wanted!r} in {text[:300]!r}")
     if seen["charset"] != "UTF-8":
         wrong.append(f"read as {seen['charset']}")
-    # The user's own picture is not fetched; the logo, which comes after it or before it, is there.
+    # The picture from the user's text is not loaded; the logo, before or after it, is.
     if sorted(seen["logo"]) != [0, 200]:
         wrong.append(f"pictures {seen['logo']}")
     if seen["title"]:

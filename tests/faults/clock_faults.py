@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The machine's clock jumps while the program is open; odd years and time zones.
 
-MERO_CLOCK_JUMP is the library that lets a program's clock jump.
+MERO_CLOCK_JUMP is the library that sets a program's clock.
 """
 
 import calendar
@@ -18,7 +18,7 @@ DAY_S = 86400
 
 
 def seconds(year: int, *rest: int) -> int:
-    """Since 1970, in universal time, also for years that datetime does not know."""
+    """Seconds since 1970 in UTC, also for years that datetime does not support."""
     month, day, hour, minute, second = (*rest, *(1, 1, 0, 0, 0)[len(rest):])
     # The calendar repeats itself every 400 years.
     cycles = (year - 2000) // 400
@@ -34,7 +34,7 @@ class Clock(FaultTest):
         folder = self.folder()
         jump = self.scratch / "clock"
         jump.write_text(str(seconds(2026, 11, 20, 14, 5, 9)))
-        # A program of the sanitizers must not be checked for what is loaded first.
+        # A sanitizer must not check that its runtime is loaded first.
         with Running(front, folder, "--folder", str(folder), LD_PRELOAD=JUMP, CLOCK_JUMP_FILE=str(jump), TZ="UTC",
                      ASAN_OPTIONS="verify_asan_link_order=0") as program:
             self.assertEqual(program.do("tick", "get lblTime")[-1]["text"], "14:05:09")
@@ -52,7 +52,7 @@ class Clock(FaultTest):
                 self.assertEqual(events[0]["text"], clock)
                 self.assertEqual(messages(events), [])
                 self.assertIn(f"{date},  {clock}<", self.report(folder))
-            # The last second that a machine can count to is on no calendar.
+            # The last second of the machine's clock is beyond the calendar.
             jump.write_text(str(2**63 - 1))
             self.assertEqual(program.do("tick", "get lblTime", *REPORT)[0]["text"], "00:00:00")
             self.assertIn("1.1.1970,  00:00:00<", self.report(folder))

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Preloaded into a program: its wall clock shows the seconds since 1970 that stand in the file
-// $CLOCK_JUMP_FILE. The steady clock, which time limits go by, runs on as it does when somebody sets the
-// machine's clock.
+// Preloaded into a program: its wall clock returns the seconds since 1970 from the file $CLOCK_JUMP_FILE. The
+// steady clock, used for time limits, runs on, as it does when the machine's clock is set.
 #include <sys/syscall.h>
 #include <sys/time.h>
 #include <time.h>

@@ -13,7 +13,7 @@ RESULTS = [*REPORT, "answer-save kopie.html", "click cmdSaveResults", "answer-sa
 
 
 class Display:
-    """A virtual display of its own."""
+    """A separate virtual display."""
 
     def __enter__(self):
         read, write = os.pipe()
@@ -32,7 +32,7 @@ class Display:
         return {"DISPLAY": self.name, "QT_QPA_PLATFORM": "xcb"}
 
     def windows(self, title: str) -> list[str]:
-        """The numbers of the visible windows of that title."""
+        """The ids of the visible windows with that title."""
         return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True, text=True,
                               check=False, env=environment(DISPLAY=self.name)).stdout.split()
 
@@ -46,7 +46,7 @@ class Display:
 
 
 def without_fonts(scratch) -> str:
-    """A font configuration that knows an empty folder only."""
+    """A font configuration with only an empty folder."""
     (scratch / "fonts").mkdir()
     configuration = scratch / "fonts.conf"
     configuration.write_text('<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig>'

@@ -13,8 +13,8 @@ from program import BATCH, ROOT, REPORT, FaultTest, command, environment, messag
 PROJECT = str(ROOT / "examples" / "projekty" / "pruleh.json")
 DATABASE_BYTES = (ROOT / "data" / "mero.mdb").stat().st_size
 
-# In a mount namespace of its own: a small disk at $1, the program's folder on it ($2: "files", or "empty" for a
-# first start), the rest of it filled up but for $3 kB; then the command. What is left on the disk is told at the end.
+# In a separate mount namespace: a small disk at $1, the program's folder on it ($2: "files", or "empty" for a
+# first start), the rest of it filled except $3 kB; then the command. The files on the disk are listed at the end.
 SMALL_DISK = """
 set -e
 disk=$1 content=$2 spare=$3
@@ -31,7 +31,7 @@ exit $status
 
 
 def small_disk_wrapper() -> list[str] | None:
-    """How a disk can be mounted here; None when it cannot."""
+    """The command that allows mounting a disk here; None if it is impossible."""
     for namespaces in ("-m", "-Urm"):
         attempt = ["unshare", namespaces, "sh", "-c", "mount -t tmpfs none /mnt"]
         if shutil.which("unshare") and subprocess.run(attempt, capture_output=True, check=False).returncode == 0:
@@ -40,7 +40,7 @@ def small_disk_wrapper() -> list[str] | None:
 
 
 def no_more_than(size: int):
-    """As on a disk that is full after so many bytes of a file; for what cannot mount one."""
+    """Limits the size of files, as on a disk that gets full; for machines that cannot mount one."""
     def limit():
         signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
         resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
@@ -136,7 +136,7 @@ def messages_of(done: subprocess.CompletedProcess) -> list[str]:
 
 class FullDisk(FaultTest):
     def on_small_disk(self, content: str, spare_kb: int, arguments: list[str], **variables):
-        """Runs with the folder `disk` on a full disk; the files that are left there by name with their size."""
+        """Runs with the folder `disk` on a full disk. Returns the names and sizes of the files left there."""
         disk = self.scratch / "disk"
         disk.mkdir(exist_ok=True)
         if self.wrapper is None:
@@ -151,7 +151,7 @@ class FullDisk(FaultTest):
         self.wrapper = small_disk_wrapper()
 
     def with_limit(self, content: str, spare_kb: int, arguments: list[str], **variables):
-        """The same where no disk can be mounted: no file can grow beyond what is spare."""
+        """The same without mounting a disk: no file can grow beyond the spare size."""
         disk = self.scratch / "disk"
         shutil.rmtree(disk, ignore_errors=True)
         disk.mkdir()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Project names of any bytes, pasted and typed: in the name of the report's file, in the report, in its copies."""
+"""Project names of arbitrary bytes, pasted and typed: in the report's file name, in the report, in its copies."""
 
 import html
 import re
@@ -8,7 +8,7 @@ import unittest
 from program import REPORT, FaultTest, fronts, messages, on_each_front, saved
 
 LONG = "d" * 10240
-# Name as a word of the script, and the name of the report's file; None where no file can have it.
+# Name as a word of the script, and the name of the report's file; None if no file can have it.
 NAMES = {
     "a zero byte": (b'"a\x00b"', None),
     "10 kB": (LONG.encode(), None),
@@ -28,7 +28,7 @@ NAMES = {
 
 class ProjectNames(FaultTest):
     def results(self, front: str, action: bytes, name: bytes):
-        """Events, the files that the report left, and the copy's bytes (none when it was not saved)."""
+        """Events, the report's files, and the copy's bytes (empty if it was not saved)."""
         self.new_scratch()
         folder = self.folder()
         before = set(self.scratch.rglob("*"))

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The programs under real faults: starting them, acting on them step by step, folders that turn bad.
+"""Starts the programs under real faults and acts on them step by step.
 
 MERO_BATCH and, where the window was built, MERO_WINDOW name the programs, MERO_ROOT the source tree.
 """
@@ -21,7 +21,7 @@ CLOCK = "2026-11-20T14:05:09"
 TIME_LIMIT_S = 60
 NOBODY = 65534
 
-# A report without any input: the type alone is enough.
+# A report without any input: only the type is needed.
 TYPE = ["tab 1", "click optSelType(0)", "select cboSelType 4"]
 REPORT = [*TYPE, "tab 3"]
 
@@ -47,7 +47,7 @@ def environment(**changes: str | None) -> dict[str, str]:
 
 
 def ordinary_user() -> dict[str, int]:
-    """For subprocess: the superuser knows no denial."""
+    """Arguments for subprocess to run as an ordinary user, because the superuser is never denied access."""
     return {"user": NOBODY, "group": NOBODY} if os.geteuid() == 0 else {}
 
 
@@ -71,7 +71,7 @@ class FaultTest(unittest.TestCase):
         return folder
 
     def installed(self) -> Path:
-        """The programs as a package installs them; the folder with the programs."""
+        """Installs the programs like a package. Returns their folder."""
         prefix = self.scratch / "usr"
         for place, files in (("bin", [BATCH] + ([WINDOW] if WINDOW else [])),
                              ("libexec/mero", [BATCH.parent / "mero-rain"]),
@@ -83,7 +83,7 @@ class FaultTest(unittest.TestCase):
         return prefix / "bin"
 
     def run_command(self, arguments: list[str], **options) -> subprocess.CompletedProcess:
-        """Its outputs as texts. Fails on a crash, on a hang and on what a sanitizer tells."""
+        """Returns the outputs as texts. Fails on a crash, a hang and a sanitizer's report."""
         options.setdefault("env", environment())
         options.setdefault("stdin", subprocess.DEVNULL)
         for stream in ("stdout", "stderr"):
@@ -107,7 +107,7 @@ class FaultTest(unittest.TestCase):
 
 
 def on_each_front(test):
-    """The test once for each front, whose name it is given, with a scratch folder for each."""
+    """Runs the test once for each front, with the front's name and a new scratch folder."""
     @functools.wraps(test)
     def on_all(self):
         for front in fronts():
@@ -118,7 +118,7 @@ def on_each_front(test):
 
 
 class Running:
-    """A program that is acted on step by step, so that something can happen in between."""
+    """A running program that performs lines step by step, so that a test can change something in between."""
 
     def __init__(self, front: str, folder: Path, *options: str, user: dict[str, int] | None = None,
                  **variables: str | None):
@@ -139,7 +139,7 @@ class Running:
         self.process.stdout.close()
 
     def do(self, *lines: str) -> list[dict]:
-        """What the trace tells of these lines. The program may end by them."""
+        """Performs the lines and returns their trace events. The program may end during them."""
         self.steps += 1
         self.process.stdin.write(("\n".join([*lines, f"echo step-{self.steps}"]) + "\n").encode())
         self.process.stdin.flush()
@@ -152,7 +152,7 @@ class Running:
         return events
 
     def end(self) -> int:
-        """Closes the script; the exit status."""
+        """Closes the script. Returns the exit status."""
         self.process.stdin.close()
         return self.process.wait()
 

@@ -14,7 +14,7 @@ SWEEP = ["--vary", "facility.safety_factor=1:2:0.001"]
 
 
 def closing(*descriptors: int):
-    """What a parent does that starts a program without them."""
+    """Closes streams, like a parent that starts a program without them."""
     def close():
         for descriptor in descriptors:
             os.close(descriptor)
@@ -43,7 +43,7 @@ class Streams(FaultTest):
                 self.assertEqual(done.returncode, 1 if 1 in descriptors else 0)
                 if 1 in descriptors and 2 not in descriptors:
                     self.assertIn("the trace cannot be written", done.stderr)
-                # Nothing that is printed gets into a file.
+                # Printed text must not get into a file.
                 for name in ("Mero_Test", "kopie.html"):
                     self.assertEqual((folder / name).read_bytes(), (expected / name).read_bytes())
                 self.assertEqual((folder / "mero.mdb").read_bytes(), (ROOT / "data/mero.mdb").read_bytes())

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Files and folders that go, or turn bad, while the program is open."""
+"""Files and folders that disappear or become unusable while the program is open."""
 
 import re
 import resource
@@ -82,7 +82,7 @@ class WhileOpen(FaultTest):
             events = program.do("answer-save kopie.pdf", "click cmdSaveResults")
         if front == "window":
             self.assertEqual(saved(events), [f"{folder}/kopie.pdf"])
-            # The page that tells of a missing report has next to nothing on it.
+            # The page shown for a missing report is almost empty.
             self.assertGreater((folder / "kopie.pdf").stat().st_size, 20000)
 
     @on_each_front
@@ -139,7 +139,7 @@ class Reader(FaultTest):
         folder = self.folder()
         script = self.scratch / "s.mero"
         script.write_text("\n".join(RAIN))
-        # The limit holds for an ordinary user only; a search for leaks would need a process too.
+        # The limit applies only to an ordinary user; leak detection would need a process too.
         done = self.run_command(command("batch", str(script), "--folder", str(folder)),
                                 preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_NPROC, (0, 0)),
                                 env=environment(ASAN_OPTIONS="detect_leaks=0"), **ordinary_user())
@@ -167,7 +167,7 @@ class TwoPrograms(FaultTest):
             events = one.do("answer-save one.html", "click cmdSaveResults")
             events += other.do("answer-save other.html", "click cmdSaveResults")
             self.assertEqual(messages(events), [])
-            other.end()  # takes the report away
+            other.end()  # removes the report
             events = one.do("answer-save again.html", "click cmdSaveResults", "click cmdPrint")
             self.assertEqual(messages(events), [])
             self.assertEqual(one.end(), 0)
@@ -181,7 +181,7 @@ class TwoPrograms(FaultTest):
         with Running(front, folder) as one, Running("batch", folder) as other:
             for program, area in ((one, "111"), (other, "222")):
                 program.do("set txtProjName Test", *self.areas(area))
-            # Both are given all their work before either is waited for.
+            # Both get all their work before the test waits for either.
             work = ["tab 1", "tab 3", "answer-save kopie.html", "click cmdSaveResults"] * rounds
             for program in (one, other):
                 program.process.stdin.write(("\n".join(work) + "\n").encode())

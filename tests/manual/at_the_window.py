@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Somebody who has only the manual sits at the real window: mouse, keyboard, and eyes that read captions.
+"""Performs the manual's examples in the real window with mouse and keyboard, finding controls by their captions.
 
 Use: tests/manual/at_the_window.py --program build/release/bin/mero [--only NAME] [--shots FOLDER]
-Each example of docs/prirucka.md is done on a screen and a bus of its own. What is clicked and read is found by what the
-accessibility bus tells of the window: captions, roles, places. Takes some four minutes, so it is run by hand.
+Each example of docs/prirucka.md runs on a separate screen and bus. The controls are found by captions, roles and
+positions from the accessibility bus. It takes some four minutes, so it is run by hand.
 Needs what `tools/packages.sh check screenshots` installs, and the system's python3, which has pyatspi.
 """
 
@@ -32,7 +32,7 @@ AFTER_CLICK_S = 0.15
 
 
 class NotFound(Exception):
-    """What the manual names is not on the screen."""
+    """A control named in the manual is not on the screen."""
 
 
 def bare(name: str) -> str:
@@ -53,13 +53,13 @@ class Eyes:
             if depth > 1 and not state.contains(self.pyatspi.STATE_SHOWING):
                 return
             yield node
-            # Long tables are asked for by their cells.
+            # The cells of long tables are looked up separately.
             if node.getRoleName() in ("table", "list") and node.childCount > 400:
                 return
             for i in range(node.childCount):
                 if (child := node[i]) is not None:
                     yield from self.walk(child, depth + 1)
-        except Exception:  # a control that vanished while it was looked at
+        except Exception:  # a control that disappeared meanwhile
             return
 
     def windows(self) -> list:
@@ -80,7 +80,7 @@ class Eyes:
         raise NotFound(what)
 
     def control(self, caption: str, *roles: str):
-        """The control that bears the caption, or that stands to the right of it."""
+        """The control with the caption, or to the right of it."""
         end = time.monotonic() + PATIENCE_S
         while time.monotonic() < end:
             for window in reversed(self.windows()):
@@ -91,7 +91,7 @@ class Eyes:
                 labels = [node for node in nodes if node.getRoleName() == "label" and bare(node.name) == caption]
                 if beside := [node for label in labels for node in fitting if self.is_right_of(node, label)]:
                     return min(beside, key=lambda node: self.place(node)[0])
-                if roles == ("combo box",) and len(fitting) == 1:  # there is no other that could be meant
+                if roles == ("combo box",) and len(fitting) == 1:  # the only one that fits
                     return fitting[0]
             time.sleep(0.1)
         raise NotFound(f"{caption} ({', '.join(roles)})")
@@ -140,7 +140,7 @@ class Hands:
 
 
 class Reader:
-    """Does the steps of one example and notes what differs."""
+    """Performs the steps of one example and records differences."""
 
     def __init__(self, eyes: Eyes, hands: Hands) -> None:
         self.eyes, self.hands = eyes, hands
@@ -256,11 +256,11 @@ def perform(example: Example, program: Path, pyatspi, shots: Path | None) -> lis
 
 
 def perform_alone(name: str, program: Path, shots: Path | None) -> int:
-    """One example, on the bus that this process was started on."""
+    """Performs one example on this process's bus."""
     launcher = subprocess.Popen([ACCESSIBILITY_BUS, "--launch-immediately"], stderr=subprocess.DEVNULL)
     try:
         time.sleep(1)
-        import pyatspi  # finds the bus when it is imported
+        import pyatspi  # connects to the bus when imported
 
         example = next(each for each in examples(MANUAL.read_text(encoding="utf-8")) if each.name == name)
         begin = time.monotonic()
@@ -293,7 +293,7 @@ def main() -> int:
 
 
 def succeeds(command: list[str]) -> bool:
-    """Runs one example with all that it starts; what hangs is ended with it."""
+    """Runs one example; if it hangs, ends it with all processes it started."""
     run = subprocess.Popen(command, stderr=subprocess.DEVNULL, start_new_session=True)
     try:
         return run.wait(EXAMPLE_LIMIT_S) == 0

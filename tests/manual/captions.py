@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Which control a caption of the window means, and the script lines that do what a row of the manual says."""
+"""Maps captions of the window to controls, and rows of the manual to script lines."""
 
 import csv
 
@@ -14,7 +14,7 @@ SURFACES = "Výběr u povrchu "
 RAINS = "Výběr u doby "
 TAB = "Záložka "
 
-# Fields of the first tab, which every type shares.
+# Fields of the first tab, shared by all types.
 SITE = {
     "Název projektu": "txtProjName",
     "Řešitel projektu": "txtProjektant",
@@ -96,7 +96,7 @@ BUTTONS = {
 DIALOGS = {"cmdEdit(0)": "frmIntDialog", "cmdEdit(1)": "frmDialog", "cmdEdit(2)": "frmCoefDialog"}
 LISTS = {"Stanice": "frmIntDialog.cboSelStanice", "Periodicita": "frmIntDialog.cboSelPeriod",
          "Šachta z katalogu": "cboTypSachty"}
-# Left by the user as by a Tab key, which sets the number out.
+# The user leaves these fields, for example with the Tab key; the number is then formatted.
 FILTRATION = ("txtSoucFiltrace", "txtSoucFiltrPruleh")
 
 
@@ -106,7 +106,7 @@ def reference_rows(name: str, column: str) -> list[str]:
 
 
 class Person:
-    """Somebody with the manual in hand: knows which window is open and which type is chosen."""
+    """A reader of the manual: keeps which window is open and which type is chosen."""
 
     def __init__(self) -> None:
         self.dialog = ""
@@ -114,7 +114,7 @@ class Person:
         self.tab = 0
 
     def control(self, caption: str) -> str:
-        """The field of a caption, wherever it is. KeyError when no field is called so."""
+        """The field of a caption, in any window. KeyError if there is none."""
         found = SITE.get(caption) or PANEL.get(caption) or LISTS.get(caption)
         if found is None:
             raise KeyError(f"no field is called {caption}")
@@ -169,7 +169,7 @@ class Person:
         return [f"click {control}"]
 
     def confirm(self) -> str:
-        """The OK button of what is open."""
+        """The OK button of the open window or panel."""
         dialog, self.dialog = self.dialog, ""
         if not dialog:
             return f"cmdOK({self.type_number})"
@@ -177,7 +177,7 @@ class Person:
 
 
 def script_of(example: Example) -> list[str]:
-    """The whole script: each step's lines behind an echo of its place in the manual."""
+    """The whole script: each step's lines after an echo of its line in the manual."""
     person = Person()
     lines = []
     for step in example.steps:

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""The user manual against the program: its examples, inputs, messages, commands, links and pictures.
+"""Compares the user manual with the program: examples, inputs, messages, commands, links and pictures.
 
 Use: manual_test.py --program MERO-BATCH [unittest's arguments]
-A manual whose number, message or caption differs from what the program shows fails with the line of the manual.
+A number, message or caption that differs from the program's fails with the line of the manual.
 """
 
 import argparse
@@ -30,7 +30,7 @@ program = "mero-batch"
 
 
 class Folder:
-    """A program's folder of its own, as a fresh installation has it."""
+    """A new program's folder, as after installation."""
 
     def __enter__(self) -> Path:
         self.work = tempfile.TemporaryDirectory()
@@ -55,7 +55,7 @@ def trace_of(script: list[str]) -> list[dict]:
 
 
 def differences(example: Example, trace: list[dict]) -> list[str]:
-    """What the manual says otherwise than the program, with the manual's line."""
+    """The differences between manual and program, with the manual's lines."""
     wrong = []
     shown: dict[int, str] = {}
     boxes = []

@@ -1,14 +1,14 @@
 # SPDX-License-Identifier: MIT
 """The user manual as data: its examples, its tables of inputs and its command blocks.
 
-An example stands between the marks `<!-- příklad: NAME -->` and `<!-- konec příkladu -->`. In it, in reading order,
+An example is between the marks `<!-- příklad: NAME -->` and `<!-- konec příkladu -->`. In it, in reading order,
 
 - a table headed `Pole | Zadejte` holds what the user does: a caption and a value in back quotes, or a caption alone
   with a word ("stiskněte", "klepněte") for a button, an option or a tick box;
 - a table headed `Výsledek | Vyjde` holds what the program must show: a caption and the text in back quotes;
 - a quotation `> **Informace:** „TEXT“` (or Upozornění, Chyba) is a message box.
 
-Tables of inputs stand behind `<!-- vstupy: N -->`, N being the number of the type, 0 for the first tab.
+Tables of inputs follow `<!-- vstupy: N -->`, where N is the number of the type, 0 for the first tab.
 """
 
 import re
@@ -74,7 +74,7 @@ def value_of(cell: str) -> str | None:
 
 
 def examples(text: str) -> list[Example]:
-    """All examples of a manual. ValueError with the line where one is not written as it must be."""
+    """All examples of a manual. ValueError with the line of an example of the wrong form."""
     found: list[Example] = []
     current, table = None, ""
     for number, line in enumerate(text.split("\n"), 1):
@@ -130,7 +130,7 @@ def input_tables(text: str) -> list[Inputs]:
 
 
 def commands(text: str) -> list[Command]:
-    """The commands of ```console blocks with what they print; a line "..." stands for any lines."""
+    """The commands of ```console blocks with their output; a line "..." stands for any lines."""
     found: list[Command] = []
     inside = False
     for number, line in enumerate(text.split("\n"), 1):

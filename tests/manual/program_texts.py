@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The texts that the program shows, read from its sources: messages and captions.
 
-A message that is put together of parts counts by its parts, so that what varies may be anything.
+A message composed of parts is compared part by part, so that its variable parts may be anything.
 """
 
 import re
@@ -12,12 +12,12 @@ from manual_text import ROOT
 SRC = ROOT / "src"
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 ADJACENT = re.compile(r'"\s*\n?\s*"')
-# Files that hold nothing but such texts.
+# Files that contain only such texts.
 TABLES = ("design/verdict.cpp", "design/messages.cpp", "platform/numbers/runtime_error.cpp", "data/rain_database.cpp",
           "app/mero/qt_desk.cpp", "app/mero/save_dialog.cpp", "platform/mod_reg_settings.cpp")
 STATEMENT = re.compile(
     r"\b(?:message|error|showMessage)\((?:[^;\"]|\"(?:[^\"\\\n]|\\.)*\")*;", re.DOTALL)
-# Captions that stand beside a field, in the order of the arguments: a control, then the caption.
+# Captions beside a field, in the order of the arguments: a control, then the caption.
 CAPTION = re.compile(r"\.(?:text|input|result|area|widget)\(\s*(?:[\w.\[\]]+,\s*)?QStringLiteral\(\"([^\"]+)\"\)")
 SHORTEST = 4
 
@@ -32,7 +32,7 @@ def joined(text: str) -> str:
 
 
 def is_message(literal: str) -> bool:
-    """A text for people: longer than a joint, with a blank in it, or with a Czech letter."""
+    """True for texts for people: longer than a connecting part, with a blank in it, or with a Czech letter."""
     return len(literal.strip()) >= SHORTEST and (" " in literal.strip() or not literal.isascii())
 
 
@@ -62,7 +62,7 @@ def message_texts() -> list[tuple[str, str]]:
 
 
 def sentences() -> list[tuple[str, str]]:
-    """File and text of each sentence that the window shows elsewhere: notes, warnings, the page for a missing file."""
+    """File and text of each other sentence in the window: notes, warnings, the page for a missing file."""
     found = []
     for file in sorted([*SRC.glob("forms/**/*.cpp"), *SRC.glob("picture/*.cpp"), *SRC.glob("qt/*.cpp"),
                         *SRC.glob("app/mero/*.cpp")]):

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The boxes of every quantity and the judgement by the field rules.
+/// Lists the boxes of every quantity and applies the field rules.
 #include "monkey/field_model.h"
 
 #include <cmath>
@@ -14,7 +14,7 @@ namespace {
 
 enum class Reading { Number, NoNumber, TooLarge };
 
-/// What a strict reading of the text gives.
+/// Result of strict reading of a text.
 struct Read {
     Reading reading = Reading::NoNumber;
     double value = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// What the stored values must be, judged from the texts of the fields alone.
-/// A quantity may stand in several boxes; the one whose text changed last decides.
+/// Predicts the stored values from the texts of the fields only.
+/// A quantity may have several boxes; the one whose text changed last decides.
 #pragma once
 
 #include <functional>
@@ -22,16 +22,16 @@ class FieldModel {
     /// The soil dialog stores its coefficient at the click, before the field shows it.
     void soilWasPicked(int row) { picked_soil_ = row; }
 
-    /// What does not agree, empty when all does.
+    /// Describes a value that differs from the prediction; empty when none does.
     [[nodiscard]] std::string disagreement() const;
 
   private:
     enum class Rule {
-        Number,      ///< empty is 0; what is no number is wiped
-        Area,        ///< the same; a calculation that cannot be made sets 0 without the field
+        Number,      ///< empty is 0; a text that is not a number is cleared
+        Area,        ///< the same; a calculation that fails sets 0 without the field
         Count,       ///< the same as whole number
-        Filtration,  ///< what is no number may stay when it has an "e"
-        Unguarded,   ///< what is no number stays, and the value stays what it was
+        Filtration,  ///< a text that is not a number may stay if it has an "e"
+        Unguarded,   ///< a text that is not a number stays; the value does not change
     };
     struct Quantity {
         std::string name;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Choosing the next action.
-/// Lists and grids are asked only for entries and cells that they have; everything else may be refused.
+/// Chooses the next action.
+/// Entries and cells are chosen from those that exist; other actions may be refused by the program.
 #include "monkey/generator.h"
 
 #include <algorithm>
@@ -33,20 +33,20 @@ bool canBeReached(const platform::Control& control) {
     return control.onScreen() && control.reachable();
 }
 
-/// Controls that no action is for.
+/// True for controls without any action.
 bool isPassive(const platform::Control& control) {
     return dynamic_cast<const platform::Frame*>(&control) != nullptr ||
            dynamic_cast<const platform::Panel*>(&control) != nullptr ||
            dynamic_cast<const platform::TabPage*>(&control) != nullptr;
 }
 
-/// The control that a planned line is for, null for a tab and the like.
+/// The control of a planned line, null for lines without one, such as `tab`.
 platform::Control* targetOf(const std::string& line, forms::Program& program) {
     const auto words = automation::splitLine(line);
     return words.size() > 1 ? find(program, words[1].text) : nullptr;
 }
 
-/// The area column of the entries: a text that is no number there ends the program.
+/// True when the area column of the entries is edited: a text that is not a number there ends the program.
 bool editsAreas(forms::Program& program) {
     return program.window().areaDialog.fgZapisTab.current().column == 1;
 }
@@ -61,7 +61,7 @@ std::string Generator::next(forms::Program& program) {
             plan(program);
         }
         std::string line;
-        // A plan is left in the middle now and then, and a step of it forgotten.
+        // Now and then a plan is abandoned, or a step of it skipped.
         if (planned_.empty() || random_.percent(12)) {
             line = anyAction(program);
         } else {
@@ -153,7 +153,7 @@ void Generator::plan(forms::Program& program) {
 void Generator::planRain() {
     add("tab 0");
     add("click cmdEdit(0)");
-    // The real database has every station; of the invented one every 31st ends the program.
+    // The real database has every station; in the invented one every 31st is missing, which ends the program.
     add("select frmIntDialog.cboSelStanice " + text(random_.below(93)));
     add("select frmIntDialog.cboSelPeriod " + text(random_.below(7)));
     if (random_.percent(25)) {
@@ -206,7 +206,7 @@ void Generator::planType(forms::Program& program) {
     } else {
         add("click optSelType(0)");
         add("focus cboSelType");
-        // The list has its entries only after the group was clicked.
+        // The list is filled only after the group was clicked.
         add("select cboSelType " + text(type));
     }
     planInputs(type);
@@ -277,7 +277,7 @@ void Generator::planReport() {
 }
 
 platform::Control* Generator::anyControl(forms::Program& program) {
-    // Mostly what the user has in front of him.
+    // Mostly controls of the form in front.
     platform::Form* form = nullptr;
     for (platform::Form* each : program.forms()) {
         form = each->visible() ? each : form;
@@ -357,7 +357,7 @@ std::string Generator::actionOnText(const platform::TextBox& box, const std::str
                                 "txtInvestor", "txtDetails",    "txtTypPudyPodlozi"};
     const bool is_text = std::find(kTexts.begin(), kTexts.end(), box.name()) != kTexts.end();
     const bool free_text = random_.percent(is_text ? 90 : 8);
-    // Typing at the end of a long text makes it longer for ever.
+    // Typing at the end of a long text would make it grow without limit.
     constexpr std::size_t kLongText = 40;
     const bool sets = choice < 60 || box.text().size() > kLongText;
     return (sets ? "set " : "type ") + name + " " + (free_text ? quoted(freeText(random_)) : number());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-/// The monkey: makes up the next action of a user from what the program shows now.
-/// Half of what it does are tasks of a user who knows the program (a rain, an area, a soil, a type with its
-/// inputs and the calculation), so that it gets deep; in between it touches anything.
+/// The monkey: chooses the next random action of a user from the program's current state.
+/// Half of the actions belong to whole tasks (a rain, an area, a soil, a type with its inputs and the
+/// calculation), so that it reaches deep states; the others are on any control.
 #pragma once
 
 #include <cstdint>
@@ -17,12 +17,12 @@ namespace mero::monkey {
 class Generator {
   public:
     enum class Life {
-        Short,    ///< actions that end the program come, too
-        Endless,  ///< none that ends it: for one long script on the real window
+        Short,    ///< with actions that end the program
+        Endless,  ///< without them: for one long script on the real window
     };
     Generator(std::uint64_t seed, Life life);
 
-    /// The next line, one that the program can follow now.
+    /// The next line, which the program can perform now.
     [[nodiscard]] std::string next(forms::Program& program);
 
   private:
@@ -40,7 +40,7 @@ class Generator {
     [[nodiscard]] std::string actionOn(platform::Control& control);
     [[nodiscard]] std::string actionOnText(const platform::TextBox& box, const std::string& name);
     [[nodiscard]] platform::Control* anyControl(forms::Program& program);
-    /// Whether the program can follow the line, and whether it may now.
+    /// True when the program can perform the line and this kind of life allows it now.
     [[nodiscard]] bool isUsable(const std::string& line, forms::Program& program) const;
     [[nodiscard]] std::string number();
 

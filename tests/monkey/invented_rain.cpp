@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Plausible tables by a power law; the odd ones as offices could put them in.
+/// Plausible tables by a power law, and odd ones that users could enter into a database.
 #include "monkey/invented_rain.h"
 
 #include <array>
@@ -14,7 +14,7 @@ using data::StationTable;
 
 constexpr std::array kDurations{5.0, 10.0, 15.0, 20.0, 30.0, 45.0, 60.0, 90.0, 120.0};
 
-/// What a station's table is like, by the remainder of its number.
+/// Kind of a station's table, chosen by the remainder of its number.
 enum class Kind { Missing, OtherLastField, FewRows, Nulls, Huge, Negative, NoFields, Plausible };
 constexpr int kKinds = 31;
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The table of actions and their errors.
-/// What is not in the table (ticks, tabs, focus, spins, closing, most clicks) ends in no error at all.
+/// Actions that are not in the table (ticks, tabs, focus, spins, closing, most clicks) give no error.
 #include "monkey/known_errors.h"
 
 #include <algorithm>
@@ -25,21 +25,21 @@ enum Errors : unsigned {
 
 struct Row {
     Action action;
-    std::string_view control;  ///< with its form; without the index it stands for all members
+    std::string_view control;  ///< with its form; without an index it means all members
     unsigned errors;
 };
 
 constexpr std::array<Row, 30> kRows{{
-    // Boxes without a trap around the conversion.
+    // Boxes whose handler does not catch conversion errors.
     {Action::Typing, "frmCalc.txtPocetPotrubi", kMismatch | kOverflow},
     {Action::Typing, "frmCalc.txtPotrHloubkaZahl", kMismatch | kOverflow},
-    // The safety factor computes the current type at every key; so do the soil and overflow options.
+    // The safety factor calculates the current type at every key, and so do the soil and overflow options.
     {Action::Typing, "frmCalc.txtSoucBezp", kOverflow | kDivision},
     {Action::Clicking, "frmCalc.optSelTypPudy2", kOverflow | kDivision},
     {Action::Clicking, "frmCalc.optSelTypPudy3", kOverflow | kDivision},
     {Action::Clicking, "frmCalc.chkSelPretok", kOverflow | kDivision},
     {Action::Selecting, "frmCalc.cboSelType", kOverflow | kDivision},
-    // Leaving reads the text leniently once more; a text such as 1e309 stays in the field.
+    // Leaving reads the text again, leniently; a text such as 1e309 stays in the field.
     {Action::Leaving, "frmCalc.txtSoucFiltrace", kOverflow},
     {Action::Leaving, "frmCalc.txtSoucFiltrPruleh", kOverflow},
     // The inflow is area times intensity.

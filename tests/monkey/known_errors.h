@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Which run-time errors an action can end in. Everything else that comes out of an action is a fault.
-/// The table is worked out from what the handlers of each control compute, not from what was seen.
+/// Which run-time errors an action can give. Any other error is a fault.
+/// The table is derived from what the handlers of each control compute, not from observed errors.
 #pragma once
 
 #include <string>
@@ -11,10 +11,10 @@
 
 namespace mero::monkey {
 
-/// The control that a line acts on, written with its form (`frmCalc.txtHPV`); empty for `tick` and the like.
+/// The control that a line acts on, with its form (`frmCalc.txtHPV`); empty for lines such as `tick`.
 [[nodiscard]] std::string targetOf(const std::vector<automation::Word>& words);
 
-/// Whether the error may come out of that action.
+/// True when the action can give this error.
 [[nodiscard]] bool isKnown(const RuntimeError& error, const std::vector<automation::Word>& words);
 
 }  // namespace mero::monkey

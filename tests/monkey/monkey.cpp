@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// mero-monkey [--seed N] [--actions N]: random actions on the forms, checked after each.
-/// A fault is printed with the shortest script that shows it, which is also left in monkey-SEED.mero.
+/// A fault is printed with the shortest script that reproduces it, which is also written to monkey-SEED.mero.
 #include <algorithm>
 #include <chrono>
 #include <fstream>
@@ -41,7 +41,7 @@ struct Options {
     std::string replay_from;
 };
 
-/// @throws std::invalid_argument for words that it does not know
+/// @throws std::invalid_argument for unknown words
 Options parse(std::span<char*> words) {
     Options options;
     for (std::size_t at = 0; at < words.size(); at += 2) {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The monkey's own parts: the same seed does the same, nothing of the program is left out, scripts get
-/// short.
+/// Parts of the monkey: a seed is reproducible, every part of the program is reached, scripts are shortened.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -86,7 +85,7 @@ TEST(Generator, TouchesEveryControlAndGetsToEveryResult) {
                               dynamic_cast<const platform::DropList*>(control) != nullptr ||
                               dynamic_cast<const platform::Grid*>(control) != nullptr;
             const std::string name = form->name() + "." + control->name();
-            // Nothing is ever calculated for these two by hand.
+            // These two buttons are never shown, because their types are calculated live.
             const bool never_shows = name == "frmCalc.cmdCalcul(1)" || name == "frmCalc.cmdCalcul(2)";
             EXPECT_TRUE(!acts || never_shows || touched.contains(name)) << name;
         }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Pools of texts, and texts put together from pieces.
+/// Pools of texts, and texts combined from pieces.
 #include "monkey/odd_texts.h"
 
 #include <array>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The texts that a user, or a cat on the keyboard, may put into a field.
+/// Plausible and odd texts for fields.
 #pragma once
 
 #include <string>
@@ -10,11 +10,11 @@ namespace mero::monkey {
 
 /// A number as an engineer enters it.
 [[nodiscard]] std::string plausibleNumber(Random& random);
-/// Numbers at the edges, texts that are almost numbers, texts that are none.
+/// Numbers at limits, texts that are almost numbers, texts that are not numbers.
 [[nodiscard]] std::string nastyNumber(Random& random);
 /// Words, mark-up, paths, foreign scripts, control characters, long texts.
 [[nodiscard]] std::string freeText(Random& random);
-/// Any of them, as a word of a script line: in double quotes, with its escapes.
+/// A text as a word of a script line: in double quotes, with escapes.
 [[nodiscard]] std::string quoted(const std::string& text);
 
 }  // namespace mero::monkey

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Random numbers that are the same on every machine: the standard's distributions may differ, its engine
-/// not.
+/// Random numbers that are the same on every machine. The distributions of the standard library may differ
+/// between implementations, its engine does not.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ class Random {
     int below(int count) { return static_cast<int>(engine_() % static_cast<std::uint64_t>(count)); }
     /// True in about `percent` of 100 cases.
     bool percent(int percent) { return below(100) < percent; }
-    /// One of them; there must be one.
+    /// A random element; the list must not be empty.
     template <typename List>
     const auto& oneOf(const List& list) {
         return *(std::begin(list) + below(static_cast<int>(std::size(list))));

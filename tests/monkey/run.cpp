@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Living, replaying, shrinking.
+/// Runs, replays and shortens lives of the monkey.
 #include "monkey/run.h"
 
 #include "monkey/stage.h"

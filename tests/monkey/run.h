@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Lives of the monkey: a program is started, acted on until it ends or the life is over, and started again.
+/// Lives of the monkey. In each life a new program is started and acted on until it ends or the number of
+/// actions is reached.
 #pragma once
 
 #include <cstdint>
@@ -11,20 +12,20 @@
 
 namespace mero::monkey {
 
-/// What one life came to.
+/// Result of one life.
 struct Life {
-    Script script;       ///< what was done
-    std::string fault;   ///< what broke at its last line, empty when nothing did
-    bool ended = false;  ///< the program ended before the life was over
+    Script script;       ///< the actions
+    std::string fault;   ///< the fault at its last line, empty when there was none
+    bool ended = false;  ///< the program ended before the number of actions was reached
 };
 
-/// @param actions how many actions the life has at most
+/// @param actions maximum number of actions of the life
 [[nodiscard]] Life live(const SandboxFolder& sandbox, std::uint64_t seed, int actions, Generator::Life kind);
 
-/// The fault that the script shows, empty for none. Lines that cannot be followed are passed over.
+/// The fault that the script reproduces, empty for none. Lines that cannot be performed are skipped.
 [[nodiscard]] std::string replay(const SandboxFolder& sandbox, const Script& script);
 
-/// The shortest script that shows a fault of the same kind.
+/// The shortest script that reproduces a fault of the same kind.
 [[nodiscard]] Script shortest(const SandboxFolder& sandbox, const Life& life);
 
 }  // namespace mero::monkey

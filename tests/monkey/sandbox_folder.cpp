@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Making, watching and removing the temporary folder.
-/// Errors of removing are ignored: a name that was too odd to remove is no fault of the program under test.
+/// Creates, checks and removes the temporary folder.
+/// Errors of removing are ignored: a name that cannot be removed is not a fault of the tested program.
 #include "monkey/sandbox_folder.h"
 
 #include <unistd.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A program's folder inside a temporary folder of its own, removed with all that is in it at the end.
-/// Whatever appears beside the program's folder was written where nothing may be written.
+/// A program's folder inside a temporary folder, removed with its content at the end.
+/// The program must not write anything beside its folder.
 #pragma once
 
 #include <filesystem>
@@ -10,7 +10,7 @@ namespace mero::monkey {
 
 class SandboxFolder {
   public:
-    /// @throws std::runtime_error when the machine gives no temporary folder
+    /// @throws std::runtime_error when no temporary folder can be created
     SandboxFolder();
     SandboxFolder(const SandboxFolder&) = delete;
     SandboxFolder& operator=(const SandboxFolder&) = delete;
@@ -18,11 +18,11 @@ class SandboxFolder {
 
     /// The program's folder, three levels below the temporary folder.
     [[nodiscard]] std::string programFolder() const { return program_folder_.string(); }
-    /// Whether the path, written in full, leads into the program's folder.
+    /// True when the absolute path is inside the program's folder.
     [[nodiscard]] bool contains(const std::string& path) const;
-    /// A file or folder beside the program's folder or above it, empty when there is none.
+    /// A file or folder beside or above the program's folder; empty when there is none.
     [[nodiscard]] std::string strayEntry() const;
-    /// Removes what is in the program's folder.
+    /// Removes the content of the program's folder.
     void empty() const;
 
   private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Delta debugging: pieces of half the script, of a quarter, and so on down to single lines.
+/// Delta debugging: removes pieces of half the script, of a quarter, and so on down to single lines.
 #include "monkey/shrink.h"
 
 #include <algorithm>
@@ -16,10 +16,10 @@ Script without(const Script& script, std::size_t first, std::size_t count) {
     return rest;
 }
 
-/// Leaves out what can be left out in pieces of that size. @return true when anything could
+/// Removes all pieces of that size that can be removed. @return true when any was
 bool leaveOut(Script& script, std::size_t size, const std::function<bool(const Script&)>& shows) {
     bool any = false;
-    // From the end, where most lines are already without effect on the fault.
+    // From the end, where most lines have no effect on the fault.
     for (std::size_t end = script.size(); end > 0;) {
         const std::size_t first = end > size ? end - size : 0;
         const Script shorter = without(script, first, end - first);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The shortest part of a script that still shows a fault, by leaving out ever smaller pieces.
+/// Finds a short part of a script that still reproduces a fault, by removing smaller and smaller pieces.
 #pragma once
 
 #include <functional>
@@ -10,9 +10,9 @@ namespace mero::monkey {
 
 using Script = std::vector<std::string>;
 
-/// @param script a script that shows the fault
-/// @param shows  whether a shorter one shows it, too
-/// @return a script of which no single line can be left out
+/// @param script a script that reproduces the fault
+/// @param shows  returns true when a shorter script reproduces it too
+/// @return a script from which no single line can be removed
 [[nodiscard]] Script shrink(Script script, const std::function<bool(const Script&)>& shows);
 
 }  // namespace mero::monkey

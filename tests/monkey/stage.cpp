@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The stage's desk and the performing of one line.
+/// Implements the stage's desk and performs single lines.
 #include "monkey/stage.h"
 
 namespace mero::monkey {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// One program on a stage of its own: a sandbox for its files, invented rain, a clock that stands still.
-/// Script lines are performed one by one; what reached the user during the last one is kept.
+/// One program in an isolated environment: a sandbox for its files, invented rain, a frozen clock.
+/// Script lines are performed one by one; the messages and errors of the last one are kept.
 #pragma once
 
 #include <sstream>
@@ -19,8 +19,8 @@
 
 namespace mero::monkey {
 
-/// Traces like the scripts' desk, keeps the messages and errors of the running action, and lets no copy of
-/// the report leave the sandbox.
+/// Traces like the scripts' desk, keeps the messages and errors of the running action, and allows copies of
+/// the report only inside the sandbox.
 class StageDesk : public automation::TraceDesk {
   public:
     StageDesk(std::ostream& trace, const SandboxFolder& sandbox);
@@ -47,11 +47,11 @@ class Stage {
 
     [[nodiscard]] forms::Program& program() { return program_; }
     [[nodiscard]] const SandboxFolder& sandbox() const { return *sandbox_; }
-    /// Of the last line performed.
+    /// Messages of the last line performed.
     [[nodiscard]] const std::vector<platform::Message>& messages() const { return desk_.messages; }
     [[nodiscard]] const std::vector<RuntimeError>& errors() const { return desk_.errors; }
     [[nodiscard]] std::string trace() const { return trace_.str(); }
-    /// Why the last line could not be followed.
+    /// Why the last line could not be performed.
     [[nodiscard]] std::string diagnostics() const { return diagnostics_.str(); }
 
   private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The rules that hold after every action.
-/// Texts are looked at when code writes them, so that what the user typed himself is not blamed.
+/// Checks the rules that hold after every action.
+/// Texts are checked when code writes them, so that texts typed by the user cause no fault.
 #include "monkey/watcher.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace mero::monkey {
 namespace {
 
 constexpr int kSoilChoiceColumn = 2;
-constexpr int kFreeTextColumn = 3;  // of the entries: what the user calls a surface
+constexpr int kFreeTextColumn = 3;  // of the entries: the user's name of a surface
 
 bool isLetter(char c) {
     return std::isalpha(static_cast<unsigned char>(c)) != 0 || static_cast<unsigned char>(c) >= 0x80U;
@@ -35,12 +35,12 @@ std::string cellsOf(const platform::Grid& grid) {
     return text;
 }
 
-/// Boxes that code fills with what the user wrote elsewhere.
+/// True for boxes that code fills with texts that the user typed elsewhere.
 bool showsFreeText(const platform::Control& control) {
     return control.name() == "txtSChange" || control.name() == "txtTypPudyPodlozi";
 }
 
-/// The window's answers to a group choice without area or filtration coefficient.
+/// True for the messages that refuse a group choice without area or filtration coefficient.
 bool isRefusal(const platform::Message& message) {
     return message.text == "Zadejte nepropustnou odvodňovanou plochu" ||
            message.text == "Zadejte součinitel filtrace podloží";
@@ -95,7 +95,7 @@ std::string Watcher::perform(const std::string& line) {
     try {
         words = automation::splitLine(line);
     } catch (const automation::ScriptError&) {
-        // The runner says the same.
+        // The runner reports the same.
     }
     target_ = targetOf(words);
     odd_text_.clear();
@@ -177,7 +177,7 @@ std::string Watcher::checkPanels(const Words& words) {
     const auto& messages = stage_->messages();
     const bool refused = words.front().text == "click" && target_ == "frmCalc.optSelType(1)" &&
                          std::any_of(messages.begin(), messages.end(), isRefusal);
-    // A refused "Centralizované" leaves the panels as they were and the type at 5.
+    // A refused "Centralizované" leaves the panels unchanged and the type at 5.
     kept_panel_ =
         (kept_panel_ || refused) && visible == panels_ && window.SelectedType == data::FacilityType::Shaft;
     panels_ = visible;

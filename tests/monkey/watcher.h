@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Watches a stage for what must hold after every action, whatever the user did.
-/// A fault is one line of text whose part before the colon says which rule was broken.
+/// Checks rules on a stage that must hold after every action.
+/// A fault is one line of text; the part before the colon names the broken rule.
 #pragma once
 
 #include <string>
@@ -19,8 +19,8 @@ class Watcher {
     Watcher(const Watcher&) = delete;
     Watcher& operator=(const Watcher&) = delete;
 
-    /// Performs the line and checks. @return the fault, empty when there is none; a line that cannot be
-    /// followed is no fault
+    /// Performs the line and checks the rules. @return the fault, empty when there is none; a line that
+    /// cannot be performed is not a fault
     [[nodiscard]] std::string perform(const std::string& line);
     [[nodiscard]] Stage::Step lastStep() const { return last_step_; }
 
@@ -38,13 +38,13 @@ class Watcher {
     Stage* stage_;
     FieldModel fields_;
     Stage::Step last_step_ = Stage::Step::Continue;
-    std::string target_;       ///< the control that the running action works on
+    std::string target_;       ///< the control of the running action
     std::string odd_text_;     ///< a text with inf or nan that code wrote during the running action
     std::vector<int> panels_;  ///< visible result panels after the last action
     bool kept_panel_ = false;  ///< a refused group choice left a panel of another type
 };
 
-/// Whether the text has inf or nan, in any case, standing as a word of its own.
+/// True when the text contains inf or nan as a separate word, in upper or lower case.
 [[nodiscard]] bool hasNoNumber(const std::string& text);
 
 }  // namespace mero::monkey

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The watcher is blind to nothing that it promises to see: each rule is broken on purpose once.
+/// The watcher detects each kind of fault: every rule is broken once on purpose.
 #include "monkey/watcher.h"
 
 #include <gmock/gmock.h>
@@ -14,7 +14,7 @@ using ::testing::StartsWith;
 
 class WatcherTest : public ::testing::Test {
   protected:
-    /// Makes a harmless link do something and clicks it.
+    /// Gives a harmless link a handler and clicks it.
     std::string faultOf(const std::function<void()>& handler) {
         window().lblOdkaz[0].clicked = handler;
         return watcher_.perform("click lblOdkaz(0)");

@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
-"""Random actions on the real window and on the program without one: both must do the same.
+"""Performs random actions on the real window and on the program without a window, and compares both.
 
 Use: window_agrees.py --monkey MERO_MONKEY --window MERO --batch MERO_BATCH [--actions N] [--seed N]
 
 One half of the actions are lives of up to 500 actions, of which many end with the program, the other half are lives
-of 2000 that do not end. Each is followed by both programs in a fresh folder of the same name. Equal must be the whole
-trace, the exit status, and the files that are left with their bytes. A copy in PDF carries its moment, so only its name
-is compared. A difference is printed with the shortest script that was found for it, left in monkey-window-SEED.mero.
+of 2000 that do not end. Both programs perform each of them in a new folder of the same name. The whole trace, the
+exit status, and the names and bytes of the files must be equal. A PDF copy contains its time, so only its name is
+compared. A difference is printed with the shortest script found for it, written to monkey-window-SEED.mero.
 """
 
 import argparse
@@ -69,12 +69,12 @@ class Fronts:
 
 
 def kind_of(difference: list[str]) -> str:
-    """A script that became unusable by what was left out shows nothing."""
+    """The kind of a difference. A script that became unusable because lines were removed has none."""
     return "" if not difference else difference[0] if len(difference) == 1 else "the fronts differ"
 
 
 def shortest(fronts: Fronts, lines: list[str], path: Path, kind: str) -> list[str]:
-    """Leaves out ever smaller pieces for as long as the fault is of the same kind."""
+    """Removes smaller and smaller pieces as long as the fault is of the same kind."""
     trials = 0
     piece = len(lines) // 2
     while piece > 0 and trials < MOST_TRIALS:
@@ -103,7 +103,7 @@ def live(arguments: argparse.Namespace, fronts: Fronts, seed: int, kind: str, ac
         return int(told.stdout.split()[0])
     print(f"seed {seed}, {kind} life: the fronts differ")
     print("\n".join(difference[:60]))
-    # No newline may be changed: texts hold carriage returns.
+    # Newlines must not be converted, because texts contain carriage returns.
     with open(script, encoding="utf-8", newline="\n") as file:
         lines = list(file)
     kept = Path(f"monkey-window-{seed}.mero").resolve()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The comparison of the fronts: what counts as a difference, and that a short script is found for it."""
+"""Tests the comparison of the fronts: what counts as a difference, and that a short script is found for it."""
 
 import tempfile
 import unittest
@@ -23,7 +23,7 @@ class FaultySelf:
 
 
 class Program:
-    """An executable that prints and leaves what it is told."""
+    """An executable that prints given text and writes given files."""
 
     def __init__(self, folder: Path, name: str, commands: str):
         self.path = folder / name

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Leaving out answers, putting in looks.
+/// Removes answers to save dialogs and inserts queries.
 #include "monkey/written_script.h"
 
 #include <array>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Date and time: reading the frozen moment, and the texts of the clock label and the report.
+// Date and time: parsing the frozen moment, and the texts of the clock label and the report.
 #include "platform/clock.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's own separators: read like the platform's, taken from the environment, set without harm.
+// This program's separators: the initial ones come from the environment, and setting them does not affect it.
 #include "platform/locale_settings.h"
 
 #include <gtest/gtest.h>
@@ -67,7 +67,7 @@ TEST(ProgramLocale, StartsAsTheUsersEnvironmentHasIt) {
     }
     EXPECT_EQ(plain.text(LocaleItem::DecimalSeparator), ".");
     EXPECT_EQ(plain.text(LocaleItem::ListSeparator), ",");
-    // Without that locale on the machine its separators cannot be known; the defaults hold then.
+    // If the machine does not have that locale, its separators are unknown and the defaults are used.
     if (czech.text(LocaleItem::DecimalSeparator) == ",") {
         EXPECT_EQ(czech.text(LocaleItem::ListSeparator), ";");
         EXPECT_NE(czech.text(LocaleItem::ThousandsSeparator), "");

@@ -65,9 +65,8 @@ TEST_F(ModRegSettingsTest, ATextIsCutAtItsFirstZero) {
 TEST_F(ModRegSettingsTest, AFailureOfGetIsShownAndLeavesTheRestUnread) {
     locale.fails_at = 4;  // the size of the thousands separator
     settings.Get_locale();
-    ASSERT_EQ(desk.messages.size(), 1U);
-    EXPECT_EQ(desk.messages[0], (Message{"Error 5 (nejde to) in procedure Get_locale of Module Module1",
-                                         MessageIcon::None, std::nullopt}));
+    EXPECT_EQ(desk.takeBoxes(),
+              std::vector{test::plain("Error 5 (nejde to) in procedure Get_locale of Module Module1")});
     EXPECT_EQ(settings.savedDecimal(), ",");
     EXPECT_EQ(settings.savedThousands(), "");
     EXPECT_EQ(settings.savedList(), "");

@@ -28,8 +28,8 @@ struct BenchForm {
     WidgetKit kit;
 };
 
-/// The window of the widgets. It goes before the controls do, as in the program, so it is declared after
-/// them.
+/// The window of the widgets. Declare it after the controls, because it must be destroyed before them, as in
+/// the program.
 class BenchWindow : public QWidget {
   public:
     BenchWindow() { setLayout(new QVBoxLayout); }

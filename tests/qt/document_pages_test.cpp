@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Pages: A4 with margins, rows that stay whole, page ranges, narrow paper.
+/// Pages: A4 with margins, rows that are not split, page ranges, narrow paper.
 #include "qt/document_pages.h"
 
 #include <gtest/gtest.h>

@@ -14,7 +14,7 @@
 namespace mero::qt {
 namespace {
 
-/// A code page that knows one letter, so that one sees who decoded.
+/// A decoder with one special letter, to recognise that it was used.
 std::string decodeForTest(std::string_view bytes) {
     std::string text;
     for (const char byte : bytes) {

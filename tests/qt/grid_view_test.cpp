@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Grids: what they show, where a click goes, the editor over a cell.
+/// Grids: their content, clicks, the editor over a cell.
 #include "qt/grid_view.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Keys and the wheel end in the events that clicks would have caused; the focus can be seen.
+/// Keys and the wheel cause the same events as clicks; the focus is visible.
 #include "qt/field_keys.h"
 
 #include <gmock/gmock.h>

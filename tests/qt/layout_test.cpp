@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of fields and pages.
+/// Layout of fields and pages.
 #include <gtest/gtest.h>
 
 #include <QLabel>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// How a document's text is set: sizes as a browser has them.
+/// Text sizes of a document are those of a browser.
 #include "qt/local_document.h"
 
 #include <gtest/gtest.h>

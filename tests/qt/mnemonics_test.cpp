@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Letters of captions: each once, plain, for what can be worked; leaving a field comes before the button.
+/// Mnemonic letters: unique, unaccented, only for controls that can be operated; a field's lost-focus handler
+/// runs before the button's.
 #include "qt/mnemonics.h"
 
 #include <gmock/gmock.h>
@@ -21,7 +22,7 @@ class Mnemonics : public testing::Test {
     QWidget& place = window.put(*new QWidget);
     FieldGrid grid{bench.kit, place};
 
-    /// The letter behind the mark of a caption, small; none without a mark.
+    /// The letter after the mark of a caption, in lower case; none without a mark.
     static QChar letter(const QString& caption) {
         const auto mark = caption.indexOf('&');
         return mark < 0 ? QChar() : caption[mark + 1].toLower();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The two palettes: what is written can be read.
+/// The two palettes: texts are legible.
 #include "qt/palettes.h"
 
 #include <gtest/gtest.h>

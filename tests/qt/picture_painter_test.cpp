@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Drawings are painted whole, in real fonts, in light and in dark colours.
+// Drawings are painted completely, with real fonts, in light and in dark colours.
 #include "qt/picture_painter.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A picture is drawn when it is painted, once for any number of changes, and tells what it shows.
+// A picture is drawn when it is painted, once for any number of changes, and has an accessible description.
 #include "qt/picture_view.h"
 
 #include <gtest/gtest.h>

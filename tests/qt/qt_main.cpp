@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Main program of tests that need the window system's application object.
+/// Main program of tests that need Qt's application object.
 #include <gtest/gtest.h>
 
 #include <QApplication>

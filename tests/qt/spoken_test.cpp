@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What assistive technology is told of widgets.
+/// Accessible names, descriptions and roles of widgets.
 #include "qt/spoken.h"
 
 #include <gtest/gtest.h>

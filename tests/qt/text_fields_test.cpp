@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Typing into fields, and fields that the program writes.
+/// Typing into fields, and fields filled by the program.
 #include "qt/text_fields.h"
 
 #include <gmock/gmock.h>

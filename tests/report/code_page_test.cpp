@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// windows-1250: every byte there and back, one "?" for whatever it lacks.
+/// windows-1250: every byte is converted in both directions; a missing character becomes one "?".
 #include "report/code_page.h"
 
 #include <gtest/gtest.h>
@@ -42,8 +42,8 @@ TEST(ToWindows1250, WritesOneQuestionMarkForEachCharacterThatItLacks) {
 TEST(ToWindows1250, WritesOneQuestionMarkForEachMalformedSequence) {
     EXPECT_EQ(toWindows1250("\xFF"), "?");
     EXPECT_EQ(toWindows1250("\x80"), "?");
-    EXPECT_EQ(toWindows1250("a\xE2\x82"), "a?");  // breaks off at the end
-    EXPECT_EQ(toWindows1250("\xE2\x82z"), "?z");  // breaks off in the text
+    EXPECT_EQ(toWindows1250("a\xE2\x82"), "a?");  // incomplete at the end
+    EXPECT_EQ(toWindows1250("\xE2\x82z"), "?z");  // incomplete inside the text
     EXPECT_EQ(toWindows1250("\xF0\x9F\x92š"), "?\x9A");
     EXPECT_EQ(toWindows1250("\xC5"), "?");
     EXPECT_EQ(toWindows1250("\xC5\xC5\xA1"), "?\x9A");

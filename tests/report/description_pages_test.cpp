@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The description pages as they are delivered: complete, well nested, on their own, drawn alike everywhere.
+/// The shipped description pages: complete, well nested, self-contained, with drawings of one style.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Where the documents lie.
+/// Paths of the documents.
 #include "report/documents.h"
 
 #include <gtest/gtest.h>

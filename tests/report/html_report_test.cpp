@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The whole report of each type and option against files that were written from the format's rules.
+/// Compares the whole report of each type and option with files written from the format's rules.
 #include "report/html_report.h"
 
 #include <gtest/gtest.h>
@@ -22,8 +22,7 @@ std::string contentOf(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// Compares bytes as they reach the file. On a difference the report is left beside the golden as
-/// NAME.html.out.
+/// Compares the bytes of the file. If they differ, the report is written beside the golden as NAME.html.out.
 void expectGolden(const std::string& name, const ReportData& data) {
     const std::filesystem::path golden = std::filesystem::path(MERO_GOLDEN_FOLDER) / (name + ".html");
     const std::filesystem::path out = golden.string() + ".out";
@@ -85,7 +84,7 @@ TEST(HtmlReport, TypedTextsGoInAsTheyAre) {
 TEST(HtmlReport, Combined) {
     ReportData data = sampleProject(3);
     data.numbers.VybranaDoba = 5;
-    data.options.drain = true;  // the trench page's option is none of this type's
+    data.options.drain = true;  // an option of the trench, not of this type
     expectGolden("combined", data);
 }
 
@@ -98,7 +97,7 @@ TEST(HtmlReport, CombinedWithThrottledOverflow) {
 
 TEST(HtmlReport, Trench) {
     ReportData data = sampleProject(4);
-    data.options.overflow = true;  // the combined page's option is none of this type's
+    data.options.overflow = true;  // an option of the combined object, not of this type
     expectGolden("trench", data);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Tags as browsers read them.
+/// Tags are parsed like in browsers.
 #include "report/html_tag.h"
 
 #include <gtest/gtest.h>

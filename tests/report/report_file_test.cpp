@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The report file under real faults: rights, folders, a full disk, names that no file system takes.
+/// The report file under real faults: permissions, folders, a full disk, names that no file system accepts.
 #include "report/report_file.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ namespace {
 namespace fs = std::filesystem;
 using mero::test::unprivileged;
 
-/// A folder of its own for each test, gone with it.
+/// A new folder for each test, removed after it.
 class ReportFile : public testing::Test {
   protected:
     void SetUp() override {
@@ -116,7 +116,7 @@ TEST_F(ReportFile, IsDeniedInAProtectedFolder) {
 }
 
 TEST_F(ReportFile, IsDeniedWhileAnotherProgramHasTheFileInUse) {
-    // A program that runs is the one kind of file that the system itself holds against writing.
+    // The system itself protects only running programs against writing.
     fs::copy_file("/bin/sleep", path("běží"));
     const std::string running = path("běží");
     const pid_t other = fork();
@@ -125,7 +125,7 @@ TEST_F(ReportFile, IsDeniedWhileAnotherProgramHasTheFileInUse) {
         _exit(1);
     }
     const auto size = fs::file_size(running);
-    // Until the other process has begun to run the file, it can still be opened; wait without touching it.
+    // The file can be opened until the other process runs it; wait for that without touching the file.
     const std::string image = "/proc/" + std::to_string(other) + "/exe";
     std::error_code ignored;
     bool runs = false;
@@ -143,7 +143,7 @@ TEST_F(ReportFile, IsDeniedWhileAnotherProgramHasTheFileInUse) {
 
 TEST_F(ReportFile, LeavesNoHalfReportWhenTheDiskIsFull) {
     put(path("Test"), "starý");
-    // The file may grow to 4096 bytes and no further, as on a disk that fills up while it is written.
+    // The file can grow to 4096 bytes, as on a disk that fills up while it is written.
     fs::permissions(path("Test"), fs::perms::all);
     const WriteResult full = unprivileged([&] {
         const rlimit limit{4096, 4096};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Values of the sample project. Some are chosen so that rounding shows: 0.135 m of wall is written 0.14.
+/// Values of the sample project. Some are chosen to show rounding: 0.135 m of wall is written as 0.14.
 #include "report/sample_project.h"
 
 #include <array>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The sample project of the report tests: one set of values, of which each type shows its own.
+/// The sample project of the report tests: one set of values for all types.
 #pragma once
 
 #include "report/report_data.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A saved copy needs nothing but itself.
+/// A saved copy is self-contained.
 #include "report/saved_copy.h"
 
 #include <gmock/gmock.h>

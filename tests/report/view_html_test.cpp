@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What the view is told of the report: the same content, set so that rules, gaps and columns come out right.
+/// The report rewritten for the view: the same content, with correct rules, gaps and columns.
 #include "report/view_html.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Files are replaced whole or not at all, under real faults.
+/// Files are replaced completely or not at all, under real faults.
 #include "report/whole_file.h"
 
 #include <gtest/gtest.h>

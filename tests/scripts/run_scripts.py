@@ -1,16 +1,16 @@
 # SPDX-License-Identifier: MIT
-"""Follows every script in a fresh program folder and compares trace, exit status and what is left behind.
+"""Runs every script in a new program folder and compares trace, exit status and the files left in it.
 
 Use: run_scripts.py --program PROGRAM [--window] [--accept] [--only NAME]...
 
-A script NAME.mero has its expected trace in NAME.trace, where <folder> stands for the program's folder. Comments at
-its beginning say what is special about it:
-    # folder: KIND        what the program's folder is like (see FOLDERS); default: database and pages
+A script NAME.mero has its expected trace in NAME.trace, where <folder> is the program's folder. Comments at its
+beginning set options:
+    # folder: KIND        kind of the program's folder (see FOLDERS); default: database and pages
     # name: TEXT          name of the program's folder
     # exit: STATUS        expected exit status; default 0
     # leaves: A | B       files that the run leaves in the folder; default none
     # needs: window       it saves a PDF file, which the window program makes: skipped where that was not built
-Every examples/*.mero of the project is followed too; its trace stands in examples/ here. A script that fails writes
+Every examples/*.mero of the project is run too; its trace is in examples/ here. A script that fails writes
 NAME.out beside its trace. --accept writes the traces instead: check each line before committing it.
 With --window the scripts drive the real window, all of them under one virtual display.
 """
@@ -89,8 +89,8 @@ FOLDERS = {
     for kind in (ordinary, without_database, empty, garbage_database, empty_database, cut_database,
                  folder_as_database, folder_as_report, locked_report, read_only)
 }
-# Rights mean nothing to root: these run as nobody then, with windows in memory, because a display's guard would not
-# let nobody in.
+# Permissions do not restrict root: these then run as the user nobody, with windows in memory, because a display's
+# access control would refuse that user.
 NEEDS_ORDINARY_USER = {"locked-report", "read-only"}
 
 
@@ -101,7 +101,7 @@ class Script:
     folder: str = "ordinary"
     name: str = "program"
     exit: int = 0
-    leaves: list[str] | None = field(default_factory=list)  # None: whatever it leaves
+    leaves: list[str] | None = field(default_factory=list)  # None: any
     needs_window_program: bool = False
 
 
@@ -173,7 +173,7 @@ def difference(expected: str, found: str) -> str:
 
 
 def check(program: Path, script: Script, window: bool, accept: bool) -> list[str]:
-    """What is wrong, one text each."""
+    """The errors found, one text each."""
     status, trace, diagnostics, left = follow(program, script, window)
     wrong = []
     if status != script.exit:
@@ -195,7 +195,7 @@ def check(program: Path, script: Script, window: bool, accept: bool) -> list[str
 
 
 def under_virtual_display() -> None:
-    """Starts this again under a virtual display of its own, unless it is."""
+    """Restarts this program under a separate virtual display, if it is not on one."""
     if os.environ.get("MERO_SCRIPTS_DISPLAY"):
         return
     if shutil.which("xvfb-run") is None:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Helper of the tests: which run-time error does a piece of code raise?
+/// Helper of the tests: the run-time error that an action throws.
 #pragma once
 
 #include "platform/numbers/runtime_error.h"

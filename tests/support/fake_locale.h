@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The user's separators as a test wants them, with a log of all calls and a failure at a chosen one.
+/// Separators set by a test, with a log of all calls and a failure at a chosen one.
 #pragma once
 
 #include <algorithm>
@@ -34,7 +34,7 @@ class FakeLocale : public platform::LocaleSettings {
         texts[item] = text;
     }
 
-    /// The call (counted from 1 over the whole life) that fails, 0 for none.
+    /// The call (counted from 1 since construction) that fails, 0 for none.
     int fails_at = 0;
     RuntimeError failure{5, "nejde to"};
     long identifier = 1029;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A rain database in memory: stations by their number, and a log of what was asked.
-/// Its tables are as odd as files may be: too many rows, too few, nulls, the substitute field.
+/// A rain database in memory: stations by their number, and a log of reads.
+/// Some tables are odd, as in real files: too many rows, too few, nulls, the substitute field.
 #pragma once
 
 #include <cstdint>

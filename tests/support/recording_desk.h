@@ -1,30 +1,33 @@
 // SPDX-License-Identifier: MIT
-/// A desk that shows nothing and keeps everything that reached the user, in its order.
-/// Each thing is one readable line, so that a test states the whole dialogue.
+/// The desk of all tests and benchmarks: it shows nothing and keeps everything that leaves the program, in
+/// order. Each call is one readable line; message boxes and errors are also kept whole.
 #pragma once
 
 #include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "platform/desk.h"
 #include "platform/numbers/number_text.h"
+#include "support/message_box.h"
 
 namespace mero::test {
 
 class RecordingDesk : public platform::Desk {
   public:
-    /// "critical: text", "exclamation [Chyba]: text" (the title in brackets where the program sets one).
+    /// Adds the line of test::lineOf, such as "critical: text".
     void showMessage(const platform::Message& message) override {
         messages.push_back(message);
-        const std::string title = message.title ? " [" + *message.title + "]" : "";
-        add(iconName(message.icon) + title + ": " + message.text);
+        reports.emplace_back(message);
+        add(lineOf(boxOf(message)));
     }
-    /// "error 13", with " ends" when the program ends with it.
+    /// Adds "error 13", with " ends" when the program ends with it.
     void reportError(const RuntimeError& error) override {
         errors.push_back(error);
+        reports.emplace_back(error);
         add("error " + numbers::general(error.number()) + (error.endsProgram() ? " ends" : ""));
     }
     void openAddress(const std::string& address) override { add("url " + address); }
@@ -41,8 +44,31 @@ class RecordingDesk : public platform::Desk {
     void saved(const std::string& path) override { add("saved " + path); }
     void ended() override { add("ended"); }
 
-    /// What was recorded since the last call.
+    /// The lines since the last call. Messages and errors stay.
     std::vector<std::string> take() { return std::exchange(lines, {}); }
+    /// The message boxes since the last call.
+    std::vector<MessageBox> takeBoxes() {
+        std::vector<MessageBox> boxes;
+        for (const platform::Message& message : std::exchange(messages, {})) {
+            boxes.push_back(boxOf(message));
+        }
+        return boxes;
+    }
+    /// The numbers of the reported errors since the last call.
+    std::vector<int> takeErrorNumbers() {
+        std::vector<int> numbers;
+        for (const RuntimeError& error : std::exchange(errors, {})) {
+            numbers.push_back(error.number());
+        }
+        return numbers;
+    }
+    /// Drops everything recorded, so that memory does not grow in long runs.
+    void forget() {
+        lines.clear();
+        messages.clear();
+        errors.clear();
+        reports.clear();
+    }
     /// How many of the recorded lines are this one.
     [[nodiscard]] int count(const std::string& line) const {
         return static_cast<int>(std::count(lines.begin(), lines.end(), line));
@@ -51,25 +77,13 @@ class RecordingDesk : public platform::Desk {
     std::vector<std::string> lines;
     std::vector<platform::Message> messages;
     std::vector<RuntimeError> errors;
-    /// Answer of the next save dialog; nothing cancels it.
+    /// Messages and errors in one sequence.
+    std::vector<std::variant<platform::Message, RuntimeError>> reports;
+    /// Answer of the next save dialog; without one the dialog is cancelled.
     std::optional<std::string> save_answer;
 
   private:
     void add(std::string line) { lines.push_back(std::move(line)); }
-
-    static std::string iconName(platform::MessageIcon icon) {
-        switch (icon) {
-            case platform::MessageIcon::None:
-                return "none";
-            case platform::MessageIcon::Information:
-                return "information";
-            case platform::MessageIcon::Exclamation:
-                return "exclamation";
-            case platform::MessageIcon::Critical:
-                return "critical";
-        }
-        return "?";
-    }
 };
 
 }  // namespace mero::test

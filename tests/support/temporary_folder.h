@@ -15,7 +15,7 @@ namespace mero::test {
 
 class TemporaryFolder {
   public:
-    /// @param name further part of the folder's name, with blanks and diacritics if the test wants them
+    /// @param name additional part of the folder's name, e.g. with blanks and diacritics
     explicit TemporaryFolder(const std::string& name = "") {
         std::string pattern =
             (std::filesystem::temp_directory_path() / ("mero-test" + name + "-XXXXXX")).string();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting the program up and the user's longer ways through the dialogs.
+/// Sets the program up and performs the user's longer tasks in the dialogs.
 #include "support/test_program.h"
 
 #include "automation/script_line.h"

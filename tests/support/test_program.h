@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A program that runs in a temporary folder with everything around it faked, and a user's hands on it.
-/// Every act of the hands is one event, as in the window and in a script.
+/// A program in a temporary folder with doubles for everything around it, and the user's actions on it.
+/// Every action is one event, as in the window and in a script.
 #pragma once
 
 #include <string>
@@ -22,7 +22,7 @@ class TestProgram {
   public:
     /// The program is started; what it showed while starting is in `desk`.
     TestProgram();
-    /// Not started yet, so that the surroundings can be prepared first.
+    /// Not started, so that the surroundings can be prepared first.
     enum class Start { Later };
     explicit TestProgram(Start later);
 
@@ -33,7 +33,7 @@ class TestProgram {
     [[nodiscard]] forms::frmDialog& areaDialog() { return window().areaDialog; }
     [[nodiscard]] forms::frmCoefDialog& soilDialog() { return window().coefDialog; }
 
-    // The user's hands.
+    // The user's actions.
     void type(platform::TextBox& box, const std::string& text);
     void paste(platform::TextBox& box, const std::string& text);
     void erase(platform::TextBox& box, int count);
@@ -49,15 +49,15 @@ class TestProgram {
     void close(platform::Form& form) { user.close(form); }
 
     // Whole dialogues.
-    /// Own values in the rain dialog: the intensity in the row of 15 min, picked and confirmed.
+    /// Enters the intensity as own value in the row of 15 min of the rain dialog, picks the row and confirms.
     void giveRain(const std::string& intensity);
-    /// One partial area with the runoff coefficient 1, confirmed.
+    /// Enters one partial area with the runoff coefficient 1 and confirms.
     void giveArea(const std::string& area);
     /// Removes all partial areas and confirms.
     void takeAreaAway();
-    /// Area 1000 m2, kf 1e-4 m/s and 150 l/s.ha of 15 min.
+    /// Enters area 1000 m2, kf 1e-4 m/s and 150 l/s.ha for 15 min.
     void giveSite();
-    /// Decentralised type by its number, on the tab of the design.
+    /// Chooses a decentralised type by its number, on the design tab.
     void chooseType(int type);
 
     TemporaryFolder folder;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// An action in a process of its own that has no more rights than an ordinary user.
-/// The superuser knows no denial: what a test wants denied is not, and the test would prove nothing.
+/// Runs an action in a separate process with the permissions of an ordinary user.
+/// The superuser is never denied access, so a test of denied access would prove nothing.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,8 +10,8 @@
 
 namespace mero::test {
 
-/// Runs the action as the user nobody where the test runs as root, and gives its result.
-/// @param action gives a small number, a truth value or a value of an enumeration: 0 to 98
+/// Runs the action, as the user nobody when the test runs as root. @return its result
+/// @param action returns a small number, a bool or an enumerator: 0 to 98
 template <typename Action>
 [[nodiscard]] auto unprivileged(Action action) {
     using Result = decltype(action());
@@ -24,7 +24,7 @@ template <typename Action>
             try {
                 result = static_cast<int>(action());
             } catch (...) {
-                result = kNotRun;  // a process of the test must not go on with the tests
+                result = kNotRun;  // the child must not continue with the tests
             }
         }
         ::_exit(result);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What the start of the program is measured against: a window with four empty tabs and nothing else.
+/// Baseline for measuring the program's start: a window with four empty tabs and nothing else.
 #include <QApplication>
 #include <QTabWidget>
 

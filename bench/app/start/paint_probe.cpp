@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Preloaded into a Qt program: prints its resident memory when the first window has been painted, and ends
-/// it. So the program itself is measured, not a copy of it with a stopwatch inside.
+/// Preloaded into a Qt program: prints the resident memory when the first window has been painted, and ends
+/// the program. So the real program is measured, without instrumentation of its own.
 #include <unistd.h>
 
 #include <QApplication>
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Resident memory of this process as the kernel tells it, e.g. "VmRSS:   45000 kB".
+/// Resident memory of this process as the kernel reports it, e.g. "VmRSS:   45000 kB".
 std::string residentMemory() {
     std::ifstream status("/proc/self/status");
     for (std::string line; std::getline(status, line);) {

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Time from the start of the process to the first painted window, and resident memory then: mero against a bare
-window with four empty tabs. Run it on an X display of its own:
+"""Measures the time from the start of the process to the first painted window, and the resident memory then, for mero
+and for a bare window with four empty tabs. Run it on a separate X display:
 
     xvfb-run -a -s "-screen 0 1280x1024x24" python3 bench/app/start/start_bench.py build/bench [RUNS]
 """
@@ -17,7 +17,7 @@ LIMITS = {"time": 3.0, "memory": 1.5}
 
 
 def measure(command: list[str], probe: Path, folder: str) -> tuple[float, float]:
-    """Milliseconds and MiB of one start."""
+    """Measures one start. Returns milliseconds and MiB."""
     environment = {**os.environ, "LD_PRELOAD": str(probe), "QT_QPA_PLATFORM": "xcb", "XDG_DATA_HOME": folder}
     begin = time.perf_counter()
     with subprocess.Popen(command, env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as process:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // mero: the program with its window.
-// With --script a script's hands work the same widgets, and the trace goes to standard output.
+// With --script a script drives the same widgets, and the trace goes to standard output.
 #include <QApplication>
 #include <QFontMetrics>
 #include <QLibraryInfo>
@@ -67,7 +67,7 @@ std::string readScript(const std::string& path) {
         file.exceptions(std::ios::badbit | std::ios::failbit);
         file.open(path, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    } catch (const std::ios_base::failure&) {  // no such file, no permission, a folder
+    } catch (const std::ios_base::failure&) {  // missing file, no permission, a folder
         throw app::UsageError("cannot read the script " + path);
     }
 }
@@ -120,7 +120,7 @@ class Mero {
                          : static_cast<platform::Desk&>(real_desk_);
     }
 
-    /// Before somebody works for an hour and then sees no report.
+    /// Reported at the start, so that nobody works for an hour and then gets no report.
     void tellOfMissingFolder() {
         if (app::folderExists(folder_)) {
             return;
@@ -168,7 +168,7 @@ class Mero {
     forms::CalcWindow window_;
 };
 
-/// Needs no display, whatever desktop this runs on.
+/// Needs no display on any desktop.
 int exportPdf(int& argc, char** argv, const std::string& report, const std::string& file) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
@@ -182,7 +182,7 @@ int main(int argc, char** argv) {
     try {
         app::holdStandardStreams();
         const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-        // All arguments are the program's own; the window system gets none of them.
+        // All arguments belong to this program; Qt gets none of them.
         int window_system_arguments = 1;
         if (!arguments.empty() && arguments.front() == "--export-pdf") {
             if (arguments.size() != 3) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Painting the pages into memory and writing them.
-/// The PDF writer itself tells of no failed write, so the file is written in one piece afterwards.
+/// Paints the pages into memory and then writes the file.
+/// QPdfWriter does not report failed writes, so the file is written separately.
 #include "app/mero/pdf_file.h"
 
 #include <QBuffer>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A document as a PDF file: the pages of the print preview, with selectable text and its fonts inside.
+/// Writes a document as a PDF file: the pages of the print preview, with selectable text and embedded fonts.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace mero::app {
 
-/// Writes the file, in place of whatever is there. Asks for no printer.
+/// Writes the file and replaces an existing one. Does not look for a printer.
 /// @param decode see LocalDocument
 [[nodiscard]] platform::PdfResult makePdfFile(const std::string& document_path,
                                               const std::string& target_path, const qt::Decoder& decode);

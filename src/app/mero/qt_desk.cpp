@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Boxes and dialogs of the window system.
-/// A printer is asked for only when the preview opens: looking for the default printer can take long.
+/// Message boxes and dialogs of the window system.
+/// A printer is looked for only when the preview opens, because finding the default printer can take long.
 #include "app/mero/qt_desk.h"
 
 #include <QApplication>
@@ -56,7 +56,7 @@ void QtDesk::showMessage(const platform::Message& message) {
     if (sitter_ == Sitter::Person) {
         const QPointer<QWidget> below = window();
         box.exec();
-        // A window system without a window manager gives the focus to nobody.
+        // Without a window manager no window gets the focus by itself.
         if (!below.isNull()) {
             below->activateWindow();
         }
@@ -84,7 +84,7 @@ void QtDesk::tellOfNoBrowser(const std::string& address) {
     showMessage({"Adresu " + address + " se nepodařilo otevřít.", platform::MessageIcon::Exclamation});
 }
 
-// The window system's own way only tells whether the opener was started, not that it found no browser.
+// QDesktopServices only reports whether the opener was started, not whether it found a browser.
 void QtDesk::openAddress(const std::string& address) {
     if (sitter_ != Sitter::Person) {
         return;
@@ -96,7 +96,7 @@ void QtDesk::openAddress(const std::string& address) {
         }
         return;
     }
-    // It may be the browser itself that runs until it is closed: it outlives the desk and the program.
+    // The process may be the browser itself, running until it is closed: it outlives the program.
     auto* process = new QProcess;
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());
@@ -118,7 +118,7 @@ void QtDesk::openAddress(const std::string& address) {
     process->start(opener, {shown(address)});
 }
 
-// What happens to forms and views is seen on the screen.
+// Changes of forms and views are visible on the screen.
 void QtDesk::formOpened(const std::string& /*form*/) {}
 void QtDesk::formClosed(const std::string& /*form*/) {}
 void QtDesk::navigated(const std::string& /*view*/, const std::string& /*path*/) {}

@@ -12,7 +12,7 @@
 
 namespace mero::app {
 
-/// Who sits at the desk: a person, who closes boxes and dialogs, or a script, for which boxes are shown and
+/// Who uses the desk: a person, who closes boxes and dialogs, or a script, for which boxes are shown and
 /// closed at once and nothing leaves the program.
 enum class Sitter { Person, Script };
 
@@ -21,7 +21,7 @@ class QtDesk : public platform::Desk {
     /// @param decode see LocalDocument; for the print preview and PDF files
     QtDesk(Sitter sitter, qt::Decoder decode);
 
-    /// The window over which boxes show while no other window of the program is active.
+    /// Sets the parent of boxes while no other window of the program is active.
     void setMainWindow(QWidget* window) { main_window_ = window; }
 
     /// Called after a person has closed a message box.
@@ -46,7 +46,7 @@ class QtDesk : public platform::Desk {
     Sitter sitter_;
     qt::Decoder decode_;
     QPointer<QWidget> main_window_;
-    QObject while_there_;  ///< what was started may end when this desk is gone
+    QObject while_there_;  ///< disconnects processes that end after this desk
 };
 
 }  // namespace mero::app

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Actions on the real widgets.
-/// Events are sent straight to the widget, so that a script runs the same whichever window is in front.
+/// Acts on the real widgets.
+/// Events are sent directly to the widget, so that a script runs the same whichever window is active.
 #include "app/mero/qt_user.h"
 
 #include <QApplication>
@@ -23,7 +23,7 @@ namespace {
 using platform::Control;
 using platform::TextBox;
 
-/// Lets a read-only field be written for as long as it lives.
+/// Makes a read-only field writable during this object's lifetime.
 template <typename Field>
 class Writable {
   public:
@@ -41,8 +41,8 @@ class Writable {
     bool read_only_;
 };
 
-/// Keeps keys that no control took from the window: a script presses a key in one control and means no more
-/// than that, while for a person Enter and Escape also confirm and close a dialog.
+/// Keeps keys that no control handled from the window: a script presses a key only in one control, while for
+/// a person Enter and Escape also confirm and close a dialog.
 class KeysKeptFromWindow : public QObject {
   public:
     explicit KeysKeptFromWindow(QWidget& window) { window.installEventFilter(this); }
@@ -69,12 +69,12 @@ void clickAt(QWidget& widget, QPoint position) {
     QApplication::sendEvent(&widget, &release);
 }
 
-/// Keeps the window alive between the actions.
+/// Processes pending events between the actions.
 void settle() {
     QApplication::processEvents();
 }
 
-/// Whether a key has this character on it; everything else comes as from an input method.
+/// True when a key types this character; other characters are sent as from an input method.
 bool isKey(const QString& character) {
     return character.size() == 1 && character.front().isPrint();
 }
@@ -160,7 +160,7 @@ void QtUser::press(TextBox& box, platform::Key key) {
     const int pressed = key == platform::Key::Enter ? Qt::Key_Return : Qt::Key_Escape;
     inField(
         box, [&](QLineEdit& line) { pressKey(line, pressed); },
-        // A line break is typed, not pressed; what is left of the key is the box's handler.
+        // Line breaks are typed as text, so the key only has to run the box's handler.
         [&](QPlainTextEdit&) { kit_->enter([&] { box.userKey(key); }); });
 }
 
@@ -188,7 +188,7 @@ void QtUser::leave(Control& control) {
 
 void QtUser::clickWidget(const Control& control) const {
     auto& widget = widgetOf<QWidget>(control);
-    // A button that its layout made wider still answers only on its own text.
+    // A button widened by its layout may respond only near its text, so the click goes within the size hint.
     const QSize size = widget.size().boundedTo(widget.sizeHint());
     clickAt(widget, {size.width() / 2, widget.height() / 2});
     settle();

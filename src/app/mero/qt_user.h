@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The script's hands in the window: keys and clicks reach the real widgets.
-/// What they cause is what they would cause under a person's hands.
+/// Performs a script's actions in the window: sends keys and clicks to the real widgets, with the same
+/// effects as a person's.
 #pragma once
 
 #include <QLineEdit>
@@ -37,11 +37,10 @@ class QtUser : public automation::User {
     void close(platform::Form& form) override;
 
   private:
-    /// The control's widget, scrolled into sight. @throws std::logic_error when the control has none
+    /// The control's widget, scrolled into view. @throws std::logic_error when the control has none
     template <typename Widget>
     [[nodiscard]] Widget& widgetOf(const platform::Control& control) const;
-    /// Acts on the field of a box, whichever of the two it is; fields that only the program fills can be
-    /// written meanwhile.
+    /// Acts on the field of a box, single or multi-line; a read-only field is writable meanwhile.
     void inField(const platform::TextBox& box, const std::function<void(QLineEdit&)>& in_line,
                  const std::function<void(QPlainTextEdit&)>& in_area) const;
     void clickWidget(const platform::Control& control) const;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The system's dialog, and a question of our own where the added suffix leads to another file.
-/// Names with points in them ("hala 1.2") have no suffix for that.
+/// The system's save dialog, and a separate question when the path with the added suffix is an existing file.
+/// Only the report's suffixes count, so names with points ("hala 1.2") get one added.
 #include "app/mero/save_dialog.h"
 
 #include <QFileDialog>
@@ -38,7 +38,7 @@ std::optional<QString> askWhereToSave(QWidget* parent, const QString& suggested_
     dialog.setDirectory(QFileInfo(suggested_path).absolutePath());
     dialog.selectFile(QFileInfo(suggested_path).fileName());
     const auto follow_filter = [&dialog](const QString& filter) {
-        // The name goes with the filter: what the user reads is what he gets.
+        // The shown name follows the filter, so that the user sees the name of the saved file.
         const QStringList chosen = dialog.selectedFiles();
         if (const QFileInfo file(chosen.value(0)); !chosen.isEmpty() && !file.isDir()) {
             const bool known = withSuffix(file.fileName(), filter) == file.fileName();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Reading and performing of a script's lines.
-/// While a line is performed, boxes let other events run: no second line is begun then.
+/// Reads and performs a script's lines.
+/// Message boxes process other events while a line is performed; no second line is started then.
 #include "app/mero/script_feed.h"
 
 #include <unistd.h>

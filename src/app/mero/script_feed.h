@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Brings a script's lines to the runner while the window lives: from a file, or as they arrive on standard
-/// input.
+/// Passes a script's lines to the runner while the window runs: from a file or from standard input.
 #pragma once
 
 #include <QObject>
@@ -15,13 +14,13 @@ namespace mero::app {
 
 class ScriptFeed : public QObject {
   public:
-    /// @param finished called once with the exit status: at the script's end, at the program's, or at an
+    /// @param finished called once with the exit status: at the end of the script or of the program, or at an
     ///                 unusable line
     ScriptFeed(automation::ScriptRunner& runner, std::function<void(int exit_status)> finished);
 
     /// Performs all lines of a text.
     void feedAll(const std::string& script);
-    /// Performs the lines of standard input as they come.
+    /// Performs the lines of standard input as they arrive.
     void feedStandardInput();
 
   private:

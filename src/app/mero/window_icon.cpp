@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The icon's sizes. Small ones are drawings of their own, so the list names them all.
+/// Loads the icon in all its sizes. Small sizes are separate drawings, so the list names every size.
 #include "app/mero/window_icon.h"
 
 #include <QApplication>

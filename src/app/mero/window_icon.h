@@ -6,11 +6,11 @@
 
 namespace mero::app {
 
-/// The icon in all its sizes; it is part of the program, so a copy that is not installed has it too.
+/// The icon in all its sizes. It is compiled in, so that a program that is not installed has it too.
 [[nodiscard]] QIcon programIcon();
 
-/// Gives every window the icon and tells the desktop which of its entries the program belongs to. To be
-/// called once, after the application object was made.
+/// Sets the icon of all windows and the name of the program's desktop entry. Call it once, after the
+/// application object was created.
 void wearIcon();
 
 }  // namespace mero::app

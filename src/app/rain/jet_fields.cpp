@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Types, sizes and places of the fields.
-/// A table's header has no check sum; these comparisons find most of what damages it.
+/// Checks types, sizes and positions of the fields.
+/// A table's header has no checksum; these comparisons detect most damage.
 #include "app/rain/jet_fields.h"
 
 #include <algorithm>
@@ -9,8 +9,8 @@
 namespace mero::rain {
 namespace {
 
-/// In a table's header the count of the fields that it has ever had stands this far before that of its
-/// fields.
+/// Bytes by which the count of all fields that the table ever had precedes the count of its fields in the
+/// table's header.
 constexpr int kFieldsEverBeforeFields = 4;
 
 FieldType typeOf(const MdbColumn& column, bool has_wide_text) {
@@ -36,7 +36,7 @@ FieldType typeOf(const MdbColumn& column, bool has_wide_text) {
     }
 }
 
-/// Is the field stored as sound files store its type?
+/// True when the field is stored as its type is stored in undamaged files.
 bool hasShapeOfItsType(const Field& field) {
     const MdbColumn& column = *field.column;
     const bool is_fixed = column.is_fixed != 0;
@@ -60,12 +60,12 @@ bool hasShapeOfItsType(const Field& field) {
     }
 }
 
-/// Things that fields share out among them, each to one field: a field's number, a byte of the row.
+/// Things of which each belongs to at most one field: field numbers, bytes of the row.
 class Shares {
   public:
     explicit Shares(int count) : taken_(static_cast<std::size_t>(std::max(count, 0))) {}
 
-    /// @return false when one of them is taken already or does not exist
+    /// @return false when one of them is already taken or does not exist
     bool take(int first, int count) {
         for (int at = first; at < first + count; ++at) {
             if (at < 0 || std::cmp_greater_equal(at, taken_.size()) || taken_[static_cast<std::size_t>(at)]) {
@@ -80,7 +80,7 @@ class Shares {
     std::vector<bool> taken_;
 };
 
-/// How many fields the table has ever had; a row numbers its fields below that.
+/// Number of fields that the table ever had; field numbers in a row are below it.
 int fieldsEver(const MdbTableDef& table, MdbHandle& handle) {
     if (std::cmp_not_equal(::mdb_read_pg(&handle, table.entry->table_pg), handle.fmt->pg_size)) {
         failRead("the table's header cannot be read");

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-/// The fields of a table as libmdb finds them, each checked before its values are believed.
-/// The library follows damaged structures without a word, so the file's redundancy is compared here.
+/// Reads the fields of a table with libmdb and checks each before its values are used.
+/// The library follows damaged structures without an error, so redundant data of the file are compared here.
 #pragma once
 
-// Before mdbtools.h, which includes it as C and cannot: its macros are templates here.
+// Before mdbtools.h, which includes it as C; in C++ it has templates, which must not be inside extern "C".
 #include <glib.h>
 #include <mdbtools.h>
 
@@ -16,7 +16,7 @@
 
 namespace mero::rain {
 
-/// One field and how to read it. It lives as long as the table that it was read from.
+/// One field and how to read it. Valid as long as the table that it was read from.
 struct Field {
     const MdbColumn* column = nullptr;
     FieldType type = FieldType::Other;
@@ -25,13 +25,12 @@ struct Field {
 /// A table's fields in its own order.
 struct Fields {
     std::vector<Field> present;
-    int ever = 0;  ///< deleted ones included; no row has more
+    int ever = 0;  ///< number including deleted fields; no row has more
 };
 
 /// Reads the table's header.
-/// @throws TableError ReadFailed when a field overlaps another, has another size than its type, or is of no
-/// known
-///         type
+/// @throws TableError ReadFailed when a field overlaps another, its size does not match its type, or its type
+///         is unknown
 [[nodiscard]] Fields readFields(MdbTableDef& table, MdbHandle& handle);
 
 /// The elements of one of the library's arrays of pointers.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Catalog and rows through libmdb.
-/// The library skips what it cannot read without a word, so what comes is compared with what was promised.
+/// Reads the catalog and the rows with libmdb.
+/// The library skips unreadable data without an error, so the rows read are compared with the table's header.
 #include "app/rain/jet_table.h"
 
 #include <algorithm>
@@ -21,11 +21,11 @@ namespace {
 using data::ReaderExit;
 using data::StationTable;
 
-/// Marks a file whose values are for demonstration.
+/// A table of this name marks a file of demonstration values.
 constexpr const char* kDemoTable = "Demo";
-/// Where every data page says which table it belongs to.
+/// Offset in every data page of the number of the table that it belongs to.
 constexpr int kPageOwnerOffset = 4;
-/// A row's entry on its page: its place, without the flags.
+/// Bits of a row's entry on its page that hold the offset, without the flags.
 constexpr int kRowStartBits = 0x1fff;
 
 struct CloseHandle {
@@ -42,7 +42,7 @@ Handle open(const std::string& path) {
     if (!handle || ::mdb_read_catalog(handle.get(), MDB_TABLE) == nullptr) {
         throw TableError(ReaderExit::CannotOpen, "not a database that can be read: " + path);
     }
-    // The library fills a page that is cut with zeros, which read as nulls.
+    // The library fills a truncated page with zeros, which are read as nulls.
     std::error_code error;
     const std::uintmax_t size = std::filesystem::file_size(path, error);
     if (error || size % static_cast<std::uintmax_t>(handle->fmt->pg_size) != 0) {
@@ -51,8 +51,8 @@ Handle open(const std::string& path) {
     return handle;
 }
 
-/// The catalog's entry of a table, or null. Two entries of one name, or another one at the same place of the
-/// file, are damage: nobody knows which is meant.
+/// The catalog's entry of a table, or null. Two entries with one name, or another entry at the same position
+/// of the file, mean damage: it is unknown which one is valid.
 MdbCatalogEntry* findEntry(const MdbHandle& handle, const std::string& name) {
     const auto entries = elementsOf<MdbCatalogEntry>(*handle.catalog);
     const auto has_name = [&](const MdbCatalogEntry* entry) {
@@ -71,7 +71,7 @@ MdbCatalogEntry* findEntry(const MdbHandle& handle, const std::string& name) {
     return *found;
 }
 
-/// The bytes of the row that was fetched last.
+/// Position of the row that was fetched last.
 struct RowExtent {
     int start = 0;
     std::size_t length = 0;
@@ -95,8 +95,7 @@ RowExtent lastRow(const MdbTableDef& table, MdbHandle& handle, int fields_ever) 
     return row;
 }
 
-/// The library takes a Decimal's precision for its scale and the other way round; the scale is never the
-/// larger.
+/// The library swaps a Decimal's precision and scale; the scale is never the larger of the two.
 int decimalsOf(const MdbColumn& column) {
     return std::min(column.col_scale, column.col_prec);
 }
@@ -108,7 +107,8 @@ StationTable::Value valueOf(const Field& field, const RowExtent& row, const MdbH
         return std::nullopt;
     }
     if (start < row.start || length < 0 ||
-        std::cmp_greater_equal(start - row.start + length, row.length)) {  // flags of the fields end a row
+        std::cmp_greater_equal(start - row.start + length,
+                               row.length)) {  // a row ends with the flags of the fields
         failRead(std::string("a value lies outside its row: ") + field.column->name);
     }
     const std::span page(std::as_const(handle.pg_buf));

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// One table of a Jet database file, read whole or not at all.
-/// Catalog and rows; the fields have a file of their own.
+/// Reads one table of a Jet database file, complete or not at all.
 #pragma once
 
 #include <string>
@@ -9,10 +8,10 @@
 
 namespace mero::rain {
 
-/// Reads a table, its name in any case, and whether the file has the table `Demo`.
+/// Reads a table (its name in upper or lower case), and whether the file has the table `Demo`.
 ///
-/// What a sound file cannot hold is a failed read: another number of rows than the table's header promises,
-/// two tables of one name or at one place, fields that overlap, rows on a page of another table.
+/// The read fails when the file is damaged: the number of rows differs from the table's header, two tables
+/// have one name or position, fields overlap, a row is on a page of another table.
 /// @throws TableError CannotOpen, TableMissing or ReadFailed
 [[nodiscard]] data::StationTable readTable(const std::string& path, const std::string& table_name);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Little-endian bytes to numbers, one small function per family of types.
-/// A text is a number when the program's own fields would take it as one.
+/// Converts little-endian bytes to numbers, with one small function per family of types.
+/// A text is a number when the program's fields accept it as one.
 #include "app/rain/jet_value.h"
 
 #include <algorithm>
@@ -78,7 +78,7 @@ std::optional<double> wideTextNumber(std::span<const std::uint8_t> bytes) {
     }
     std::string text;
     for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
-        if (bytes[at + 1] != 0) {  // no digit, sign or point lies there
+        if (bytes[at + 1] != 0) {  // not a digit, sign or point
             return std::nullopt;
         }
         text += static_cast<char>(bytes[at]);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Resource limits and redirections by POSIX calls.
-/// A limit that cannot be set is left: the parent's time limit and checks hold in any case.
+/// Sets resource limits and redirections with POSIX calls.
+/// A limit that cannot be set is skipped: the parent's time limit and checks still apply.
 #include "app/rain/limits.h"
 
 #include <fcntl.h>
@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kFirstFreeDescriptor = STDERR_FILENO + 1;
 constexpr rlim_t kProcessorSeconds = 2;
-// The library itself takes a few MiB; a damaged length field asks for gigabytes.
+// The library needs a few MiB; a damaged length field makes it request gigabytes.
 constexpr rlim_t kMemoryBytes = 128U << 20U;
 #ifdef MERO_SANITIZED
 constexpr bool kLimitsMemory = false;

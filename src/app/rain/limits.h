@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
-/// Limits and surroundings of the reader, set before the database library sees a byte.
-/// The library crashes or never ends on some damaged files; here that costs little.
+/// Sets limits and the environment of the reader before the database library is used.
+/// The library crashes or never ends on some damaged files; the limits keep that harmless.
 #pragma once
 
 namespace mero::rain {
 
-/// Bounds memory and processor time, writes no core file, and clears the variables that change the library's
-/// answers.
+/// Limits memory and processor time, disables core files, and clears the environment variables that change
+/// the library's results.
 void setLimits();
 
-/// The former standard streams, as descriptors; -1 when there is none.
+/// Descriptors of the original standard streams; -1 for a missing one.
 struct Streams {
     int output;
     int errors;
 };
 
-/// Keeps the standard streams for the caller alone: what the library prints there, millions of lines for some
-/// damaged files, goes to /dev/null.
+/// Moves the standard streams to new descriptors for the caller. Output of the library, millions of lines for
+/// some damaged files, then goes to /dev/null.
 [[nodiscard]] Streams takeStandardStreams();
 
 }  // namespace mero::rain

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// mero-rain FILE TABLE: prints one table of the rain database as the lines of data/rain_protocol.h.
-/// All of the text comes at once, at the end; a failure prints nothing but its reason on standard error.
+/// The text is printed at once, at the end; a failure prints only its reason, on standard error.
 #include <unistd.h>
 
 #include <cerrno>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Why there is no table, with the exit status that tells the caller.
-/// The text is for who runs the reader by hand.
+/// Why a table could not be read, with the exit status for the caller.
+/// The text is for a person who runs the reader by hand.
 #pragma once
 
 #include <stdexcept>

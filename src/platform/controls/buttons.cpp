@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// When the handlers of option buttons and check boxes run.
-/// The state is complete before the handler runs, because the handler may set it again.
+/// Runs the handlers of option buttons and check boxes.
+/// The state is updated before the handler runs, because the handler may change it again.
 #include "platform/controls/buttons.h"
 
 namespace mero::platform {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Buttons of all sorts: push button, option button of a group, check box, and the up-down control.
-/// When their click handlers run is a contract that the forms rely on.
+/// Push button, label, option button of a group, check box and up-down control.
+/// The forms rely on when the click handlers run, as stated at each class.
 #pragma once
 
 #include <functional>
@@ -13,7 +13,7 @@
 
 namespace mero::platform {
 
-/// Anything with a caption.
+/// A control with a caption.
 class Captioned : public Control {
   public:
     Captioned(Control& container, std::string name, std::string caption)

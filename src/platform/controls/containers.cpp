@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Tab control and its pages.
-/// The pages are controls of their own, so that what lies on them knows whether it is on screen.
+/// Pages are controls too, so that a control on a page knows whether it is on screen.
 #include "platform/controls/containers.h"
 
 #include "platform/numbers/number_text.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What holds other controls: frame, panel, tab control with its pages, and the two views of documents.
+/// Containers of other controls (frame, panel, tab control with its pages) and the document view.
 /// A control on a tab page that is not the current one is not on screen.
 #pragma once
 
@@ -80,7 +80,7 @@ class BrowserView : public Control {
 
     /// Full path of the document shown, empty before the first.
     [[nodiscard]] const std::string& path() const { return path_; }
-    /// Sends the view to a local file, also to one that does not exist (the view then says so).
+    /// Sends the view to a local file. For a file that does not exist the view shows a note.
     void navigate(const std::string& path) {
         path_ = path;
         notify(Aspect::Path);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What all controls share: their place in the form and the notification of observers.
-/// A control registers itself with its form, so that it can be found by its name.
+/// Registers controls with their form, so that they are found by name, and notifies observers.
 #include "platform/controls/control.h"
 
 #include <utility>

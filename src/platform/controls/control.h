@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A control of a form without any window system: a name, a container, whether it is enabled and visible.
-/// Observers (a widget, a test) are told what changed before the form's handler runs.
+/// Base class of a form's controls, independent of any window system: name, container, enabled, visible.
+/// Observers (a widget, a test) are notified of a change before the form's handler runs.
 #pragma once
 
 #include <functional>
@@ -11,23 +11,23 @@ namespace mero::platform {
 
 class Form;
 
-/// What of a control changed.
+/// The property of a control that changed.
 enum class Aspect {
     Text,  ///< caption or content
     Enabled,
     Visible,
-    Colour,  ///< background set by the program
+    Colour,  ///< background
     Checked,
     Items,     ///< entries of a list
     Position,  ///< selected entry, tab
     Cells,     ///< texts or marks of a grid
     CurrentCell,
-    Place,  ///< where code put a panel or an editor
+    Place,  ///< position of a panel or an editor, set by code
     Path,   ///< document of a browser view
-    Focus,  ///< code asks for the input focus
+    Focus,  ///< code requests the input focus
 };
 
-/// Base of every control. It belongs to one form for its whole life and is neither copied nor moved.
+/// Base of every control. It belongs to one form for its whole lifetime and is neither copied nor moved.
 class Control {
   public:
     Control(Control& container, std::string name);
@@ -37,10 +37,10 @@ class Control {
     Control(Control&&) = delete;
     Control& operator=(Control&&) = delete;
 
-    /// Name within the form, members of an array with their index: `txtVsakPlocha(3)`.
+    /// Name within the form; members of an array have their index in it: `txtVsakPlocha(3)`.
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] Form& form() const { return *form_; }
-    /// What holds this control: a panel, a tab page, the form. Null for a form.
+    /// The panel, tab page or form that contains this control. Null for a form.
     [[nodiscard]] Control* container() const { return container_; }
 
     [[nodiscard]] bool enabled() const { return enabled_; }
@@ -50,12 +50,12 @@ class Control {
     void show() { setVisible(true); }
     void hide() { setVisible(false); }
 
-    /// True when the control and everything that holds it is shown.
+    /// True when the control and all its containers are shown.
     [[nodiscard]] bool onScreen() const;
-    /// True when the control and everything that holds it is enabled.
+    /// True when the control and all its containers are enabled.
     [[nodiscard]] bool reachable() const;
 
-    /// Code asks for the input focus.
+    /// Requests the input focus (called by code).
     void setFocus() { notify(Aspect::Focus); }
 
     using Observer = std::function<void(Aspect)>;
@@ -65,7 +65,7 @@ class Control {
     /// A form: no container, it is its own form.
     Control(Form& self, std::string name, bool visible);
     void notify(Aspect aspect) const;
-    /// Whether what this control holds is shown while the control itself is (a tab page: only the current).
+    /// Whether the content of this container is shown (of the tab pages: only the current one's).
     [[nodiscard]] virtual bool showsContent() const { return visible_; }
 
   private:

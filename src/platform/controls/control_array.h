@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// An array of controls: members of one name told apart by an index, which need not start at 0.
-/// One handler serves all members and is given the member's index.
+/// An array of controls: members share a name and differ by an index, which need not start at 0.
+/// One handler serves all members and receives the member's index.
 #pragma once
 
 #include <initializer_list>
@@ -21,7 +21,7 @@ class ControlArray {
   public:
     explicit ControlArray(std::string name) : name_(std::move(name)) {}
 
-    /// Adds the member of that index; the further arguments are those of the control's constructor.
+    /// Adds the member with that index; the other arguments go to the control's constructor.
     template <typename... Arguments>
     T& add(int index, Control& container, Arguments&&... arguments) {
         auto member = std::make_unique<T>(container, name_ + "(" + numbers::general(index) + ")",
@@ -29,7 +29,7 @@ class ControlArray {
         return *members_.emplace(index, std::move(member)).first->second;
     }
 
-    /// @throws RuntimeError SubscriptOutOfRange when there is no member of that index
+    /// @throws RuntimeError SubscriptOutOfRange when there is no member with that index
     [[nodiscard]] T& operator[](int index) const {
         const auto found = members_.find(index);
         if (found == members_.end()) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Entries and selection of the drop-down list.
-/// Selecting the entry that is selected already runs the handler again.
+/// Selecting the selected entry runs the handler again.
 #include "platform/controls/drop_list.h"
 
 #include <algorithm>

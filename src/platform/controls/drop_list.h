@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A drop-down list of texts of which one or none is selected.
+/// A drop-down list of texts with at most one selected.
 /// Its click handler runs whenever an entry is selected, by position or by text, by the user or by code.
 #pragma once
 
@@ -23,12 +23,12 @@ class DropList : public Control {
     /// Text of the selected entry, empty for none.
     [[nodiscard]] std::string text() const;
 
-    /// Empties the list; nothing is selected then and no handler runs.
+    /// Empties the list and the selection; no handler runs.
     void clear();
     void add(std::string item);
     /// Selects by position. @throws RuntimeError SubscriptOutOfRange outside the list
     void select(int position);
-    /// Selects the entry with that text; a text that is not in the list selects nothing and runs nothing.
+    /// Selects the entry with that text. A text that is not in the list selects nothing and runs no handler.
     void selectText(std::string_view text);
     /// Position of the entry with that text, -1 for none.
     [[nodiscard]] int find(std::string_view text) const;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Finding controls by name.
-/// A linear search does: only scripts and tests ask by name.
+/// Finds controls by name.
+/// A linear search is fast enough: only scripts and tests look controls up.
 #include "platform/controls/form.h"
 
 #include <algorithm>

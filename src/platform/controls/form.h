@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A form: the window that holds named controls.
-/// It is created hidden, loads when it is first shown, and forgets its controls' states when it is closed.
+/// A form: a window with named controls.
+/// It is created hidden, loads when it is first shown, and discards its controls' states when it is closed.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@ class Form : public Control {
     [[nodiscard]] const std::string& title() const { return title_; }
     /// All controls in the order of their creation.
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
-    /// The control of that name (`txtHPV`, `cmdEdit(0)`), null when the form has none.
+    /// The control with that name (`txtHPV`, `cmdEdit(0)`), null when the form has none.
     [[nodiscard]] Control* find(std::string_view name) const;
 
     /// The user clicks the form's close box.

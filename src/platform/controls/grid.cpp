@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Building and clicking a grid.
+/// Builds a grid and handles clicks on it.
 /// A rebuilt grid has no pictures, and its current cell is the first one.
 #include "platform/controls/grid.h"
 

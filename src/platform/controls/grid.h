@@ -16,7 +16,7 @@ namespace mero::platform {
 
 enum class Alignment { Left, Centre };
 
-/// A column as the header's format string and the form describe it.
+/// A column, from the header's format string and the form's widths.
 struct GridColumn {
     double width_fraction = 0;  ///< of the grid's width
     Alignment header = Alignment::Left;
@@ -55,7 +55,7 @@ class Grid : public Control {
     [[nodiscard]] std::optional<bool> mark(GridCell cell) const;
     void setMark(GridCell cell, std::optional<bool> marked);
 
-    /// The current cell, and the cell under the mouse at the last click.
+    /// The current cell, and the cell that was clicked last.
     [[nodiscard]] GridCell current() const { return current_; }
     [[nodiscard]] GridCell mouse() const { return mouse_; }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The text box's events.
-/// Handlers run at once and may assign the text again: nothing here is touched after a handler ran.
+/// Events of the text box.
+/// A handler runs at once and may assign the text again, so no member is used after calling one.
 #include "platform/controls/text_box.h"
 
 namespace mero::platform {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// A text box: single or multi-line, its change handler runs at every assignment by code,
-/// and by the user whenever the text really changes.
+/// A text box, single or multi-line. Its change handler runs at every assignment by code, and when the user
+/// really changes the text.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@
 
 namespace mero::platform {
 
-/// Keys that handlers know, with their character codes.
+/// Keys that handlers respond to, with their character codes.
 enum class Key { Enter = 13, Escape = 27 };
 
 /// What of a text a box takes when a user enters it.
@@ -25,24 +25,25 @@ struct AcceptedText {
 
 class TextBox : public Control {
   public:
-    /// @param initial_text text that the field opens with; it does not run the change handler
+    /// @param initial_text text at the start; it does not run the change handler
     TextBox(Control& container, std::string name, std::string initial_text = "")
         : Control(container, std::move(name)), text_(std::move(initial_text)) {}
 
     [[nodiscard]] const std::string& text() const { return text_; }
-    /// Code assigns the text: the change handler runs, also when the text is the same.
+    /// Assigns the text (called by code). The change handler runs, also when the text is the same.
     void setText(std::string text);
-    /// Shows a text without running the change handler (the opening text of the cell editor).
+    /// Sets the text without running the change handler (first text of the cell editor).
     void showText(std::string text);
-    /// The user makes the text `text`: the change handler runs when it differs. Line breaks become "\r\n";
-    /// a single-line box takes no control characters.
+    /// The user changes the text to `text`: the change handler runs when it differs. Line breaks become
+    /// "\r\n"; a single-line box drops control characters.
     void userEdit(const std::string& text);
+    /// The text that the box stores when a user enters `text`.
     [[nodiscard]] std::string accepted(const std::string& text) const {
         return acceptedText(text, multi_line_).text;
     }
 
     [[nodiscard]] bool multiLine() const { return multi_line_; }
-    /// Set while the form is built.
+    /// Called while the form is built.
     void setMultiLine(bool multi_line) { multi_line_ = multi_line; }
 
     [[nodiscard]] bool greyed() const { return greyed_; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The shortest digits as std::to_chars gives them, laid out as general() does.
-/// Both agree for every Single; a test holds them against each other.
+/// Writes the shortest digits of std::to_chars in the format of general().
+/// A test compares the results of both functions.
 #include "platform/numbers/append_number.h"
 
 #include <array>
@@ -15,7 +15,7 @@ namespace {
 constexpr int kSmallestPlainExponent = -5;
 constexpr int kLargestPlainExponent = 7;
 
-/// Shortest digits without the point, and the power of ten of the first.
+/// Shortest digits without the point, and the power of ten of the first digit.
 struct Digits {
     std::array<char, 16> buffer{};
     std::size_t count = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The general text of a number, written to the end of a text that is already there.
-/// For files of millions of numbers: no text of its own is made for each.
+/// Appends the general text of a number to a text.
+/// For files of millions of numbers: it allocates no string for each number.
 #pragma once
 
 #include <string>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Checked arithmetic: the only places where a division by zero, an overflow or a root can go wrong.
-/// What would be inf or nan is a RuntimeError here, so that neither ever reaches a stored value or a field.
+/// Checked arithmetic: divisions, roots and stores that can fail.
+/// A result of inf or nan throws a RuntimeError, so neither ever reaches a stored value or a field.
 #pragma once
 
 #include <cmath>
@@ -24,7 +24,7 @@ namespace mero::numbers {
 /// dividend / divisor.
 /// @throws RuntimeError DivisionByZero when the divisor is 0, Overflow when the quotient is not finite
 [[nodiscard]] inline double divide(double dividend, double divisor) {
-    // One test for the usual case: whatever goes wrong gives a quotient that is not finite.
+    // One test in the usual case: every error gives a quotient that is not finite.
     const double quotient = dividend / divisor;
     if (!std::isfinite(quotient)) {
         throw RuntimeError(divisor == 0.0 ? ErrorNumber::DivisionByZero : ErrorNumber::Overflow);
@@ -32,8 +32,8 @@ namespace mero::numbers {
     return quotient;
 }
 
-/// dividend / divisor for products of a few Singles: these stay so far inside the range of a double that the
-/// quotient cannot overflow, and only a zero divisor has to be looked for (in the innermost loops).
+/// dividend / divisor for products of a few Singles, in the innermost loops. Such products stay so far inside
+/// the range of a double that the quotient cannot overflow, so only a zero divisor is checked.
 /// @throws RuntimeError DivisionByZero when the divisor is 0
 [[nodiscard]] inline double divideOfSingles(double dividend, double divisor) {
     if (divisor == 0.0) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Texts of numbers over std::from_chars and std::to_chars, which no locale touches.
-/// One scanner knows what a number looks like; one digit string is rounded as on paper.
+/// Converts numbers and texts with std::from_chars and std::to_chars, which ignore the locale.
+/// One scanner recognises numbers; one digit string is rounded in decimal.
 #include "platform/numbers/number_text.h"
 
 #include <algorithm>
@@ -28,7 +28,7 @@ struct ScannedNumber {
     bool found{};
     bool negative = false;
     std::string digits;    ///< "12.5e-3"
-    std::size_t length{};  ///< characters of the text that it takes, leading blanks included
+    std::size_t length{};  ///< number of characters read, with leading blanks
 };
 
 std::size_t scanIntegerPart(std::string_view text, std::size_t at, Grouping grouping, std::string& digits) {
@@ -92,9 +92,10 @@ ScannedNumber scan(std::string_view text, Grouping grouping) {
     return number;
 }
 
-/// std::from_chars reports a value too small for the type as it reports one too large; only the latter is
-/// an overflow here. The power of ten tells them apart. It may be wrong by one: whatever is out of range is
-/// dozens of powers away from 1. One digit at least is not 0, for zeros are in range with any exponent.
+/// std::from_chars gives the same error for a value too small for the type and for one too large; only the
+/// latter is an overflow here. The power of ten distinguishes them. It may be off by one, because values out
+/// of range are dozens of powers away from 1. At least one digit is not 0: zeros are in range with any
+/// exponent.
 bool isBelowOne(std::string_view digits) {
     const std::size_t exponent_at = std::min(digits.find('e'), digits.size());
     const std::string_view mantissa = digits.substr(0, exponent_at);
@@ -172,7 +173,7 @@ struct Decimal {
 
 template <typename Real>
 Decimal shortestDecimal(Real value) {
-    // Nothing that is stored or shown is inf or nan; whoever gets here with one has left out a check.
+    // Nothing that is stored or shown is inf or nan: a caller that passes one lacks a check.
     if (!std::isfinite(value)) {
         throw RuntimeError(ErrorNumber::Overflow);
     }
@@ -199,7 +200,7 @@ std::string exponentText(int exponent) {
     return std::string(exponent < 0 ? "E-" : "E+") + (digits.size() < 2 ? "0" : "") + digits;
 }
 
-/// Integer digits and fraction digits of a decimal, zeros filled in on both sides of the point.
+/// Integer digits and fraction digits of a decimal, filled with zeros on both sides of the point.
 struct PlainDigits {
     std::string integer;
     std::string fraction;

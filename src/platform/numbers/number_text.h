@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Texts of numbers: every conversion between a text and a number goes through here.
-/// Point as decimal separator, blank as digit grouping, whatever the machine's locale says.
+/// Texts of numbers: every conversion between a text and a number goes through these functions.
+/// Point as decimal separator, blank as digit grouping, whatever the machine's locale.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Switching the C library's number texts.
+/// Sets the numeric category of the C library's locale.
 #include "platform/numbers/numeric_locale.h"
 
 #include <clocale>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-/// The C library's own number texts, for libraries that use it: always with a decimal point.
+/// Keeps the decimal point in number texts of the C library, for libraries that use it.
 #pragma once
 
 namespace mero::numbers {
 
-/// Sets the numeric category of the C library's locale to "C". To be called again after anything that takes
-/// the user's locale over for the process, such as creating the window system's application object.
+/// Sets the numeric category of the C library's locale to "C". Call it again after anything that sets the
+/// process's locale to the user's, such as creating Qt's application object.
 void useNumericCLocale();
 
 }  // namespace mero::numbers

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Descriptions of the run-time errors.
-/// One Czech sentence each, without a full stop, so that they fit into longer messages.
+/// One Czech sentence each, without a full stop, to fit into longer messages.
 #include "platform/numbers/runtime_error.h"
 
 namespace mero {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Run-time errors of the program: a number and a description, thrown by conversions and arithmetic.
-/// What no handler traps reaches the place where events enter and is reported there.
+/// An error that no handler catches is reported where events enter the program.
 #pragma once
 
 #include <stdexcept>
@@ -8,9 +8,9 @@
 
 namespace mero {
 
-/// The numbers are part of the program's contract: they are shown to the user and stand in the trace.
+/// The numbers are a fixed interface: they are shown to the user and written to the trace.
 enum class ErrorNumber {
-    InvalidCall = 5,  ///< a function was given a value outside its range (root of a negative number)
+    InvalidCall = 5,  ///< an argument is outside the function's range (root of a negative number)
     Overflow = 6,     ///< a value does not fit the type that stores it
     SubscriptOutOfRange = 9,
     DivisionByZero = 11,
@@ -28,7 +28,7 @@ class RuntimeError : public std::runtime_error {
 
     /// An error with the standard description of its number.
     explicit RuntimeError(ErrorNumber error);
-    /// An error with a description of its own, e.g. one that names a file and a table.
+    /// An error with a special description, e.g. one that names a file and a table.
     RuntimeError(int error_number, const std::string& description, Effect effect = Effect::AbandonsEvent);
 
     [[nodiscard]] int number() const { return number_; }

@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# The command line of mero-batch: exit status, and what goes to which output.
+# The command line of mero-batch: exit status, standard output and standard error.
 # Use: command_line_test.sh MERO_BATCH SOURCE_FOLDER
 batch=$1
 source=$2
@@ -9,7 +9,7 @@ trap 'rm -rf "$scratch"' EXIT
 mkdir "$scratch/folder"
 failures=0
 
-# check NAME STATUS OUT ERR: the last run's status, standard output, and a text that standard error holds.
+# check NAME STATUS OUT ERR: the last run's status, standard output, and a text that standard error contains.
 check() {
     if [ "$status" -ne "$2" ]; then
         echo "$1: status $status, not $2"
@@ -32,7 +32,7 @@ run() {
     "$batch" "$@" >"$scratch/out" 2>"$scratch/err" </dev/null
     status=$?
 }
-# follow TEXT [OPTIONS]: the script's text in a file of its own.
+# follow TEXT [OPTIONS]: runs a script file with the text.
 follow() {
     printf '%b' "$1" >"$scratch/a b.mero"
     shift
@@ -82,7 +82,7 @@ printf 'jump\n' | "$batch" run --folder "$scratch/folder" - >"$scratch/out" 2>"$
 status=$?
 check "unusable standard input" 2 "" "-:1: "
 
-# A whole example, from another folder, with the program's folder named relatively.
+# A whole example, from another folder, with a relative path of the program's folder.
 cp -r "$source/Webs" "$source/data/mero.mdb" "$scratch/folder"
 (cd "$scratch" && "$batch" run --folder folder "$source/examples/plosne-vsakovani.mero" >out 2>err)
 status=$?

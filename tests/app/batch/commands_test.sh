@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# The commands on projects as a user calls them: outputs, exit statuses, what is left on the disk.
+# The commands on projects as a user calls them: outputs, exit statuses, files on the disk.
 # Use: commands_test.sh MERO_BATCH SOURCE_FOLDER
 set -u
 
@@ -20,7 +20,7 @@ fail() {
     failures=$((failures + 1))
 }
 
-# expect STATUS NAME COMMAND...: runs with the program's folder of this test; output in out, errors in err.
+# expect STATUS NAME COMMAND...: runs the command; its output is in the file out, its errors are in err.
 expect() {
     wanted=$1
     name=$2
@@ -58,14 +58,14 @@ expect 0 "surface" "$batch" design --folder folder "$projects/plosne-vsakovani.j
 holds out "1 015.7 m²" "surface"   # 990 / (1e-4 * 1e7 / (2 * 253.2) - 1) = 1015.67...
 holds err "demonstration values" "surface"
 
-# The report is the window's, byte for byte.
+# The report has the same bytes as the window's.
 moment=2026-11-20T14:05:09
 expect 0 "script" "$batch" run --folder folder --clock $moment "$source/examples/plosne-vsakovani.mero"
 expect 0 "report" "$batch" design --folder folder --clock $moment --report report.html \
     "$projects/plosne-vsakovani.json"
 cmp report.html "folder/Mero_Plošné vsakování" || fail "the reports differ"
 
-# Mistakes in the project: status 2, one line that names file and path, nothing written.
+# Errors in the project: status 2, one line that names file and path, nothing written.
 sed 's/"trench_width_m"/"trench_widht_m"/' "$projects/ryha-s-drenem.json" >wrong.json
 expect 2 "unknown name" "$batch" design --folder folder --report none.html wrong.json
 holds err "wrong.json: facility.trench_widht_m: is not a known name; did you mean \"trench_width_m\"?" "unknown name"
@@ -116,7 +116,7 @@ assert [row[2] for row in rows[1:5]] == ["Brno", "Zlín", "Brno", "Zlín"]
 assert open("rows.csv", "rb").read().count(b"\r\n") == len(rows)
 PYTHON
 
-# A plot is a picture of its own. Each line is there twice: in the plot and in the legend.
+# A plot is a separate file. Each line is there twice: in the plot and in the legend.
 expect 0 "plot" "$batch" sweep "$projects/ryha-s-drenem.json" --folder folder --plot p.svg \
     --vary facility.trench_width_m=0.6:2.0:0.1 --vary rain.periodicity=0.5,0.2,0.1
 [ ! -s out ] || fail "rows beside a plot that nobody asked for"
@@ -125,7 +125,7 @@ python3 -c 'import xml.dom.minidom as d; s = d.parse("p.svg"); assert len(s.getE
 expect 2 "plot of no number" "$batch" sweep "$all" --folder folder --plot none.svg --vary facility.soil=all
 [ ! -e none.svg ] || fail "a plot of nothing"
 
-# What is drawn can be chosen; a plot goes beside the rows when both are wanted.
+# The plotted result can be chosen; rows and a plot can be written together.
 expect 0 "chosen plot" "$batch" sweep "$projects/ryha-s-drenem.json" --folder folder --plot chosen.svg --out chosen.csv \
     --vary facility.trench_width_m=0.6,1,1.4 --vary facility.trench_height_m=1,2 --vary rain.periodicity=0.5,0.2 \
     --plot-result infiltration_area_m2 --plot-over facility.trench_height_m --plot-lines facility.trench_width_m
@@ -140,7 +140,7 @@ holds err "volume: is no result" "no such result"
 expect 1 "plot in no folder" "$batch" sweep "$projects/nadrz.json" --folder folder --plot nowhere/p.svg \
     --vary facility.safety_factor=1,2
 
-# Without a folder the database beside the program is taken.
+# Without a folder the database beside the program is used.
 expect 0 "the program's own folder" "$batch" design "$projects/plosne-vsakovani.json"
 holds out "1 015.7 m²" "the program's own folder"
 

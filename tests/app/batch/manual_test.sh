@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# The manual page against a checker of such pages, and against the help of the commands.
+# Checks the manual page with a checker of such pages and compares it with the commands' help.
 # Use: manual_test.sh MERO_BATCH PAGE
 set -u
 

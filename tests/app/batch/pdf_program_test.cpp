@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// What becomes of a PDF file when the window program makes it, fails, is broken or is not there.
+/// The PDF file when the window program makes it, fails, is broken or is missing.
 #include "app/batch/pdf_program.h"
 
 #include <gtest/gtest.h>

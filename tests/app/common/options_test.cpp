@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The shared options: what they hold, and which arguments are refused.
+// The shared options: their values, and which arguments are refused.
 #include "app/common/options.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's folder: beside the executable where that holds the pages, else the user's own.
+// The program's folder: that of the executable if it has the pages, else the user's data folder.
 #include "app/common/program_folder.h"
 
 #include <gmock/gmock.h>
@@ -66,7 +66,7 @@ TEST(ProgramFolder, WithoutADataHomeItIsBelowTheHome) {
     }
 }
 
-/// Data as an installation puts them; gone after the test, also where they were made read-only.
+/// Installed data; removed after the test, also where they were made read-only.
 class InstalledData {
   public:
     explicit InstalledData(std::filesystem::path folder) : folder_(std::move(folder)) {
@@ -143,7 +143,7 @@ TEST(ProgramFolder, OnlyWhatTheProgramReadsIsCopiedAndNothingElseIsLeft) {
                                                      "mero/Webs/Desc_soubory/logo.gif"));
 }
 
-// As on a medium that is read-only by nature: the copies' folders and files are the user's all the same.
+// As on a read-only medium: the user can still write the copied folders and files.
 TEST(ProgramFolder, CopiesOfReadOnlyDataCanBeReplaced) {
     const InstalledData installed(installedFolder());
     using std::filesystem::perms;
@@ -158,7 +158,7 @@ TEST(ProgramFolder, CopiesOfReadOnlyDataCanBeReplaced) {
     }
 }
 
-// A file stands where a folder must be: the start goes on with what could be copied.
+// A file is in the place of a folder: the start goes on with the data that could be copied.
 TEST(ProgramFolder, WhatCannotBeCopiedIsLeftOut) {
     const InstalledData installed(installedFolder());
     const test::TemporaryFolder home;

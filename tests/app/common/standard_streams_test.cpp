@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Closed standard streams: what is opened next does not get into their place.
+// Closed standard streams: files opened later do not get their descriptors.
 #include "app/common/standard_streams.h"
 
 #include <fcntl.h>
@@ -11,7 +11,7 @@
 namespace mero::app {
 namespace {
 
-/// What comes of it in a process of its own, whose streams may be closed.
+/// Result of an action in a separate process, whose streams may be closed.
 template <typename Action>
 int inAProcess(Action action) {
     return test::unprivileged(action);

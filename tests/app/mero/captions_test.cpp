@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// No caption is cut and nothing lies over anything else: in small and large windows, with small and large
-/// fonts. A scaled screen is a smaller one to the program, so sizes of the window stand for scales too.
+/// No caption is cut and no widgets overlap, in small and large windows, with small and large fonts.
+/// To the program a scaled screen is a smaller one, so the window's sizes cover scales too.
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLayout>
@@ -18,14 +18,14 @@ namespace {
 struct Look {
     const char* name;
     QSize window;
-    double font;  ///< times the ordinary font
+    double font;  ///< factor of the default font size
 };
 
 void PrintTo(const Look& look, std::ostream* out) {
     *out << look.name;
 }
 
-/// The program's font for the test; it goes before the window is built, which is when it is first shown.
+/// Sets the program's font for the test, before the window is built (when it is first shown).
 class Captions : public MainWindow, public testing::WithParamInterface<Look> {
   protected:
     void SetUp() override {
@@ -36,7 +36,7 @@ class Captions : public MainWindow, public testing::WithParamInterface<Look> {
     }
     void TearDown() override { QApplication::setFont(font_before); }
 
-    /// Everything that shows in a window, at the size of this look.
+    /// Checks all visible widgets of a window at the size of this look.
     void expectAllToBeSeen(const char* state, QWidget& shown_window) {
         SCOPED_TRACE(state);
         shown_window.resize(
@@ -59,7 +59,7 @@ class Captions : public MainWindow, public testing::WithParamInterface<Look> {
         return rects;
     }
 
-    /// Waits until the layouts have come to rest: one of them can start another.
+    /// Waits until the layouts are stable: one of them can trigger another.
     static void settle(const QWidget& shown_window) {
         constexpr int kRoundMs = 10;
         constexpr int kMostRounds = 100;
@@ -135,7 +135,7 @@ class Captions : public MainWindow, public testing::WithParamInterface<Look> {
         }
     }
 
-    /// Widgets that lie beside each other in one holder do not overlap.
+    /// Checks that the visible children of a widget do not overlap.
     static void expectNothingOver(const QWidget& widget) {
         const QWidget* holder = widget.parentWidget();
         if (holder == nullptr || holder->layout() == nullptr || holder->layout()->indexOf(&widget) < 0) {

@@ -1,20 +1,20 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# The command line of mero: what it prints and refuses before a window opens.
+# The command line of mero: output and refused arguments before a window opens.
 # Use: command_line_test.sh MERO
 mero=$1
 scratch=$(mktemp -d) || exit 1
 trap 'rm -rf "$scratch"' EXIT
 failures=0
 
-# check NAME STATUS OUT ERR ARGUMENT...: exit status, and what standard output and standard error hold ("" for nothing).
+# check NAME STATUS OUT ERR ARGUMENT...: exit status, and texts in standard output and standard error ("" for none).
 check() {
     name=$1
     wanted=$2
     out=$3
     err=$4
     shift 4
-    # Without a display: whoever opens a window here fails.
+    # Without a display: opening a window would fail.
     env -u DISPLAY -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR="$scratch" "$mero" "$@" >"$scratch/out" 2>"$scratch/err" </dev/null
     status=$?
     if [ "$status" -ne "$wanted" ]; then

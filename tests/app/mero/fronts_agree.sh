@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# The window and the program without one print the same trace and end with the same status, script by script.
+# Compares the window and the program without a window, script by script: same trace, same exit status.
 # Use: fronts_agree.sh MERO MERO_BATCH PROJECT_ROOT
 set -euo pipefail
 
@@ -11,7 +11,7 @@ failures=0
 
 for script in "$root"/examples/*.mero "$root"/tests/app/mero/scripts/*.mero; do
     for front in batch window; do
-        # Each run has a folder of its own, under the same name, so that paths in the trace are the same.
+        # Each run has a new folder of the same name, so that paths in the trace are equal.
         mkdir "$work/folder"
         cp "$root/data/mero.mdb" "$work/folder"
         cp -r "$root/Webs" "$work/folder"

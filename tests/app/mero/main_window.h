@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The whole main window over a program without files, worked by a script's hands or by a person's.
+/// The whole main window with a program without files, driven by a script or by a person's events.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -70,7 +70,7 @@ class MainWindow : public testing::Test {
              "click cmdEdit(2)", "close frmCoefDialog", "tab 1", "click optSelType(0)", "select cboSelType 4",
              "tab 2", "tab 3", "tab 0"});
     }
-    /// All captions that stand in labels, buttons and frames, line breaks taken out.
+    /// All captions of labels, buttons and frames, without line breaks.
     [[nodiscard]] std::vector<std::string> captions() const {
         std::vector<std::string> texts;
         for (const auto* label : window.findChildren<QLabel*>()) {
@@ -84,7 +84,7 @@ class MainWindow : public testing::Test {
         }
         return texts;
     }
-    /// A caption without the mark of its letter.
+    /// A caption without its mnemonic mark.
     [[nodiscard]] static std::string unmarked(QString caption) {
         return qt::stored(caption.replace("&&", "\1").remove('&').replace('\1', "&"));
     }

@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# The window program's manual page against a checker of such pages, and against the program's help.
+# Checks the window program's manual page with a checker of such pages and compares it with the program's help.
 # Use: manual_test.sh MERO PAGE
 set -u
 
@@ -14,7 +14,7 @@ for option in $options; do
     expect_in_page "$option"
 done
 
-# Arguments that cannot be used are told in one line, before anything is shown.
+# Unusable arguments are reported in one line, before anything is shown.
 told=$("$mero" --palette blue 2>&1)
 status=$?
 [ $status -eq 2 ] || fail "an unknown palette exits with $status"

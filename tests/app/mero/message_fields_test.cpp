@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// After a message the focus is in the field that it is about, and no handler has run for that.
+/// After a message the focus is in the field that it is about, and no handler has run because of that.
 #include <QLineEdit>
 #include <QTest>
 
@@ -21,7 +21,7 @@ class MessageFields : public MainWindow {
         window.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
-    /// A site with which each type can be chosen.
+    /// Enters a site with which each type can be chosen.
     void enterSite() {
         run({"click cmdEdit(1)", "cell frmDialog.fgSoucPovrchOdtok 8 3", "type frmDialog.txtPlocha 800",
              "key frmDialog.txtPlocha Enter", "click frmDialog.OKButton", "type txtSoucFiltrace 1e-4"});
@@ -172,7 +172,7 @@ TEST_F(MessageFields, NoHandlerRunsOnTheWay) {
     auto& line = widget<QLineEdit>("txtSoucFiltrace");
     line.setFocus();
     QTest::keyClicks(&line, "1.26e-4");
-    // Leaving the field by oneself would write "1.3E-04".
+    // A user who leaves the field would get "1.3E-04".
     close(VerdictId::DesignRainMissing);
     EXPECT_EQ(QApplication::focusWidget(), kit.find(program.window().cmdEdit[0]));
     EXPECT_EQ(line.text(), "1.26e-4");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The PDF file of a report, read back with another program, and under faults.
+/// The PDF file of a report: read with another program, and written under faults.
 #include "app/mero/pdf_file.h"
 
 #include <gmock/gmock.h>
@@ -29,7 +29,7 @@ class PdfFile : public testing::Test {
                   report::WriteResult::Written);
         return makePdfFile(folder.file("Mero_Test"), target, report::viewHtml);
     }
-    /// What a tool of the PDF world says of the file.
+    /// Output of a PDF tool for the file.
     [[nodiscard]] std::string told(const QString& tool, const QStringList& arguments) const {
         QProcess process;
         process.start(tool, arguments);

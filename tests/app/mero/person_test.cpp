@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// A person at the window: keys and clicks where they belong, focus as the window system gives it.
+/// A person at the window: keys and clicks are sent to the window, focus comes from the window system.
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QPushButton>
@@ -32,7 +32,7 @@ class Person : public MainWindow {
         click(widget<QPushButton>("cmdEdit(" + std::to_string(button) + ")"));
         ASSERT_TRUE(kit.find(dialog)->isVisible());
     }
-    /// The widget that has the focus of a dialog's window.
+    /// The widget with the focus in a dialog's window.
     QWidget* focused(const platform::Form& dialog) { return kit.find(dialog)->focusWidget(); }
     forms::frmDialog& area() { return program.window().areaDialog; }
     forms::frmIntDialog& rainDialog() { return program.window().intDialog; }

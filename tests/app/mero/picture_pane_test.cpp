@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pictures in the real window: one pair on each panel, following every change, never in the way of a
-// field.
+// The pictures in the real window: one pair on each panel, updated by every change, never covering a field.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -27,7 +26,7 @@ class PicturePaneTest : public MainWindow {
              "set txtSoucFiltrace 1e-4", "tab 1", "click optSelType(0)"});
     }
     void chooseTrench() { run({"select cboSelType 4", "set txtSirkaRyhy(4) 1", "set txtVyskaRyhy(4) 0.8"}); }
-    /// The one that is on screen.
+    /// The view that is on screen.
     qt::PictureView& shownView(const char* name) {
         QApplication::processEvents();
         qt::PictureView* found = nullptr;

@@ -75,7 +75,7 @@ TEST(PrintPreview, WithoutAPrinterThePagesArePrintedIntoAFile) {
             for (QAction* action : preview->findChildren<QAction*>()) {
                 if (action->text() == QLatin1String("Print")) {
                     asked = true;
-                    // Not from here: this timer would wait for the dialog's end.
+                    // Triggered later, because this timer's slot would block until the dialog's end.
                     QTimer::singleShot(0, action, &QAction::trigger);
                 }
             }

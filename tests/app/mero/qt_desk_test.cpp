@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The real desk: what its boxes say, and that a script is never kept waiting.
+/// The real desk: the content of its boxes, and that it never blocks a script.
 #include "app/mero/qt_desk.h"
 
 #include <gtest/gtest.h>
@@ -12,19 +12,21 @@
 #include <csignal>
 #include <filesystem>
 
+#include "support/message_box.h"
 #include "support/temporary_folder.h"
 
 namespace mero::app {
 namespace {
 
-using platform::Message;
-using platform::MessageIcon;
+using mero::test::critical;
+using mero::test::exclamation;
+using mero::test::messageOf;
 
 std::string plain(std::string_view bytes) {
     return std::string(bytes);
 }
 
-/// What a box showed before it was closed.
+/// Content of a box before it was closed.
 struct Seen {
     QString text;
     QString title;
@@ -32,7 +34,7 @@ struct Seen {
     int boxes = 0;
 };
 
-/// Closes the next box as a person would and tells what it showed.
+/// Closes the next box like a person and stores its content in `seen`.
 void closeNextBox(Seen& seen) {
     QTimer::singleShot(0, [&seen] {
         auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -46,7 +48,7 @@ TEST(RealDesk, ShowsIconTextAndTitle) {
     QtDesk desk(Sitter::Person, plain);
     Seen seen;
     closeNextBox(seen);
-    desk.showMessage({"Vyberte odtokový součinitel", MessageIcon::Exclamation, "Chyba"});
+    desk.showMessage(messageOf(exclamation("Vyberte odtokový součinitel", "Chyba")));
     EXPECT_EQ(seen.text, "Vyberte odtokový součinitel");
     EXPECT_EQ(seen.title, "Chyba");
     EXPECT_EQ(seen.icon, QMessageBox::Warning);
@@ -56,7 +58,7 @@ TEST(RealDesk, WithoutATitleTheApplicationsShows) {
     QtDesk desk(Sitter::Person, plain);
     Seen seen;
     closeNextBox(seen);
-    desk.showMessage({"a < b\r\nc\r\n", MessageIcon::Critical});
+    desk.showMessage(messageOf(critical("a < b\r\nc\r\n")));
     EXPECT_EQ(seen.title, "MERO");
     EXPECT_EQ(seen.text, "a < b\nc");
     EXPECT_EQ(seen.icon, QMessageBox::Critical);
@@ -75,10 +77,10 @@ TEST(RealDesk, ReportsErrorsWithNumberAndDescription) {
     EXPECT_EQ(seen.boxes, 2);
 }
 
-/// A search path with nothing on it but an opener of addresses, or not even that.
+/// A search path with only an opener of addresses, or without one.
 class OnlyOpener {
   public:
-    /// @param shell_script what the opener does; empty: there is none
+    /// @param shell_script the opener; empty: no opener
     explicit OnlyOpener(const std::string& shell_script) : path_before_(qgetenv("PATH")) {
         if (!shell_script.empty()) {
             folder_.write("xdg-open", "#!/bin/sh\n" + shell_script + "\n");
@@ -99,7 +101,7 @@ class OnlyOpener {
     test::TemporaryFolder folder_;
 };
 
-/// Opens an address and waits for a box; its text, empty when none came in that time.
+/// Opens an address and waits for a box. @return its text, empty when none appeared in time
 QString boxAfterOpening(int most_ms) {
     QtDesk desk(Sitter::Person, plain);
     QString text;
@@ -149,7 +151,7 @@ TEST(RealDesk, DoesNotWaitForABrowserThatRunsOn) {
     const OnlyOpener opener(R"(echo $$ >"${0%/*}/pid"; read line <>"${0%/*}/fifo")");
     ASSERT_EQ(mkfifo(opener.folder().file("fifo").c_str(), 0600), 0);
     EXPECT_EQ(boxAfterOpening(500), "");
-    // The desk is gone, the browser is not.
+    // The browser outlives the desk.
     const int browser = std::stoi(opener.folder().read("pid"));
     EXPECT_EQ(kill(browser, 0), 0);
     kill(browser, SIGKILL);
@@ -157,7 +159,7 @@ TEST(RealDesk, DoesNotWaitForABrowserThatRunsOn) {
 
 TEST(RealDesk, AnswersAScriptAtOnce) {
     QtDesk desk(Sitter::Script, plain);
-    desk.showMessage({"Zadejte dílčí plochu", MessageIcon::Exclamation, "Chyba"});
+    desk.showMessage(messageOf(exclamation("Zadejte dílčí plochu", "Chyba")));
     desk.openAddress("https://www.chmi.cz/");
     desk.openPrintPreview("/nonexistent");
     EXPECT_FALSE(desk.askSavePath("/tmp/x").has_value());

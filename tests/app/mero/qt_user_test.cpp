@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The script's hands on the whole main window: every control has its widget, and what people see is right.
+/// A script's actions on the whole main window: every control has its widget, and the widgets show its state.
 #include "app/mero/qt_user.h"
 
 #include <QTest>

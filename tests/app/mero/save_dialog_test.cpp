@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The save dialog: suffixes, filters, files that are there already.
+/// The save dialog: suffixes, filters, existing files.
 #include "app/mero/save_dialog.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +39,7 @@ class SaveDialog : public testing::Test {
   protected:
     void SetUp() override { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
-    /// Answers the modal windows one after another, each with the next of the acts.
+    /// Answers the modal windows in turn, each with the next of the acts.
     std::optional<QString> ask(std::vector<std::function<void(QWidget&)>> acts) {
         QTimer timer;
         timer.setInterval(30);
@@ -50,7 +50,7 @@ class SaveDialog : public testing::Test {
                 return;
             }
             if (next < acts.size()) {
-                // A question opens inside the act, and a timer does not run again inside its own slot.
+                // An act may open a question, and a timer does not fire inside its own slot.
                 answered_ = window;
                 QTimer::singleShot(0, window, [act = acts[next++], window] { act(*window); });
             } else {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The script's way to the runner: lines, the end, what stops it.
+/// Passing a script's lines to the runner: lines, the end, early stops.
 #include "app/mero/script_feed.h"
 
 #include <unistd.h>
@@ -42,7 +42,7 @@ TEST_F(Feed, StopsWhenTheProgramEnds) {
     EXPECT_THAT(trace.str(), testing::EndsWith("{\"ended\": true}\n"));
 }
 
-/// Puts a pipe in the place of standard input for as long as it lives.
+/// Replaces standard input by a pipe during this object's lifetime.
 class InputPipe {
   public:
     InputPipe() : saved_(dup(STDIN_FILENO)) {

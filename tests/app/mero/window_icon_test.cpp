@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's icon: there in every size that a desktop asks for, small ones undistorted.
+// The program's icon: available in every size that desktops request, small ones undistorted.
 #include "app/mero/window_icon.h"
 
 #include <gtest/gtest.h>

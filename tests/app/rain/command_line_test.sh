@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# The reader's own command line: exit statuses, and that nothing but a whole table reaches standard output.
+# The reader's command line: exit statuses, and only a complete table on standard output.
 set -u
 reader=$1
 database=$2
@@ -39,7 +39,7 @@ expect 3 "$work/text.mdb" List84
 expect 4 "$database" List93
 expect 4 "$database" ""
 
-# The library prints diagnostics when a page is missing; the header promises rows that are not there.
+# The library prints diagnostics when a page is missing; the header counts rows that are missing.
 head -c $((38 * 4096)) "$database" >"$work/cut.mdb"
 "$reader" "$work/cut.mdb" List84 >"$work/out" 2>/dev/null && { echo "a cut file was read"; failures=1; }
 [ -s "$work/out" ] && { echo "the library printed into the output"; failures=1; }

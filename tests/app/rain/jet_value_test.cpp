@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The bytes of stored values are the numbers that the database's own format says.
-/// Bytes written out by hand: IEEE 754 and little-endian integers.
+/// Numbers from the bytes of stored values.
+/// The bytes are written by hand: IEEE 754 and little-endian integers.
 #include "app/rain/jet_value.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Cuts at and around every page, zeros in every page, swapped pages, flipped bits, forged lengths and
-/// offsets.
+/// Damages a file: cuts at and around every page, zeros in every page, swapped pages, flipped bits, forged
+/// lengths and offsets.
 #include "data/damage/damage.h"
 
 #include <algorithm>
@@ -117,7 +117,7 @@ class Damager {
                              std::size_t{0}, std::size_t{2}, std::size_t{3}};
         return hot.at(below(hot.size()));
     }
-    /// A byte: mostly of the pages that matter, where a header's structure is at its front.
+    /// A byte position, mostly in the table's own pages, for a header near its front, where the structure is.
     std::size_t place(int round) {
         if (round % 4 == 0) {
             return below(file_->size());

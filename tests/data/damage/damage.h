@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Ways to damage a rain database: every one is a copy of the file with a name that tells what was done.
+/// Makes damaged copies of a rain database, each with a name that describes the damage.
 #pragma once
 
 #include <array>
@@ -13,15 +13,14 @@ namespace mero::data::damage {
 
 inline constexpr std::size_t kPage = 4096;
 
-/// The pages that one station's table hangs on.
+/// The pages of one station's table.
 struct Places {
     std::size_t rows = 0;
     std::size_t header = 0;
     std::size_t map = 0;
 };
 
-/// Finds them by the bytes of the table's first row: the duration as 16-bit and the first intensity as
-/// Single.
+/// Finds them by the bytes of the table's first row: 16-bit duration and first intensity as Single.
 /// @throws std::invalid_argument when the file does not have those bytes exactly once
 [[nodiscard]] Places placesOf(const std::string& file, double first_duration, double first_intensity);
 
@@ -34,12 +33,11 @@ struct Damaged {
     Kind kind = Kind::Cut;
     std::string name;
     std::string content;
-    /// Whether bytes changed that hold the values themselves or say what they are: the rows' page, the
-    /// header.
+    /// True when bytes changed that hold or describe the values: the rows' page, the header.
     bool touches_values = false;
 };
 
-/// All damages of a file, one after another; the same for the same seed.
+/// Calls a function for each damaged copy of a file; the same copies for the same seed.
 void forEachDamage(const std::string& file, const Places& places, std::uint32_t seed,
                    const std::function<void(const Damaged&)>& use);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// mero-damage [SEED [EVERY]]: reads thousands of damaged copies of the rain database and judges the answers.
-/// EVERY takes only every so-manieth file. What breaks a rule is printed; its file is left beside the
+/// With EVERY only every EVERY-th file is read. A file that breaks a rule is printed and kept beside the
 /// program.
 #include <algorithm>
 #include <chrono>
@@ -31,7 +31,7 @@ struct Tally {
     std::chrono::milliseconds slowest{0};
 };
 
-/// What is wrong with the answer, empty when nothing is.
+/// Describes the error in the answer; empty when it is correct.
 std::string judge(const test::Outcome& outcome, const damage::Damaged& damaged, const StationTable& whole,
                   const std::string& path, Tally& tally) {
     ++tally.files;

@@ -7,60 +7,22 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <ostream>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "data/rain_database.h"
 #include "forms/calc/program.h"
 #include "platform/clock.h"
-#include "platform/desk.h"
 #include "platform/locale_settings.h"
-
-namespace mero::platform {
-
-/// How a message shows when a test fails.
-inline void PrintTo(const Message& message, std::ostream* out) {
-    *out << '"' << message.text << "\" icon " << static_cast<int>(message.icon) << " title "
-         << message.title.value_or("(none)");
-}
-
-}  // namespace mero::platform
+#include "support/message_box.h"
+#include "support/recording_desk.h"
 
 namespace mero::forms::test {
 
-using platform::Message;
-using platform::MessageIcon;
-
-/// A message of the critical icon without a title, as the input checks show it.
-inline Message critical(std::string text) {
-    return {std::move(text), MessageIcon::Critical};
-}
-inline Message exclamation(std::string text) {
-    return {std::move(text), MessageIcon::Exclamation};
-}
-inline Message information(std::string text) {
-    return {std::move(text), MessageIcon::Information};
-}
-
-/// Keeps every message and the number of every reported error, in order.
-class RecordingDesk : public platform::Desk {
-  public:
-    std::vector<Message> messages;
-    std::vector<int> errors;
-
-    void showMessage(const Message& message) override { messages.push_back(message); }
-    void reportError(const RuntimeError& error) override { errors.push_back(error.number()); }
-    void openAddress(const std::string& /*address*/) override {}
-    void formOpened(const std::string& /*form*/) override {}
-    void formClosed(const std::string& /*form*/) override {}
-    void navigated(const std::string& /*view*/, const std::string& /*path*/) override {}
-    void openPrintPreview(const std::string& /*path*/) override {}
-    std::optional<std::string> askSavePath(const std::string& /*suggested_path*/) override { return {}; }
-    void saved(const std::string& /*path*/) override {}
-    void ended() override {}
-};
+using mero::test::critical;
+using mero::test::exclamation;
+using mero::test::information;
+using mero::test::MessageBox;
 
 /// The designs use own values only: nothing is read.
 class NoRainDatabase : public data::RainDatabase {
@@ -88,9 +50,9 @@ class Project {
     frmCalc& window() { return program_.window(); }
     [[nodiscard]] const data::modPublicVariables& values() const { return program_.values(); }
     /// Messages since the last call.
-    std::vector<Message> messages() { return std::exchange(desk_.messages, {}); }
+    std::vector<MessageBox> messages() { return desk_.takeBoxes(); }
     /// Numbers of the reported run-time errors since the last call.
-    std::vector<int> errors() { return std::exchange(desk_.errors, {}); }
+    std::vector<int> errors() { return desk_.takeErrorNumbers(); }
     [[nodiscard]] bool ended() const { return program_.ended(); }
 
     // The hands.
@@ -134,7 +96,7 @@ class Project {
   private:
     void act(const platform::Control& control, const std::function<void()>& action);
 
-    RecordingDesk desk_;
+    mero::test::RecordingDesk desk_;
     platform::FrozenClock clock_{{2026, 11, 20, 14, 5, 9}};
     platform::ProgramLocale locale_{",", "\u00A0", ";"};
     NoRainDatabase rain_database_;

@@ -12,7 +12,9 @@
 namespace mero::forms::test {
 namespace {
 
-using platform::Message;
+using mero::test::critical;
+using mero::test::exclamation;
+using mero::test::MessageBox;
 using platform::MessageIcon;
 
 class Design {
@@ -119,8 +121,7 @@ class Design {
     void surface() {
         const Exact i = outcome_.picked.intensity_l_s_ha;
         if (i <= 0) {
-            outcome_.messages.push_back(
-                {"Intenzita návrhového deště není zadána", MessageIcon::Exclamation, "Chyba"});
+            outcome_.messages.push_back(exclamation("Intenzita návrhového deště není zadána", "Chyba"));
             write("txtVsakPlocha(1)", 0, 1);
             return;
         }
@@ -204,7 +205,7 @@ class Design {
         const float volume = swaleVolume(infiltration_area, kf_swale);
         write("txtObjAkum(3)", volume, 1);
         if (infiltration_area <= 0) {
-            outcome_.messages.push_back({"Není zadána odvodňovaná plocha.", MessageIcon::Critical, "Chyba"});
+            outcome_.messages.push_back(critical("Není zadána odvodňovaná plocha.", "Chyba"));
         } else {
             static_cast<void>(store(volume / infiltration_area));
         }
@@ -414,8 +415,8 @@ std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
     for (const auto& [box, text] : outcome.texts) {
         out << box << " = " << text << '\n';
     }
-    for (const Message& message : outcome.messages) {
-        out << static_cast<int>(message.icon) << ' ' << message.text << '\n';
+    for (const MessageBox& box : outcome.messages) {
+        out << mero::test::lineOf(box) << '\n';
     }
     for (const int number : outcome.errors) {
         out << "error " << number << '\n';

@@ -9,14 +9,14 @@
 
 #include "forms/calc/frm_calc_controls.h"
 #include "forms/design/random_site.h"
-#include "platform/desk.h"
+#include "support/message_box.h"
 
 namespace mero::forms::test {
 
 /// What a user sees of a design.
 struct Outcome {
     std::map<std::string, std::string> texts;  ///< by the name of the result box
-    std::vector<platform::Message> messages;
+    std::vector<mero::test::MessageBox> messages;
     std::vector<int> errors;
     calc::Rain picked;
     /// Two rains are equal on paper, or a divisor is next to 0: extended precision may decide otherwise.

@@ -9,13 +9,13 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const Message kGroundwater = exclamation(
+const MessageBox kGroundwater = exclamation(
     "Min. hloubka maximální hladiny podzemní vody je překročena.  Zvolte větší průměr šachty či jejich počet "
     "a opakujte výpočet.");
-const Message kBottom =
+const MessageBox kBottom =
     exclamation("Dno šachty je vzdáleno méně než 0.5 m od hladiny podzemní vody. Zvolte menší výšku filtru.");
-const Message kSufficient = information("Potřebná propustnost filtru je dostačující.");
-const Message kTooPermeable = exclamation(
+const MessageBox kSufficient = information("Potřebná propustnost filtru je dostačující.");
+const MessageBox kTooPermeable = exclamation(
     "Potřebná propustnost filtru je příliš vysoká. Zvolte větší průměr šachty či jejich počet a opakujte "
     "výpočet.");
 

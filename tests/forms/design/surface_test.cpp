@@ -61,8 +61,8 @@ TEST_F(Surface, WithoutRainGoesBackToThePrompt) {
     project.area("1000");
     project.filtration("1e-4");
     project.choose(FacilityType::Surface);
-    EXPECT_THAT(project.messages(), ElementsAre(Message{"Intenzita návrhového deště není zadána",
-                                                        MessageIcon::Exclamation, "Chyba"}));
+    EXPECT_THAT(project.messages(),
+                ElementsAre(exclamation("Intenzita návrhového deště není zadána", "Chyba")));
     EXPECT_EQ(project.shownType(), FacilityType::None);
     EXPECT_EQ(window.SelectedType, FacilityType::None);
     EXPECT_EQ(window.cboSelType.text(), "[Vyber typ zasakování]");

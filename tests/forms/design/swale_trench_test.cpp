@@ -89,8 +89,7 @@ TEST_F(Combined, WithoutDrainedAreaItSaysSo) {
     project.rains(kStorm);
     trench("1e-4", "0.5", "0.5");
     project.calculate();
-    EXPECT_THAT(project.messages(),
-                ElementsAre(Message{"Není zadána odvodňovaná plocha.", MessageIcon::Critical, "Chyba"}));
+    EXPECT_THAT(project.messages(), ElementsAre(critical("Není zadána odvodňovaná plocha.", "Chyba")));
     // The design goes on: nothing to store, no trench, so no verdict on the area.
     EXPECT_THAT(shown(), ElementsAre("", "0.0", "0.0", "", "", "0.0"));
 }
@@ -102,7 +101,7 @@ TEST_F(Combined, NegativeAreaIsToldBesideTheVerdict) {
     project.set(window.txtVsakPlocha[FacilityType::SwaleTrench], "-1");
     project.calculate();
     EXPECT_THAT(project.messages(),
-                ElementsAre(Message{"Není zadána odvodňovaná plocha.", MessageIcon::Critical, "Chyba"},
+                ElementsAre(critical("Není zadána odvodňovaná plocha.", "Chyba"),
                             exclamation("Navržená vsakovací plocha je nedostatečná ( 0.39 > -1.00 ).")));
 }
 

@@ -8,11 +8,11 @@ namespace {
 
 using ::testing::ElementsAre;
 
-const Message kTooSmall =
+const MessageBox kTooSmall =
     exclamation("Vypočítaný objem nádrže je menší než nutná akumulace. Zvětšete rozměry nádrže.");
-const Message kVolume = information("Objem nádrže je dostačující.");
-const Message kProven = information("Průkaz předpokladu vsakovacího toku je v pořádku.");
-const Message kExceeded = exclamation("Vsakovací tok přesahuje průměrný vsakovací tok.");
+const MessageBox kVolume = information("Objem nádrže je dostačující.");
+const MessageBox kProven = information("Průkaz předpokladu vsakovacího toku je v pořádku.");
+const MessageBox kExceeded = exclamation("Vsakovací tok přesahuje průměrný vsakovací tok.");
 
 class Tank : public DesignTest {
   protected:

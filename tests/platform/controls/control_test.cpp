@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What all controls share: names, containers, whether they are on screen and can be reached, observers.
+// Properties of all controls: names, containers, whether they are on screen and reachable, observers.
 #include "platform/controls/control.h"
 
 #include <gtest/gtest.h>

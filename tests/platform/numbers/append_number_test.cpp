@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Appending writes what general() gives, and leaves what was there.
+/// Appending writes the same text as general() and does not change the text before it.
 #include "platform/numbers/append_number.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// The C library's number texts, set back after somebody has taken the user's locale over.
+/// The numeric category of the C library's locale is reset after the process's locale was set to the user's.
 #include "platform/numbers/numeric_locale.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ namespace mero::numbers {
 namespace {
 
 TEST(NumericLocale, IsTheCLibrarysOwnWhateverWasSetBefore) {
-    // Every system has this one, and it goes by a name of its own.
+    // Every system has this locale, and its name differs from "C".
     ASSERT_NE(std::setlocale(LC_NUMERIC, "C.UTF-8"), nullptr);
     ASSERT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C.UTF-8");
     useNumericCLocale();

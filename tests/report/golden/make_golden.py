@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Writes the expected reports of the sample projects, from the report's rules and not by the program.
+"""Writes the expected reports of the sample projects from the report's rules, without the program.
 
 Each report is the list of its rows as the format describes them: label, value text, key of the closing cell.
 The value texts are written out by hand. `make_golden.py --check` compares instead of writing.
@@ -32,7 +32,7 @@ def option(words):
 
 
 def render(items):
-    """Rows to text: a tuple is a value row, a text stands for itself, NEWLINE ends a line of the file."""
+    """Converts rows to text: a tuple is a value row, a text is copied, NEWLINE ends a line of the file."""
     out = ''
     for item in items:
         if item is NEWLINE:
