@@ -106,9 +106,9 @@ TEST(ScriptActions, ClickPressesButtonsOptionsBoxesAndLinks) {
 TEST(ScriptActions, SelectByPositionOrByText) {
     ScriptedProgram p;
     p.traceOf("tab 1\nclick optSelType(0)\nselect cboSelType \"Šachtové vsakování\"\n");
-    EXPECT_EQ(p.program.window().SelectedType, 5);
+    EXPECT_EQ(p.program.window().SelectedType, data::FacilityType::Shaft);
     p.traceOf("select cboSelType 2\n");
-    EXPECT_EQ(p.program.window().SelectedType, 2);
+    EXPECT_EQ(p.program.window().SelectedType, data::FacilityType::Swale);
     p.traceOf("tab 0\nclick cmdEdit(0)\nselect frmIntDialog.cboSelPeriod \"2\"\n");
     EXPECT_EQ(p.program.values().VybranaPeriodicita, "2") << "quoted digits are a text";
     p.traceOf("select frmIntDialog.cboSelPeriod 2\n");

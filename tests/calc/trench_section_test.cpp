@@ -13,7 +13,7 @@ namespace {
 using mero::test::errorNumberOf;
 using test::expectClose;
 
-constexpr TrenchSection FacilityType::Trench{
+constexpr TrenchSection kTrench{
     .width_m = 1.0F, .height_m = 1.5F, .storage_coefficient = 0.35F, .filtration_m_s = 1e-5F};
 
 TEST(TrenchSection, SoaksThroughItsBottomAndHalfItsHeight) {
@@ -22,11 +22,11 @@ TEST(TrenchSection, SoaksThroughItsBottomAndHalfItsHeight) {
 
 TEST(TrenchSection, TakesItsPoresAndWhatSoaksAway) {
     // 1 * 1.5 * 0.35 / 1050 + 1.75 * 10^-5 / 2 = 0.0005 + 0.00000875
-    expectClose(UptakePerMetre(FacilityType::Trench).over(1050.0), 0.00050875);
+    expectClose(UptakePerMetre(kTrench).over(1050.0), 0.00050875);
 }
 
 TEST(TrenchSection, WithoutTimeDividesByZero) {
-    EXPECT_EQ(errorNumberOf([] { return UptakePerMetre(FacilityType::Trench).over(0.0); }), 11);
+    EXPECT_EQ(errorNumberOf([] { return UptakePerMetre(kTrench).over(0.0); }), 11);
 }
 
 }  // namespace

@@ -201,7 +201,7 @@ void Generator::planSoil() {
 void Generator::planType(forms::Program& program) {
     add("tab 1");
     const int type = 1 + random_.below(6);
-    if (type == data::FacilityType::Tank) {
+    if (type == static_cast<int>(data::FacilityType::Tank)) {
         add("click optSelType(1)");
     } else {
         add("click optSelType(0)");
@@ -223,7 +223,7 @@ void Generator::planInputs(int type) {
     if (random_.percent(40)) {
         addNumber("txtSoucBezp" + member);
     }
-    switch (type) {
+    switch (static_cast<data::FacilityType>(type)) {
         case data::FacilityType::Swale:
             add("click optSelTypPudy2(" + text(random_.below(2)) + ")");
             break;
@@ -239,8 +239,9 @@ void Generator::planInputs(int type) {
                 add("click chkSelPretok" + member);
                 addNumber("txtPrumTroubVnej" + member);
                 addNumber("txtPrumTroubVnit" + member);
-                add(type == data::FacilityType::Trench ? "set txtVystupPlocha(4) \"50\""
-                                                       : "set txtSpecDrenOdtok(3) \"2\"");
+                add(static_cast<data::FacilityType>(type) == data::FacilityType::Trench
+                        ? "set txtVystupPlocha(4) \"50\""
+                        : "set txtSpecDrenOdtok(3) \"2\"");
                 add("set txtVystupRychlost(4) \"0.2\"");
                 add("click cmdOK" + member);
             }

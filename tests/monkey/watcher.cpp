@@ -184,9 +184,9 @@ std::string Watcher::checkPanels(const Words& words) {
     if (visible.size() > 1) {
         return "panels: more than one shows";
     }
-    if (!visible.empty() && visible.front() != window.SelectedType && !kept_panel_) {
+    if (!visible.empty() && visible.front() != static_cast<int>(window.SelectedType) && !kept_panel_) {
         return "panels: " + numbers::general(visible.front()) + " shows, the type is " +
-               numbers::general(window.SelectedType);
+               numbers::general(static_cast<int>(window.SelectedType));
     }
     return {};
 }

@@ -17,12 +17,12 @@ Rains rains(calc::Rain first, calc::Rain second, calc::Rain third) {
     return {{first, second, third, {}, {}, {}, {}, {}, {}}};
 }
 
-constexpr calc::swale::Balance FacilityType::Swale{
+constexpr calc::swale::Balance kSwale{
     .reduced_area_m2 = 1000, .infiltration_area_m2 = 100, .filtration_m_s = 1e-4F, .safety_factor = 1};
 
 TEST(BalanceChart, TheSwalesBarsAreItsVolumes) {
     // (1100e-7 * i - 0.005) * t * 60: 300 * 0.028 = 8.4; 900 * 0.017 = 15.3; 3600 * -0.00005 = -0.18
-    const Chart chart = swaleChart(FacilityType::Swale, rains({5, 300}, {15, 200}, {60, 45}), "15.3");
+    const Chart chart = swaleChart(kSwale, rains({5, 300}, {15, 200}, {60, 45}), "15.3");
     ASSERT_TRUE(chart.drawable());
     EXPECT_EQ(chart.title, "Objem akumulace průlehu [m³]");
     ASSERT_EQ(chart.points.size(), 9U);
@@ -38,18 +38,18 @@ TEST(BalanceChart, TheSwalesBarsAreItsVolumes) {
 }
 
 TEST(BalanceChart, OfEqualRainsTheEarliestIsCritical) {
-    EXPECT_EQ(swaleChart(FacilityType::Swale, rains({5, 100}, {15, 200}, {15, 200}), "15.3").marked, 1U);
+    EXPECT_EQ(swaleChart(kSwale, rains({5, 100}, {15, 200}, {15, 200}), "15.3").marked, 1U);
 }
 
 TEST(BalanceChart, SaysWhenTheFieldShowsTheResultOfOtherInputs) {
-    EXPECT_EQ(swaleChart(FacilityType::Swale, rains({5, 300}, {15, 200}, {}), "14.0").note,
+    EXPECT_EQ(swaleChart(kSwale, rains({5, 300}, {15, 200}, {}), "14.0").note,
               "vstupy se od výpočtu změnily");
 }
 
 TEST(BalanceChart, HasAHintBeforeTheResultAndWhenNoRainAsksForAnything) {
-    EXPECT_EQ(swaleChart(FacilityType::Swale, rains({5, 300}, {15, 200}, {}), "").hint,
+    EXPECT_EQ(swaleChart(kSwale, rains({5, 300}, {15, 200}, {}), "").hint,
               "Bilance dešťů se nakreslí po výpočtu.");
-    EXPECT_EQ(swaleChart(FacilityType::Swale, rains({5, 10}, {15, 5}, {}), "0.0").hint,
+    EXPECT_EQ(swaleChart(kSwale, rains({5, 10}, {15, 5}, {}), "0.0").hint,
               "Žádný déšť nevyžaduje akumulaci.");
 }
 
@@ -98,7 +98,7 @@ TEST(BalanceChart, AFaultOfTheFormulaIsAHint) {
 
 TEST(BalanceChart, TheCombinedObjectShowsTheSwaleWhenNoRainAsksForATrench) {
     SwaleTrenchBalance balance{
-        .swale = FacilityType::Swale,
+        .swale = kSwale,
         .trench = {
             .reduced_area_m2 = 1000,
             .infiltration_area_m2 = 100,

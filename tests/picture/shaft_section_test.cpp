@@ -13,21 +13,21 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 /// 1 m of inlet, 1.5 m of water, 0.5 m of filter, 0.25 m of sand: 3.25 m; groundwater from 1 + 1.5 + 1.5 m.
-constexpr ShaftValues FacilityType::Shaft{.inner_width_m = 1.5F,
-                                          .wall_m = 0.125F,
-                                          .inlet_depth_m = 1.0F,
-                                          .filter_layer_m = 0.5F,
-                                          .sand_layer_m = 0.25F,
-                                          .water_level_m = 1.5F,
-                                          .depth_m = 3.25F,
-                                          .required_embedding_m = 4.0F};
+constexpr ShaftValues kShaft{.inner_width_m = 1.5F,
+                             .wall_m = 0.125F,
+                             .inlet_depth_m = 1.0F,
+                             .filter_layer_m = 0.5F,
+                             .sand_layer_m = 0.25F,
+                             .water_level_m = 1.5F,
+                             .depth_m = 3.25F,
+                             .required_embedding_m = 4.0F};
 
 std::vector<Point> box(double left, double top, double right, double bottom) {
     return {{left, top}, {right, top}, {right, bottom}, {left, bottom}};
 }
 
 TEST(ShaftSection, TheLayersStandOneBelowTheOther) {
-    const Section section = shaftSection(FacilityType::Shaft);
+    const Section section = shaftSection(kShaft);
     ASSERT_TRUE(section.drawable());
     EXPECT_EQ(cornersOf(section, Material::Air), box(0, 0, 1.5, 1));
     EXPECT_EQ(cornersOf(section, Material::Water), box(0, 1, 1.5, 2.5));
@@ -42,7 +42,7 @@ TEST(ShaftSection, TheLayersStandOneBelowTheOther) {
 }
 
 TEST(ShaftSection, TypeAHasNoSand) {
-    ShaftValues values = FacilityType::Shaft;
+    ShaftValues values = kShaft;
     values.sand_layer_m = 0;
     values.depth_m = 3.0F;
     const Section section = shaftSection(values);
@@ -53,7 +53,7 @@ TEST(ShaftSection, TypeAHasNoSand) {
 }
 
 TEST(ShaftSection, ShowsHowHighTheGroundwaterMayBeAndHowHighItIs) {
-    ShaftValues values = FacilityType::Shaft;
+    ShaftValues values = kShaft;
     values.groundwater_depth_m = 5;
     const Section section = shaftSection(values);
     ASSERT_EQ(section.levels.size(), 2U);
@@ -67,7 +67,7 @@ TEST(ShaftSection, ShowsHowHighTheGroundwaterMayBeAndHowHighItIs) {
 }
 
 TEST(ShaftSection, ARectangularShaftSaysBothSides) {
-    ShaftValues values = FacilityType::Shaft;
+    ShaftValues values = kShaft;
     values.rectangular = true;
     values.inner_length_m = 2;
     values.count = 3;
@@ -79,7 +79,7 @@ TEST(ShaftSection, ARectangularShaftSaysBothSides) {
 }
 
 TEST(ShaftSection, WithoutAnyWaterThereIsStillAShaft) {
-    ShaftValues values = FacilityType::Shaft;
+    ShaftValues values = kShaft;
     values.water_level_m = 0.0F;
     values.depth_m = 1.75F;
     values.required_embedding_m = 2.5F;
@@ -91,7 +91,7 @@ TEST(ShaftSection, WithoutAnyWaterThereIsStillAShaft) {
 
 TEST(ShaftSection, HasAHintBeforeTheResultsAndForOddValues) {
     EXPECT_EQ(shaftSection({}).hint, "Řez se nakreslí po výpočtu.");
-    ShaftValues values = FacilityType::Shaft;
+    ShaftValues values = kShaft;
     values.wall_m = 0;
     EXPECT_EQ(shaftSection(values).hint, "Z těchto hodnot nelze řez nakreslit.");
 }

@@ -12,15 +12,15 @@ namespace {
 using testing::ElementsAre;
 
 /// 10 m x 10 m, 2 m deep, 1 : 1: 14 m x 14 m at the top, 2/3 * (196 + 100 + 140) = 290.67 m3.
-constexpr TankValues FacilityType::Tank{.bottom_length_m = 10,
-                                        .bottom_width_m = 10,
-                                        .depth_m = 2,
-                                        .slope = 1,
-                                        .required_storage_m3 = 364.0F / 3.0F,
-                                        .volume_m3 = 290.67F};
+constexpr TankValues kTank{.bottom_length_m = 10,
+                           .bottom_width_m = 10,
+                           .depth_m = 2,
+                           .slope = 1,
+                           .required_storage_m3 = 364.0F / 3.0F,
+                           .volume_m3 = 290.67F};
 
 TEST(TankSection, HasItsSlopesAndIsFilledAsFarAsNeeded) {
-    const Section section = tankSection(FacilityType::Tank);
+    const Section section = tankSection(kTank);
     ASSERT_TRUE(section.drawable());
     EXPECT_THAT(cornersOf(section, Material::Air),
                 ElementsAre(Point{-2, 0}, Point{12, 0}, Point{10, 2}, Point{0, 2}));
@@ -40,7 +40,7 @@ TEST(TankSection, HasItsSlopesAndIsFilledAsFarAsNeeded) {
 }
 
 TEST(TankSection, AVerticalTankFillsEvenly) {
-    TankValues values = FacilityType::Tank;
+    TankValues values = kTank;
     values.slope = 0;
     values.volume_m3 = 200.0F;
     values.required_storage_m3 = 50.0F;
@@ -51,7 +51,7 @@ TEST(TankSection, AVerticalTankFillsEvenly) {
 }
 
 TEST(TankSection, ATankThatIsTooSmallIsFullAndOneThatNeedsNothingEmpty) {
-    TankValues values = FacilityType::Tank;
+    TankValues values = kTank;
     values.required_storage_m3 = 1000.0F;
     EXPECT_EQ(cornersOf(tankSection(values), Material::Water).at(0), (Point{-2, 0}));
     values.required_storage_m3 = 0.0F;
@@ -61,7 +61,7 @@ TEST(TankSection, ATankThatIsTooSmallIsFullAndOneThatNeedsNothingEmpty) {
 
 TEST(TankSection, HasAHintBeforeTheResultsAndForOddValues) {
     EXPECT_EQ(tankSection({}).hint, "Řez se nakreslí po výpočtu.");
-    TankValues values = FacilityType::Tank;
+    TankValues values = kTank;
     values.slope = -0.1F;
     EXPECT_EQ(tankSection(values).hint, "Z těchto hodnot nelze řez nakreslit.");
     values.slope = 1e38F;

@@ -13,16 +13,16 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr TrenchValues FacilityType::Trench{.length_m = 68.0F, .width_m = 1.0F, .height_m = 0.5F};
+constexpr TrenchValues kTrench{.length_m = 68.0F, .width_m = 1.0F, .height_m = 0.5F};
 
 TrenchValues with(PipeValues pipes) {
-    TrenchValues values = FacilityType::Trench;
+    TrenchValues values = kTrench;
     values.pipes = pipes;
     return values;
 }
 
 TEST(TrenchSection, IsTheFilledRectangle) {
-    const Section section = trenchSection(FacilityType::Trench);
+    const Section section = trenchSection(kTrench);
     ASSERT_TRUE(section.drawable());
     EXPECT_THAT(cornersOf(section, Material::Gravel),
                 ElementsAre(Point{0, 0}, Point{1, 0}, Point{1, 0.5}, Point{0, 0.5}));
@@ -60,7 +60,7 @@ TEST(TrenchSection, HalfAPipeIsNone) {
 }
 
 TEST(TrenchSection, TheGroundwaterMayStandInTheTrench) {
-    TrenchValues values = FacilityType::Trench;
+    TrenchValues values = kTrench;
     values.groundwater_depth_m = 0.3F;
     const Section section = trenchSection(values);
     ASSERT_EQ(section.levels.size(), 1U);
@@ -69,7 +69,7 @@ TEST(TrenchSection, TheGroundwaterMayStandInTheTrench) {
 }
 
 TEST(SwaleTrenchSection, TheTrenchBeginsUnderTheSwale) {
-    const Section section = swaleTrenchSection({.trench = FacilityType::Trench, .swale_depth_m = 0.25F});
+    const Section section = swaleTrenchSection({.trench = kTrench, .swale_depth_m = 0.25F});
     ASSERT_TRUE(section.drawable());
     EXPECT_THAT(cornersOf(section, Material::Water),
                 ElementsAre(Point{-0.5, 0}, Point{1.5, 0}, Point{1, 0.25}, Point{0, 0.25}));
@@ -82,14 +82,14 @@ TEST(SwaleTrenchSection, TheTrenchBeginsUnderTheSwale) {
 }
 
 TEST(SwaleTrenchSection, HasAHintWithoutLengthOrDepth) {
-    TrenchValues without_length = FacilityType::Trench;
+    TrenchValues without_length = kTrench;
     without_length.length_m.reset();
     EXPECT_EQ(swaleTrenchSection({without_length, 0.25F}).hint, "Řez se nakreslí po výpočtu.");
-    EXPECT_EQ(swaleTrenchSection({FacilityType::Trench, {}}).hint, "Řez se nakreslí po výpočtu.");
-    TrenchValues narrow = FacilityType::Trench;
+    EXPECT_EQ(swaleTrenchSection({kTrench, {}}).hint, "Řez se nakreslí po výpočtu.");
+    TrenchValues narrow = kTrench;
     narrow.width_m = 0;
     EXPECT_EQ(swaleTrenchSection({narrow, 0.25F}).hint, "Z těchto hodnot nelze řez nakreslit.");
-    EXPECT_EQ(swaleTrenchSection({FacilityType::Trench, 0.0F}).hint, "Z těchto hodnot nelze řez nakreslit.");
+    EXPECT_EQ(swaleTrenchSection({kTrench, 0.0F}).hint, "Z těchto hodnot nelze řez nakreslit.");
 }
 
 }  // namespace

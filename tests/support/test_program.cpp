@@ -63,10 +63,10 @@ void TestProgram::giveSite() {
     paste(window().txtSoucFiltrace, "1e-4");
 }
 
-void TestProgram::chooseType(int type) {
+void TestProgram::chooseType(data::FacilityType type) {
     tab(forms::kTabDesign);
     click(window().optSelType[0]);
-    select(window().cboSelType, type);
+    select(window().cboSelType, static_cast<int>(type));
 }
 
 }  // namespace mero::test

@@ -58,7 +58,7 @@ class TestProgram {
     /// Enters area 1000 m2, kf 1e-4 m/s and 150 l/s.ha for 15 min.
     void giveSite();
     /// Chooses a decentralised type by its number, on the design tab.
-    void chooseType(int type);
+    void chooseType(data::FacilityType type);
 
     TemporaryFolder folder;
     RecordingDesk desk;

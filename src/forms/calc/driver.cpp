@@ -50,8 +50,8 @@ void frmCalc::CalcDesign() {
 void frmCalc::cmdCalcul_Click(int Index) {
     const auto type = static_cast<FacilityType>(Index);
     WindowSink sink(*this, type);
-    const bool calculated_live = type == FacilityType::Surface || type == FacilityType::Swale;
-    if (calculated_live || !design::passChecks(sink, type, optSelTypPudy5[1].selected())) {
+    const bool has_command = type >= FacilityType::SwaleTrench && type <= FacilityType::Tank;
+    if (!has_command || !design::passChecks(sink, type, optSelTypPudy5[1].selected())) {
         return;
     }
     if (type == FacilityType::Shaft) {

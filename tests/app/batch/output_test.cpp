@@ -6,8 +6,10 @@
 #include <fstream>
 #include <iterator>
 #include <nlohmann/json.hpp>
+
 #include <stdexcept>
 #include <string>
+#include "design/verdict_table.h"
 
 #include "app/batch/design_output.h"
 #include "app/batch/row_file.h"
@@ -17,6 +19,7 @@ namespace {
 
 using design::Quantity;
 using design::Verdict;
+using design::VerdictId;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -29,11 +32,15 @@ project::Project shaftProject() {
 
 design::DesignResult shaftResult() {
     design::DesignResult result;
-    result.show(Quantity::WaterDepth, 1.525F);
-    result.show(Quantity::InfiltrationArea, 27.0349F, 27.03F);
-    result.verdicts.add(VerdictId::InletDepthNotPositive);
-    result.verdicts.add(VerdictId::FilterLayerNotPositive);
-    result.verdicts.add(VerdictId::ErrorDivisionByZero);
+    result.numbers.txtVyskaVzduti = 1.525F;
+    result.show(Quantity::WaterDepth);
+    result.numbers.txtVsakPlocha = 27.03F;
+    result.show(Quantity::InfiltrationArea, 27.0349F);
+    result.numbers.txtNezamrzHlPritok = -0.5F;
+    for (const VerdictId id : {VerdictId::InletDepthNotPositive, VerdictId::FilterLayerNotPositive,
+                               VerdictId::ErrorDivisionByZero}) {
+        result.verdicts.add(design::table::verdict(id, result.numbers));
+    }
     return result;
 }
 
@@ -72,12 +79,13 @@ TEST(ResultJson, IsJsonWithTheStoredNumbers) {
     EXPECT_FALSE(parsed["results"].contains("tank_volume_m3"));
     EXPECT_EQ(parsed["verdicts"][2]["code"], "runtime_error_11");
     EXPECT_EQ(parsed["verdicts"][0]["severity"], "error");
+    EXPECT_EQ(parsed["verdicts"][0]["about"], (nlohmann::json{{"facility.inlet_frost_depth_m", -0.5}}));
 }
 
 TEST(ResultTable, TheSignTellsHowAMessageIsMeant) {
     design::DesignResult result;
-    result.verdicts.add(VerdictId::DesignRainMissing);
-    result.verdicts.add(VerdictId::TankVolumeSufficient);
+    result.verdicts.add({.id = VerdictId::DesignRainMissing, .values = {}});
+    result.verdicts.add({.id = VerdictId::TankVolumeSufficient, .values = {}});
     const std::string table = resultTable(shaftProject(), result);
     EXPECT_THAT(table, HasSubstr("  ! Intenzita návrhového deště není zadána\n"));
     EXPECT_THAT(table,

@@ -29,12 +29,13 @@ TEST_F(RebuildCalcTest, TheFirstInputSelectsTheDecentralisedGroup) {
 }
 
 TEST_F(RebuildCalcTest, AChangedInputLeavesNoPanelAndNoType) {
-    for (const int type : {1, 2, 3, 4, 5}) {
+    for (const FacilityType type : {FacilityType::Surface, FacilityType::Swale, FacilityType::SwaleTrench,
+                                    FacilityType::Trench, FacilityType::Shaft}) {
         p.chooseType(type);
         ASSERT_TRUE(w.picResults[type].visible());
-        p.paste(w.txtSoucFiltrace, type % 2 == 0 ? "2e-4" : "3e-4");
-        EXPECT_FALSE(w.picResults[type].visible()) << type;
-        EXPECT_EQ(w.SelectedType, 0);
+        p.paste(w.txtSoucFiltrace, static_cast<int>(type) % 2 == 0 ? "2e-4" : "3e-4");
+        EXPECT_FALSE(w.picResults[type].visible()) << static_cast<int>(type);
+        EXPECT_EQ(w.SelectedType, FacilityType::None);
         EXPECT_EQ(w.cboSelType.text(), "[Vyber typ zasakování]");
     }
 }
@@ -43,7 +44,7 @@ TEST_F(RebuildCalcTest, TheTankIsSelectedAgainAndShown) {
     p.tab(kTabDesign);
     p.click(w.optSelType[1]);
     p.paste(w.txtSoucFiltrace, "2e-4");
-    EXPECT_EQ(w.SelectedType, 6);
+    EXPECT_EQ(w.SelectedType, FacilityType::Tank);
     EXPECT_EQ(w.cboSelType.text(), "Vsakovací nádrže");
     EXPECT_TRUE(w.picResults[6].visible());
 }
@@ -56,7 +57,7 @@ TEST_F(RebuildCalcTest, ARefusedGroupHidesThePanelsAndSelectsNothing) {
     p.takeAreaAway();
     EXPECT_EQ(p.desk.count(kNoArea), 1);
     EXPECT_EQ(w.TypeGroup, 1);
-    EXPECT_EQ(w.SelectedType, 5) << "the shaft's name is not in the list";
+    EXPECT_EQ(w.SelectedType, FacilityType::Shaft) << "the shaft's name is not in the list";
     EXPECT_EQ(w.cboSelType.position(), -1);
     EXPECT_FALSE(w.picResults[6].visible());
     EXPECT_FALSE(w.picResults[5].visible());
@@ -78,7 +79,7 @@ TEST_F(RebuildCalcTest, DialogsRunItAsOftenAsTheyWriteAndOnceMore) {
     p.desk.take();
     p.giveArea("100");
     EXPECT_EQ(p.desk.count(kNoArea), 0);
-    EXPECT_EQ(w.SelectedType, 6);
+    EXPECT_EQ(w.SelectedType, FacilityType::Tank);
 }
 
 struct ClearTypeResultsTest : RebuildCalcTest {

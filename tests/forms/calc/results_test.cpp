@@ -17,7 +17,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr const char* FacilityType::None = "exclamation: Není vybrána technologie";
+constexpr const char* kNotChosen = "exclamation: Není vybrána technologie";
 
 struct ResultsTest : testing::Test {
     /// Surface infiltration of a project of that name; the records start behind it.
@@ -42,7 +42,7 @@ TEST_F(ResultsTest, WithoutATypeBothTabsAreTakenBack) {
             p.tab(from);
             p.tab(to);
             EXPECT_EQ(w.SSTab1.position(), from) << "to " << to;
-            EXPECT_THAT(p.desk.take(), ElementsAre(FacilityType::None));
+            EXPECT_THAT(p.desk.take(), ElementsAre(kNotChosen));
         }
     }
     EXPECT_EQ(p.desk.messages[0].title, std::nullopt);
@@ -55,11 +55,13 @@ TEST_F(ResultsTest, WithoutATypeBothTabsAreTakenBack) {
 
 TEST_F(ResultsTest, TheDescriptionPageOfTheTypeIsShown) {
     chooseSurface();
-    for (const int type : {1, 2, 3, 4, 5}) {
+    for (const FacilityType type : {FacilityType::Surface, FacilityType::Swale, FacilityType::SwaleTrench,
+                                    FacilityType::Trench, FacilityType::Shaft}) {
         p.chooseType(type);
         p.desk.take();
         p.tab(kTabTechnology);
-        const std::string page = p.folder.file("Webs/Desc0" + numbers::general(type) + ".htm");
+        const std::string page =
+            p.folder.file("Webs/Desc0" + numbers::general(static_cast<int>(type)) + ".htm");
         EXPECT_THAT(p.desk.take(), ElementsAre("navigated wbShowPopisTech " + page));
         EXPECT_EQ(w.wbShowPopisTech.path(), page);
         EXPECT_TRUE(w.wbShowPopisTech.onScreen());
@@ -124,7 +126,7 @@ TEST_F(ResultsTest, ARefusedResultsTabFromTheDesignDeletesTheReportOfBefore) {
     p.paste(w.txtSoucFiltrace, "2e-4");  // re-selects: no type is chosen any more
     p.desk.take();
     p.tab(kTabResults);
-    EXPECT_THAT(p.desk.take(), ElementsAre(FacilityType::None));
+    EXPECT_THAT(p.desk.take(), ElementsAre(kNotChosen));
     EXPECT_EQ(w.SSTab1.position(), 0);
     EXPECT_FALSE(w.wbShowResults.visible());
     EXPECT_FALSE(w.cmdSaveResults.visible());

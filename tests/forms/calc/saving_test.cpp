@@ -33,7 +33,7 @@ struct SavingTest : testing::Test {
     SavingTest() { program.start(); }
 
     /// Rain, area and soil given, the type chosen, the calculate button never pressed; the results are shown.
-    void showResults(int type) {
+    void showResults(FacilityType type) {
         user.chooseTab(w.SSTab1, kTabInputs);
         user.click(w.cmdEdit[0]);
         user.select(w.intDialog.cboSelPeriod, 4);
@@ -52,7 +52,7 @@ struct SavingTest : testing::Test {
         user.chooseTab(w.SSTab1, kTabDesign);
         user.click(w.optSelType[type == FacilityType::Tank ? 1 : 0]);
         if (type != FacilityType::Tank) {
-            user.select(w.cboSelType, type);
+            user.select(w.cboSelType, static_cast<int>(type));
         }
         user.chooseTab(w.SSTab1, kTabResults);
         desk.take();
@@ -162,11 +162,11 @@ TEST_F(SavingTest, EveryTypesReportIsThereBeforeAnythingWasCalculated) {
     const std::vector<std::string> verdict_rows = {"Vsakovací plocha",        "Objem akumulace průlehu",
                                                    "Délka vsakovací rýhy",    "Délka vsakovací rýhy",
                                                    "Potřebná hloubka šachty", "Potřebný objem akumulace"};
-    for (int type = FacilityType::Surface; type <= FacilityType::Tank; ++type) {
+    for (const FacilityType type : data::kFacilityTypes) {
         showResults(type);
         const std::string report = report::fromWindows1250(folder.read("Mero_Test"));
-        EXPECT_THAT(report, HasSubstr("<u>Výsledky</u>")) << type;
-        EXPECT_THAT(report, HasSubstr(verdict_rows[static_cast<std::size_t>(type - 1)])) << type;
+        EXPECT_THAT(report, HasSubstr("<u>Výsledky</u>")) << data::index(type);
+        EXPECT_THAT(report, HasSubstr(verdict_rows[data::index(type) - 1])) << data::index(type);
     }
 }
 

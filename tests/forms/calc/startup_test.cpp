@@ -44,9 +44,9 @@ TEST(Startup, NoTypeAndNoShaftIsChosen) {
     TestProgram p;
     frmCalc& w = p.window();
     EXPECT_EQ(w.TypeGroup, 0);
-    EXPECT_EQ(w.SelectedType, 0);
+    EXPECT_EQ(w.SelectedType, FacilityType::None);
     EXPECT_EQ(w.SoilVariant, 0);
-    EXPECT_EQ(w.ShaftShape, 0);
+    EXPECT_EQ(w.ShaftShape, data::ShaftShape::Round);
     EXPECT_FALSE(w.cboSelType.enabled());
     EXPECT_THAT(w.cboSelType.items(), IsEmpty());
     EXPECT_THAT(w.cboTypSachty.items(), IsEmpty());

@@ -56,7 +56,7 @@ TEST_F(SurfaceTypeTest, WithoutARainTheTypeIsTakenBack) {
     p.desk.take();
     p.chooseType(FacilityType::Surface);
     EXPECT_THAT(p.desk.take(), ElementsAre("exclamation [Chyba]: Intenzita návrhového deště není zadána"));
-    EXPECT_EQ(w.SelectedType, 0);
+    EXPECT_EQ(w.SelectedType, FacilityType::None);
     EXPECT_EQ(w.cboSelType.position(), 0);
     EXPECT_TRUE(w.optSelType[0].selected());
     EXPECT_EQ(v.txtVsakPlocha, 0.0F);

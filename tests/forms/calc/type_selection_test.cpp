@@ -55,7 +55,7 @@ TEST_F(TypeSelectionTest, DecentralisedListsPromptAndFiveTypes) {
     EXPECT_EQ(w.cboSelType.text(), "[Vyber typ zasakování]");
     EXPECT_TRUE(w.cboSelType.enabled());
     EXPECT_EQ(w.TypeGroup, 0);
-    EXPECT_EQ(w.SelectedType, 0);
+    EXPECT_EQ(w.SelectedType, FacilityType::None);
     EXPECT_THAT(shownPanels(), IsEmpty());
     EXPECT_THAT(p.desk.lines, IsEmpty()) << "the decentralised group has no guard";
 }
@@ -69,7 +69,7 @@ TEST_F(TypeSelectionTest, CentralisedWithoutAreaIsRefusedHalfWay) {
     EXPECT_EQ(w.cboSelType.position(), -1);
     EXPECT_FALSE(w.cboSelType.enabled());
     EXPECT_EQ(w.TypeGroup, 0);
-    EXPECT_EQ(w.SelectedType, 5);
+    EXPECT_EQ(w.SelectedType, FacilityType::Shaft);
     EXPECT_EQ(focusRequests(), 0);
 }
 
@@ -86,7 +86,7 @@ TEST_F(TypeSelectionTest, CentralisedRefusedLeavesThePanelThatWasShown) {
     EXPECT_EQ(focusRequests(), 1);
     EXPECT_THAT(shownPanels(), ElementsAre(4));
     EXPECT_EQ(w.TypeGroup, 0);
-    EXPECT_EQ(w.SelectedType, 5);
+    EXPECT_EQ(w.SelectedType, FacilityType::Shaft);
     EXPECT_TRUE(w.cboSelType.enabled()) << "enabled before and not touched";
     EXPECT_THAT(w.cboSelType.items(), ElementsAre("Vsakovací nádrže"));
     EXPECT_EQ(w.cboSelType.position(), -1);
@@ -97,7 +97,7 @@ TEST_F(TypeSelectionTest, AfterARefusalDecentralisedWorksAsEver) {
     p.click(w.optSelType[1]);
     p.click(w.optSelType[0]);
     EXPECT_EQ(w.cboSelType.items().size(), 6U);
-    EXPECT_EQ(w.SelectedType, 0);
+    EXPECT_EQ(w.SelectedType, FacilityType::None);
     EXPECT_TRUE(w.cboSelType.enabled());
 }
 
@@ -107,7 +107,7 @@ TEST_F(TypeSelectionTest, TheEntryOfARefusedCentralisedChoiceCountsForTheFormerG
     p.paste(w.txtSoucFiltrace, "");
     p.click(w.optSelType[1]);
     p.select(w.cboSelType, 0);
-    EXPECT_EQ(w.SelectedType, 0) << "position 0 of the decentralised group";
+    EXPECT_EQ(w.SelectedType, FacilityType::None) << "position 0 of the decentralised group";
     EXPECT_THAT(shownPanels(), IsEmpty());
 }
 
@@ -121,7 +121,7 @@ TEST_F(TypeSelectionTest, CentralisedWithAreaAndFiltrationShowsTheTank) {
     EXPECT_EQ(w.cboSelType.position(), 0);
     EXPECT_TRUE(w.cboSelType.enabled());
     EXPECT_EQ(w.TypeGroup, 1);
-    EXPECT_EQ(w.SelectedType, 6);
+    EXPECT_EQ(w.SelectedType, FacilityType::Tank);
     EXPECT_THAT(shownPanels(), ElementsAre(6));
     EXPECT_TRUE(w.optSelTypPudy5[0].selected())
         << "while the number is still 5, clearing the results selects the shaft's variant";
@@ -142,16 +142,17 @@ TEST_F(TypeSelectionTest, NegativeAreaOrFiltrationIsRefusedAsMissing) {
 
 TEST_F(TypeSelectionTest, EachTypeShowsItsPanelAtThePlaceOfTheFirst) {
     p.giveSite();
-    for (const int type : {1, 2, 3, 4, 5}) {
+    for (const FacilityType type : {FacilityType::Surface, FacilityType::Swale, FacilityType::SwaleTrench,
+                                    FacilityType::Trench, FacilityType::Shaft}) {
         p.chooseType(type);
         EXPECT_EQ(w.SelectedType, type);
-        EXPECT_THAT(shownPanels(), ElementsAre(type));
+        EXPECT_THAT(shownPanels(), ElementsAre(static_cast<int>(type)));
         EXPECT_EQ(w.picResults[type].left(), w.picResults[1].left());
         EXPECT_EQ(w.picResults[type].top(), w.picResults[1].top());
     }
     p.select(w.cboSelType, 0);
     EXPECT_THAT(shownPanels(), IsEmpty());
-    EXPECT_EQ(w.SelectedType, 0);
+    EXPECT_EQ(w.SelectedType, FacilityType::None);
 }
 
 TEST_F(TypeSelectionTest, ThePanelsAreHiddenInAscendingOrder) {
@@ -188,7 +189,7 @@ TEST_F(TypeSelectionTest, EnteringTheListAsksForAreaThenFiltration) {
 
 TEST_F(TypeSelectionTest, NothingElseIsBlockedWithoutAnArea) {
     p.chooseType(FacilityType::Trench);
-    EXPECT_EQ(w.SelectedType, 4);
+    EXPECT_EQ(w.SelectedType, FacilityType::Trench);
     EXPECT_THAT(shownPanels(), ElementsAre(4));
 }
 
@@ -199,11 +200,11 @@ TEST_F(TypeSelectionTest, ThreeGroupsShareOneSoilVariant) {
     p.click(w.optSelTypPudy3[1]);
     EXPECT_EQ(w.SoilVariant, 1);
     EXPECT_EQ(w.txtVsakPlocha[3].text(), "200.0") << "a fifth of 1000 m2";
-    p.select(w.cboSelType, FacilityType::Swale);
+    p.select(w.cboSelType, static_cast<int>(FacilityType::Swale));
     EXPECT_EQ(w.SoilVariant, 1) << "not changed by clearing the first option";
     EXPECT_FALSE(w.optSelTypPudy2[0].selected());
     EXPECT_TRUE(w.optSelTypPudy2[1].selected());
-    p.select(w.cboSelType, FacilityType::Shaft);
+    p.select(w.cboSelType, static_cast<int>(FacilityType::Shaft));
     EXPECT_TRUE(w.optSelTypPudy5[1].selected());
     EXPECT_TRUE(w.txtVyskaPiskVrstvy.enabled());
 }

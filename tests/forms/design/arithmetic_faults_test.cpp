@@ -26,7 +26,7 @@ class ArithmeticFaults : public DesignTest {
         project.set(window.txtNezamrzHlPritok, "1");
         project.set(window.txtVyskaFiltrVrstvy, "0.5");
     }
-    void trench(InfiltrationType type) {
+    void trench(FacilityType type) {
         project.choose(type);
         project.set(window.txtSirkaRyhy[type], "0.5");
         project.set(window.txtVyskaRyhy[type], "0.5");

@@ -118,10 +118,10 @@ void Project::site(const std::string& area_m2, const std::string& coefficient_m_
     rains(rows, picked_row);
 }
 
-void Project::choose(InfiltrationType type) {
+void Project::choose(FacilityType type) {
     tab(kTabDesign);
     click(window().optSelType[0]);
-    select(window().cboSelType, type);
+    select(window().cboSelType, static_cast<int>(type));
 }
 
 void Project::chooseTank() {
@@ -134,12 +134,12 @@ std::string Project::pickedRain() const {
            " l/s.ha";
 }
 
-int Project::shownType() {
+FacilityType Project::shownType() {
     tab(kTabDesign);
-    int shown = FacilityType::None;
+    FacilityType shown = FacilityType::None;
     window().picResults.forEach([&](int type, platform::Panel& panel) {
         if (panel.onScreen()) {
-            shown = type;
+            shown = static_cast<FacilityType>(type);
         }
     });
     return shown;

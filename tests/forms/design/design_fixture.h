@@ -83,7 +83,7 @@ class Project {
 
     // The types.
     /// Group "Decenralizované" and a type of it.
-    void choose(InfiltrationType type);
+    void choose(FacilityType type);
     /// Group "Centralizované", whose only type is the tank.
     void chooseTank();
     void calculate() { click(window().cmdCalcul[window().SelectedType]); }
@@ -91,7 +91,7 @@ class Project {
     /// "5 min, 300 l/s.ha" of the picked design rain.
     [[nodiscard]] std::string pickedRain() const;
     /// The type whose panel is on screen, 0 for none.
-    [[nodiscard]] int shownType();
+    [[nodiscard]] FacilityType shownType();
 
   private:
     void act(const platform::Control& control, const std::function<void()>& action);

@@ -35,7 +35,7 @@ class Typist {
         project_.errors();
     }
 
-    Outcome design(InfiltrationType type) {
+    Outcome design(FacilityType type) {
         switch (type) {
             case FacilityType::Surface:
                 project_.choose(FacilityType::Surface);
@@ -79,7 +79,7 @@ class Typist {
         }
     }
 
-    void typeTrench(int type) {
+    void typeTrench(FacilityType type) {
         project_.set(window_.txtPorVyplne[type], text(site_.porosity));
         project_.set(window_.txtSirkaRyhy[type], text(site_.trench_width_m));
         project_.set(window_.txtVyskaRyhy[type], text(site_.trench_height_m));
@@ -127,7 +127,7 @@ class Typist {
         }
     }
 
-    Outcome look(InfiltrationType type) {
+    Outcome look(FacilityType type) {
         Outcome seen{.texts = {},
                      .messages = project_.messages(),
                      .errors = project_.errors(),
@@ -143,7 +143,7 @@ class Typist {
     frmCalc& window_ = project_.window();
 };
 
-void compare(InfiltrationType type, const RandomSite& site) {
+void compare(FacilityType type, const RandomSite& site) {
     const Outcome expected = expectedOutcome(type, site);
     RC_PRE(!expected.hangs_on_rounding);
     const Outcome seen = Typist(site).design(type);

@@ -49,7 +49,7 @@ class DesignRain : public DesignTest {
     }
 
   private:
-    void trenchSection(int type) {
+    void trenchSection(FacilityType type) {
         project.set(window.txtSirkaRyhy[type], "1");
         project.set(window.txtVyskaRyhy[type], "1.5");
         project.calculate();

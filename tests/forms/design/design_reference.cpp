@@ -25,7 +25,7 @@ class Design {
         }
     }
 
-    Outcome run(InfiltrationType type) {
+    Outcome run(FacilityType type) {
         switch (type) {
             case FacilityType::Surface:
                 event([this] { surface(); });
@@ -148,7 +148,7 @@ class Design {
     }
 
     /// The confirmation of a sub-panel; false when its box is ticked no more.
-    bool confirmDrain(InfiltrationType type) {
+    bool confirmDrain(FacilityType type) {
         const Exact count = site_.pipe_count;
         if (type == FacilityType::SwaleTrench) {
             throttled_ = store(area_ / 10000 * site_.throttled_l_s_ha / 1000);
@@ -168,7 +168,7 @@ class Design {
     }
 
     /// Ticks the box, fills the sub-panel, confirms; an error leaves the box ticked.
-    bool openDrain(InfiltrationType type) {
+    bool openDrain(FacilityType type) {
         bool ticked = site_.has_drain;
         if (ticked) {
             event([&] { ticked = confirmDrain(type); });
@@ -407,7 +407,7 @@ class Design {
 
 }  // namespace
 
-Outcome expectedOutcome(InfiltrationType type, const RandomSite& site) {
+Outcome expectedOutcome(FacilityType type, const RandomSite& site) {
     return Design(site).run(type);
 }
 

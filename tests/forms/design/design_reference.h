@@ -28,6 +28,6 @@ struct Outcome {
 std::ostream& operator<<(std::ostream& out, const Outcome& outcome);
 
 /// What choosing the type, typing the site and calculating must show.
-Outcome expectedOutcome(InfiltrationType type, const RandomSite& site);
+Outcome expectedOutcome(FacilityType type, const RandomSite& site);
 
 }  // namespace mero::forms::test

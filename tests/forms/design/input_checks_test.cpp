@@ -181,8 +181,8 @@ TEST_F(InputChecks, TypesComputedWhileTypingHaveNothingToPress) {
     project.choose(FacilityType::Swale);
     EXPECT_FALSE(window.cmdCalcul[FacilityType::Swale].onScreen());
     // The command does nothing for them, whoever calls it.
-    window.cmdCalcul_Click(FacilityType::Swale);
-    window.cmdCalcul_Click(FacilityType::None);
+    window.cmdCalcul_Click(2);
+    window.cmdCalcul_Click(0);
     window.cmdCalcul_Click(7);
     EXPECT_THAT(project.messages(), IsEmpty());
 }

@@ -15,7 +15,7 @@ using ::testing::HasSubstr;
 class Pictures : public DesignTest {
   protected:
     /// "30 min" of the marked rain; its position must be that of the picked rain, too.
-    std::string markedRain(int type) {
+    std::string markedRain(FacilityType type) {
         const picture::Chart chart = balanceChart(window, type);
         if (!chart.marked) {
             return "none: " + chart.hint;
@@ -26,7 +26,7 @@ class Pictures : public DesignTest {
         return chart.points[*chart.marked].label + " min";
     }
     /// The dimensions of the section: "name value".
-    std::vector<std::string> dimensions(int type) {
+    std::vector<std::string> dimensions(FacilityType type) {
         std::vector<std::string> texts;
         for (const picture::Dimension& dimension : facilitySection(window, type).dimensions) {
             texts.push_back(dimension.name + " " + dimension.value);

@@ -106,7 +106,7 @@ TEST_F(Rebuild, TankWithoutCoefficientIsGone) {
     EXPECT_EQ(window.txtSoucFiltrace.text(), "");
     EXPECT_EQ(values.txtSoucFiltrace, 0.0F);
     EXPECT_THAT(project.messages(), ElementsAre(critical("Zadejte součinitel filtrace podloží")));
-    EXPECT_EQ(window.SelectedType, 5);
+    EXPECT_EQ(window.SelectedType, data::FacilityType::Shaft);
     EXPECT_EQ(window.cboSelType.position(), -1);
     EXPECT_EQ(project.shownType(), FacilityType::None);
 }

@@ -42,14 +42,14 @@ TEST_F(ShaftInputs, NoShapeIsSelectedAtFirst) {
 
 TEST_F(ShaftInputs, CatalogueFollowsTheShape) {
     chooseRound();
-    EXPECT_EQ(window.ShaftShape, 0);
+    EXPECT_EQ(window.ShaftShape, data::ShaftShape::Round);
     EXPECT_EQ(window.cboTypSachty.items().size(), 8U);
     EXPECT_EQ(window.cboTypSachty.items().front(), "RSA - Q.1 100/../12");
     EXPECT_EQ(window.cboTypSachty.position(), -1);
     EXPECT_FALSE(window.txtPrumerSachtyVnej.enabled());
     EXPECT_TRUE(window.txtPrumerSachtyVnej.greyed());
     chooseRectangular();
-    EXPECT_EQ(window.ShaftShape, 1);
+    EXPECT_EQ(window.ShaftShape, data::ShaftShape::Rectangular);
     EXPECT_EQ(window.cboTypSachty.items().size(), 10U);
     EXPECT_EQ(window.cboTypSachty.items().back(), "RSE 240/610/95");
     EXPECT_TRUE(window.txtPrumerSachtyVnej.enabled());
