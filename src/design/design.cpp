@@ -66,8 +66,6 @@ class Panel {
 
     void run() {
         result_->type_chosen = true;
-        static_cast<data::FacilityInputs&>(numbers()) = data::kOpeningInputs;
-        static_cast<data::PipeInputs&>(numbers()) = data::kOpeningPipes;
         enter([this] { sink_.clearResults(); });
         // Surface infiltration without a design rain leaves no panel to fill in.
         if (!result_->type_chosen) {
@@ -102,7 +100,9 @@ class Panel {
         const auto enter_one = [&]<Input input>() {
             constexpr const InputInfo& row = table::kInputs[index(input)];
             if constexpr (row.stored != nullptr && input != Input::SafetyFactor) {
-                if (table::ofSubPanel(input) == of_sub_panel) {
+                // Without its variant the box of the sand layer is disabled.
+                const bool enabled = input != Input::SandLayer || facility_->sand_layer;
+                if (enabled && table::ofSubPanel(input) == of_sub_panel) {
                     numbers().*row.stored = row.given(*facility_);
                 }
             }
@@ -229,6 +229,8 @@ void runPanel(const Site& site, const Facility& facility, DesignResult& result) 
 
 DesignResult design(const Site& site, const Facility& facility) {
     DesignResult result;
+    static_cast<data::FacilityInputs&>(result.numbers) = data::kOpeningInputs;
+    static_cast<data::PipeInputs&>(result.numbers) = data::kOpeningPipes;
     enterSite(site, result);
     const auto missing = checks::missingInput(result.numbers);
     if (missing) {

@@ -22,8 +22,7 @@ inline constexpr std::array<QuantityInfo, kQuantityCount> kQuantities{{
      &DesignNumbers::VybranaIntenzita},
     {Quantity::InfiltrationArea, "infiltration_area_m2", "Plocha potřebná pro vsakování", "m²",
      &DesignNumbers::txtVsakPlocha, "Vsakovací plocha", true},
-    {Quantity::StorageVolume, "storage_volume_m3", "Objem akumulace průlehu", "m³",
-     &DesignNumbers::txtObjAkum},
+    {Quantity::StorageVolume, "storage_volume_m3", "Objem akumulace", "m³", &DesignNumbers::txtObjAkum},
     {Quantity::WaterDepth, "water_depth_m", "Výška vzdutí", "m", &DesignNumbers::txtVyskaVzduti},
     {Quantity::EmptyingTime, "emptying_time_h", "Doba prázdnění průlehu", "h",
      &DesignNumbers::txtDobaPrazdneni},
@@ -66,18 +65,20 @@ constexpr bool inOrder() {
 }
 static_assert(inOrder(), "a quantity is found by its number");
 
+inline constexpr const char* kSwaleVolume = "Objem akumulace průlehu";
+
 inline constexpr std::array<ResultBox, 1> kSurfaceBoxes{{
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 1, "0"},
 }};
 inline constexpr std::array<ResultBox, 4> kSwaleBoxes{{
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 1, ""},
-    {Quantity::StorageVolume, "txtObjAkum(#)", 1, ""},
+    {Quantity::StorageVolume, "txtObjAkum(#)", 1, "", kSwaleVolume},
     {Quantity::WaterDepth, "txtVyskaVzduti(#)", 2, ""},
     {Quantity::EmptyingTime, "txtDobaPrazdneni(#)", 1, ""},
 }};
 inline constexpr std::array<ResultBox, 6> kSwaleTrenchBoxes{{
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 1, ""},
-    {Quantity::StorageVolume, "txtObjAkum(#)", 1, ""},
+    {Quantity::StorageVolume, "txtObjAkum(#)", 1, "", kSwaleVolume},
     {Quantity::TrenchLength, "txtDelkaRyhy(#)", 1, ""},
     {Quantity::SwaleWidth, "txtSirkaPrulehu(#)", 2, ""},
     {Quantity::SwaleDepth, "txtHloubkaPrulehu(#)", 2, ""},
@@ -88,12 +89,12 @@ inline constexpr std::array<ResultBox, 4> kTrenchBoxes{{
     {Quantity::TrenchLength, "txtDelkaRyhy(#)", 1, ""},
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 1, ""},
     // The report calls the trench's volume the swale's; its labels are a fixed interface.
-    {Quantity::StorageVolume, "txtObjAkum(#)", 1, "", "Objem akumulace", "Objem akumulace průlehu"},
+    {Quantity::StorageVolume, "txtObjAkum(#)", 1, "", nullptr, kSwaleVolume},
 }};
 inline constexpr std::array<ResultBox, 6> kShaftBoxes{{
     {Quantity::WaterDepth, "txtVyskaVzduti(#)", 2},
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 2, nullptr, "Vsakovací plocha šachty"},
-    {Quantity::StorageVolume, "txtObjAkum(#)", 2, nullptr, "Objem akumulace"},
+    {Quantity::StorageVolume, "txtObjAkum(#)", 2},
     {Quantity::ShaftDepth, "txtHloubkaSachty", 2},
     {Quantity::RequiredGroundwaterDepth, "txtPotrHloubkaZahl", 2},
     {Quantity::RequiredFilterPermeability, "txtSoucFiltrPruleh(#)", kScientific},

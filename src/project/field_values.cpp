@@ -41,6 +41,16 @@ float withinLimits(float number) {
     throw std::invalid_argument(reason);
 }
 
+float numberOf(const std::string& expectation, std::string_view text) {
+    float number = 0.0F;
+    try {
+        number = numbers::strictSingle(text);
+    } catch (const RuntimeError&) {
+        refuse(expectation, text);
+    }
+    return withinLimits(number);
+}
+
 std::string expectedNumber(std::string_view unit) {
     return unit.empty() ? "a number" : "a number [" + std::string(unit) + "]";
 }
@@ -67,7 +77,7 @@ float stationOf(const Field& field, std::string_view text) {
 }
 
 float periodicityOf(const Field& field, std::string_view text) {
-    const float number = numberValue(field.unit, text);
+    const float number = numberOf(expected(field), text);
     const auto& periodicities = reference().Periodicita;
     for (std::size_t k = 0; k < periodicities.size(); ++k) {
         if (periodicities[k] == number) {
@@ -89,13 +99,7 @@ const data::ReferenceTables& reference() {
 }
 
 float numberValue(std::string_view unit, std::string_view text) {
-    float number = 0.0F;
-    try {
-        number = numbers::strictSingle(text);
-    } catch (const RuntimeError&) {
-        refuse(expectedNumber(unit), text);
-    }
-    return withinLimits(number);
+    return numberOf(expectedNumber(unit), text);
 }
 
 float singleOf(double number) {
@@ -132,9 +136,9 @@ std::string expected(const Field& field) {
 float fieldValue(const Field& field, std::string_view text) {
     switch (field.kind) {
         case FieldKind::Number:
-            return numberValue(field.unit, text);
+            return numberOf(expected(field), text);
         case FieldKind::WholeNumber: {
-            const float number = numberValue(field.unit, text);
+            const float number = numberOf(expected(field), text);
             if (number != std::floor(number) || number < -32768.0F || number > 32767.0F) {
                 refuse(expected(field), text);
             }

@@ -56,11 +56,14 @@ std::size_t find(const Variants& variants, const std::string& path) {
     return static_cast<std::size_t>(found - all.begin());
 }
 
+bool typesDiffer(const Variants& variants, const PlotPlan& plan) {
+    return plan.lines && variants.variations()[*plan.lines].path() == info(design::Input::Type).path;
+}
+
 Quantity resultOf(const Variants& variants, const PlotWish& wish, const PlotPlan& plan) {
     if (wish.result.empty()) {
-        const bool types_differ = plan.lines && variants.variations()[*plan.lines].path() == "facility.type";
-        return types_differ ? Quantity::StorageVolume
-                            : mainResult(VariantWalk(variants, 0).inputs().facility.type);
+        return typesDiffer(variants, plan) ? Quantity::StorageVolume
+                                           : mainResult(VariantWalk(variants, 0).inputs().facility.type);
     }
     std::vector<std::string> names;
     for (const design::QuantityInfo& quantity : design::quantities()) {
@@ -152,8 +155,11 @@ Chart plotOf(const Variants& variants, const project::RainStore& rain, const Plo
     const Variation& over = all[plan.over];
     const design::QuantityInfo& result = design::info(plan.result);
     Chart chart;
-    // Panels may call a result differently; the first variant's type decides.
-    const char* caption = design::captionOf(plan.result, VariantWalk(variants, 0).inputs().facility.type);
+    // Panels may call a result differently.
+    const char* caption =
+        typesDiffer(variants, plan)
+            ? result.caption
+            : design::captionOf(plan.result, VariantWalk(variants, 0).inputs().facility.type);
     chart.title = caption;
     chart.subtitle = heldValues(variants, plan);
     chart.x = {withUnit(over.label(), over.unit()), over.isLogarithmic()};

@@ -24,7 +24,7 @@ Message asDesigned(const platform::Message& message) {
 }
 
 Message asDesigned(const RuntimeError& error) {
-    return {error.description(), Severity::Refusal, false, error.number()};
+    return {error.description(), Severity::Refusal, false, error.number(), verdictOf(error)};
 }
 
 }  // namespace

@@ -100,7 +100,8 @@ TEST(SwaleTrenchDesign, TheTrenchTakesWhatTheSwaleLetsThrough) {
 
 TEST(SwaleTrenchDesign, AnOverflowWithoutOutflowIsUntickedAgain) {
     Facility facility = facilityOf(FacilityType::SwaleTrench);
-    facility.overflow = {true, 1.0F, 300.0F, 250.0F};
+    facility.overflow = {{.txtPocetPotrubi = 1.0F, .txtPrumTroubVnej = 300.0F, .txtPrumTroubVnit = 250.0F},
+                         true};
     EXPECT_FALSE(design(hourOfRain(), facility).pipes);
     facility.overflow.txtSpecDrenOdtok = 1.0F;
     const DesignResult result = design(hourOfRain(), facility);
@@ -125,7 +126,8 @@ TEST(TrenchDesign, LengthVolumeAndDrain) {
     EXPECT_EQ(plain.value(Quantity::DrainOutflow), 0.0F);
     EXPECT_THAT(told(plain), IsEmpty());
 
-    facility.drain = {true, 2.0F, 160.0F, 145.0F};
+    facility.drain = {{.txtPocetPotrubi = 2.0F, .txtPrumTroubVnej = 160.0F, .txtPrumTroubVnit = 145.0F},
+                      true};
     facility.drain.txtVystupPlocha = 50.0F;
     facility.drain.txtVystupRychlost = 0.1F;
     const DesignResult drained = design(hourOfRain(), facility);

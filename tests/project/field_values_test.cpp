@@ -28,25 +28,25 @@ std::string errorOf(const char* path, std::string_view text) {
 }
 
 TEST(FieldValue, NumbersFollowTheBoxes) {
-    EXPECT_EQ(valueOf("facility.txtSirkaRyhy", "1.2"), 1.2F);
-    EXPECT_EQ(valueOf("facility.txtSirkaRyhy", " 1 000 "), 1000.0F);
-    EXPECT_EQ(valueOf("facility.txtSirkaRyhy", "-1e12"), -1e12F);
-    EXPECT_EQ(errorOf("facility.txtSirkaRyhy", "1,2"), "expected a number [m], not \"1,2\"");
-    EXPECT_EQ(errorOf("facility.txtSklonSvahuNadrz", ""), "expected a number, not \"\"");
-    EXPECT_EQ(errorOf("facility.txtSirkaRyhy", "1e39"), "expected a number [m], not \"1e39\"");
-    EXPECT_EQ(errorOf("facility.txtSirkaRyhy", "1.1e12"), "expected a number from -1e12 to 1e12");
-    EXPECT_EQ(errorOf("facility.txtSirkaRyhy", "-1.1e12"), "expected a number from -1e12 to 1e12");
+    EXPECT_EQ(valueOf("facility.trench_width_m", "1.2"), 1.2F);
+    EXPECT_EQ(valueOf("facility.trench_width_m", " 1 000 "), 1000.0F);
+    EXPECT_EQ(valueOf("facility.trench_width_m", "-1e12"), -1e12F);
+    EXPECT_EQ(errorOf("facility.trench_width_m", "1,2"), "expected a number [m], not \"1,2\"");
+    EXPECT_EQ(errorOf("facility.side_slope", ""), "expected a number [1 : n], not \"\"");
+    EXPECT_EQ(errorOf("facility.trench_width_m", "1e39"), "expected a number [m], not \"1e39\"");
+    EXPECT_EQ(errorOf("facility.trench_width_m", "1.1e12"), "expected a number from -1e12 to 1e12");
+    EXPECT_EQ(errorOf("facility.trench_width_m", "-1.1e12"), "expected a number from -1e12 to 1e12");
 }
 
 TEST(FieldValue, CountsAreWholeNumbersOfSixteenBits) {
-    EXPECT_EQ(valueOf("facility.txtSachtyCount", "3"), 3.0F);
-    EXPECT_EQ(valueOf("facility.txtSachtyCount", "-32768"), -32768.0F);
-    EXPECT_EQ(valueOf("facility.txtSachtyCount", "32767"), 32767.0F);
+    EXPECT_EQ(valueOf("facility.shaft_count", "3"), 3.0F);
+    EXPECT_EQ(valueOf("facility.shaft_count", "-32768"), -32768.0F);
+    EXPECT_EQ(valueOf("facility.shaft_count", "32767"), 32767.0F);
     constexpr const char* kExpected = "expected a whole number from -32768 to 32767, not ";
-    EXPECT_EQ(errorOf("facility.txtSachtyCount", "1.5"), std::string(kExpected) + "\"1.5\"");
-    EXPECT_EQ(errorOf("facility.txtSachtyCount", "32768"), std::string(kExpected) + "\"32768\"");
-    EXPECT_EQ(errorOf("facility.txtSachtyCount", "-32769"), std::string(kExpected) + "\"-32769\"");
-    EXPECT_EQ(errorOf("facility.txtSachtyCount", "two"), std::string(kExpected) + "\"two\"");
+    EXPECT_EQ(errorOf("facility.shaft_count", "1.5"), std::string(kExpected) + "\"1.5\"");
+    EXPECT_EQ(errorOf("facility.shaft_count", "32768"), std::string(kExpected) + "\"32768\"");
+    EXPECT_EQ(errorOf("facility.shaft_count", "-32769"), std::string(kExpected) + "\"-32769\"");
+    EXPECT_EQ(errorOf("facility.shaft_count", "two"), std::string(kExpected) + "\"two\"");
 }
 
 TEST(FieldValue, TruthsAreTwoWords) {

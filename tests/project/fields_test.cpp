@@ -32,13 +32,13 @@ const std::vector<Place>& places() {
         {"rain.design_duration_min", [](const Inputs& in) { return in.rain.design_duration_min; }},
         {"subsoil.filtration_coefficient_m_s", [](const Inputs& in) { return in.filtration_m_s; }},
         {"subsoil.groundwater_depth_m", [](const Inputs& in) { return in.groundwater_depth_m; }},
-        {"facility.txtSoucBezp", [](const Inputs& in) { return in.facility.txtSoucBezp; }},
+        {"facility.safety_factor", [](const Inputs& in) { return in.facility.txtSoucBezp; }},
         {"facility.soil", [](const Inputs& in) { return static_cast<float>(in.facility.soil_option); }},
         {"facility.swale_filtration_coefficient_m_s",
          [](const Inputs& in) { return in.facility.txtSoucFiltrPruleh; }},
-        {"facility.txtPorVyplne", [](const Inputs& in) { return in.facility.txtPorVyplne; }},
-        {"facility.txtSirkaRyhy", [](const Inputs& in) { return in.facility.txtSirkaRyhy; }},
-        {"facility.txtVyskaRyhy", [](const Inputs& in) { return in.facility.txtVyskaRyhy; }},
+        {"facility.fill_porosity", [](const Inputs& in) { return in.facility.txtPorVyplne; }},
+        {"facility.trench_width_m", [](const Inputs& in) { return in.facility.txtSirkaRyhy; }},
+        {"facility.trench_height_m", [](const Inputs& in) { return in.facility.txtVyskaRyhy; }},
         {"facility.overflow.pipe_count",
          [](const Inputs& in) { return in.facility.overflow.txtPocetPotrubi; }},
         {"facility.overflow.pipe_outer_diameter_mm",
@@ -58,21 +58,22 @@ const std::vector<Place>& places() {
          [](const Inputs& in) { return in.facility.drain.txtVystupRychlost; }},
         {"facility.catalogue_shaft",
          [](const Inputs& in) { return static_cast<float>(in.facility.catalogue_row); }},
-        {"facility.txtSachtyCount",
+        {"facility.shaft_count",
          [](const Inputs& in) { return static_cast<float>(in.facility.txtSachtyCount); }},
         {"facility.inner_diameter_m", [](const Inputs& in) { return in.facility.inner_diameter_m; }},
         {"facility.inner_width_m", [](const Inputs& in) { return in.facility.inner_width_m; }},
-        {"facility.txtPrumerSachtyVnej", [](const Inputs& in) { return in.facility.txtPrumerSachtyVnej; }},
-        {"facility.txtTloustkaSteny", [](const Inputs& in) { return in.facility.txtTloustkaSteny; }},
-        {"facility.txtMinPrusakDraha", [](const Inputs& in) { return in.facility.txtMinPrusakDraha; }},
+        {"facility.inner_length_m", [](const Inputs& in) { return in.facility.txtPrumerSachtyVnej; }},
+        {"facility.wall_thickness_m", [](const Inputs& in) { return in.facility.txtTloustkaSteny; }},
+        {"facility.seepage_path_m", [](const Inputs& in) { return in.facility.txtMinPrusakDraha; }},
         {"facility.inlet_frost_depth_m", [](const Inputs& in) { return in.facility.txtNezamrzHlPritok; }},
-        {"facility.txtVyskaFiltrVrstvy", [](const Inputs& in) { return in.facility.txtVyskaFiltrVrstvy; }},
-        {"facility.txtVyskaPiskVrstvy", [](const Inputs& in) { return in.facility.txtVyskaPiskVrstvy; }},
-        {"facility.txtSpecMeroIntenz", [](const Inputs& in) { return in.facility.txtSpecMeroIntenz; }},
-        {"facility.txtDelkaDnaNadrz", [](const Inputs& in) { return in.facility.txtDelkaDnaNadrz; }},
-        {"facility.txtSirkaDnaNadrz", [](const Inputs& in) { return in.facility.txtSirkaDnaNadrz; }},
-        {"facility.txtHloubkaNadrz", [](const Inputs& in) { return in.facility.txtHloubkaNadrz; }},
-        {"facility.txtSklonSvahuNadrz", [](const Inputs& in) { return in.facility.txtSklonSvahuNadrz; }},
+        {"facility.filter_layer_m", [](const Inputs& in) { return in.facility.txtVyskaFiltrVrstvy; }},
+        {"facility.sand_layer_m", [](const Inputs& in) { return in.facility.txtVyskaPiskVrstvy; }},
+        {"facility.specific_infiltration_l_s_ha",
+         [](const Inputs& in) { return in.facility.txtSpecMeroIntenz; }},
+        {"facility.bottom_length_m", [](const Inputs& in) { return in.facility.txtDelkaDnaNadrz; }},
+        {"facility.bottom_width_m", [](const Inputs& in) { return in.facility.txtSirkaDnaNadrz; }},
+        {"facility.tank_depth_m", [](const Inputs& in) { return in.facility.txtHloubkaNadrz; }},
+        {"facility.side_slope", [](const Inputs& in) { return in.facility.txtSklonSvahuNadrz; }},
         // Not numbers; only whether there is one.
         {"facility.type", [](const Inputs& in) { return static_cast<float>(in.facility.type); }},
         {"facility.shape", [](const Inputs& in) { return static_cast<float>(in.facility.shape); }},
@@ -137,7 +138,7 @@ TEST(Fields, AreFoundByTheirWholePathOnly) {
     EXPECT_EQ(findField("trench_width_m"), nullptr);
     EXPECT_EQ(findField("facility"), nullptr);
     EXPECT_EQ(findField(""), nullptr);
-    EXPECT_THAT(choices(*findField("facility.txtSirkaRyhy")), IsEmpty());
+    EXPECT_THAT(choices(*findField("facility.trench_width_m")), IsEmpty());
 }
 
 TEST(Fields, NamesAreThoseRightInTheObject) {
@@ -200,36 +201,35 @@ TEST(MissingValue, EveryTypeNeedsWhatHasNoOpeningValue) {
     EXPECT_THAT(askedFor(facilityOf(FacilityType::Surface)), IsEmpty());
     EXPECT_THAT(askedFor(facilityOf(FacilityType::Swale)), IsEmpty());
     EXPECT_THAT(askedFor(facilityOf(FacilityType::SwaleTrench)),
-                ElementsAre("facility.swale_filtration_coefficient_m_s", "facility.txtSirkaRyhy",
-                            "facility.txtVyskaRyhy"));
+                ElementsAre("facility.swale_filtration_coefficient_m_s", "facility.trench_width_m",
+                            "facility.trench_height_m"));
     EXPECT_THAT(askedFor(facilityOf(FacilityType::Trench)),
-                ElementsAre("facility.txtSirkaRyhy", "facility.txtVyskaRyhy"));
-    EXPECT_THAT(
-        askedFor(facilityOf(FacilityType::Tank)),
-        ElementsAre("facility.txtSpecMeroIntenz", "facility.txtDelkaDnaNadrz", "facility.txtSirkaDnaNadrz",
-                    "facility.txtHloubkaNadrz", "facility.txtSklonSvahuNadrz"));
+                ElementsAre("facility.trench_width_m", "facility.trench_height_m"));
+    EXPECT_THAT(askedFor(facilityOf(FacilityType::Tank)),
+                ElementsAre("facility.specific_infiltration_l_s_ha", "facility.bottom_length_m",
+                            "facility.bottom_width_m", "facility.tank_depth_m", "facility.side_slope"));
 }
 
 TEST(MissingValue, AShaftNeedsTheDimensionsOfItsShape) {
     Facility shaft = facilityOf(FacilityType::Shaft);
     EXPECT_THAT(askedFor(shaft),
-                ElementsAre("facility.inlet_frost_depth_m", "facility.txtVyskaFiltrVrstvy", "facility.shape",
-                            "facility.txtTloustkaSteny", "facility.inner_diameter_m"));
+                ElementsAre("facility.inlet_frost_depth_m", "facility.filter_layer_m", "facility.shape",
+                            "facility.wall_thickness_m", "facility.inner_diameter_m"));
     shaft.shape = ShaftShape::Rectangular;
     shaft.sand_layer = true;
     EXPECT_THAT(askedFor(shaft),
-                ElementsAre("facility.inlet_frost_depth_m", "facility.txtVyskaFiltrVrstvy",
-                            "facility.txtVyskaPiskVrstvy", "facility.shape", "facility.txtTloustkaSteny",
-                            "facility.inner_width_m", "facility.txtPrumerSachtyVnej"));
+                ElementsAre("facility.inlet_frost_depth_m", "facility.filter_layer_m",
+                            "facility.sand_layer_m", "facility.shape", "facility.wall_thickness_m",
+                            "facility.inner_width_m", "facility.inner_length_m"));
 }
 
 TEST(MissingValue, ARingOfTheCatalogueBringsItsDimensions) {
     Facility shaft = facilityOf(FacilityType::Shaft);
     shaft.catalogue_row = 0;
-    EXPECT_THAT(askedFor(shaft), ElementsAre("facility.inlet_frost_depth_m", "facility.txtVyskaFiltrVrstvy"));
+    EXPECT_THAT(askedFor(shaft), ElementsAre("facility.inlet_frost_depth_m", "facility.filter_layer_m"));
     shaft.sand_layer = true;
-    EXPECT_THAT(askedFor(shaft, {"facility.txtVyskaFiltrVrstvy"}),
-                ElementsAre("facility.inlet_frost_depth_m", "facility.txtVyskaPiskVrstvy"));
+    EXPECT_THAT(askedFor(shaft, {"facility.filter_layer_m"}),
+                ElementsAre("facility.inlet_frost_depth_m", "facility.sand_layer_m"));
 }
 
 }  // namespace

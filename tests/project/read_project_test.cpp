@@ -84,14 +84,14 @@ TEST(ReadProject, UnknownNamesSuggestTheNearest) {
 
 TEST(ReadProject, WrongTypesAreToldWithWhatWasExpected) {
     EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "trench_width_m": "1.2")")),
-              "p.json: facility.txtSirkaRyhy: expected a number [m], not \"1.2\"");
+              "p.json: facility.trench_width_m: expected a number [m], not \"1.2\"");
     EXPECT_EQ(
         errorOf(withFacility(R"("type": 4)")),
         "p.json: facility.type: expected one of: surface, swale, swale_trench, trench, shaft, tank, not 4");
     EXPECT_EQ(errorOf(withFacility(R"("type": "tank", "upstream_settling": 1)")),
               "p.json: facility.upstream_settling: expected true or false, not 1");
     EXPECT_EQ(errorOf(withFacility(R"("type": "shaft", "shaft_count": 1.5)")),
-              "p.json: facility.txtSachtyCount: expected a whole number from -32768 to 32767, not \"1.5\"");
+              "p.json: facility.shaft_count: expected a whole number from -32768 to 32767, not \"1.5\"");
     EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "drain": true)")),
               "p.json: facility.drain: expected an object, not true");
     EXPECT_EQ(errorOf("[]"), "p.json: the document: expected an object, not a list");
@@ -101,7 +101,7 @@ TEST(ReadProject, WrongTypesAreToldWithWhatWasExpected) {
 
 TEST(ReadProject, MissingValuesOfTheChosenTypeAreTold) {
     EXPECT_EQ(errorOf(withFacility(R"("type": "trench", "trench_width_m": 1)")),
-              "p.json: facility.txtVyskaRyhy: is missing: expected a number [m]");
+              "p.json: facility.trench_height_m: is missing: expected a number [m]");
     EXPECT_EQ(
         errorOf(withFacility(R"("safety_factor": 1)")),
         "p.json: facility.type: is missing: expected one of: surface, swale, swale_trench, trench, shaft, "
@@ -114,7 +114,7 @@ TEST(ReadProject, MissingValuesOfTheChosenTypeAreTold) {
     EXPECT_THAT(errorOf(withFacility(shaft)), StartsWith("p.json: facility.shape: is missing"));
     EXPECT_THAT(
         errorOf(withFacility(shaft + R"(, "variant": "type_b", "catalogue_shaft": "RSB - Q 160/200")")),
-        StartsWith("p.json: facility.txtVyskaPiskVrstvy: is missing"));
+        StartsWith("p.json: facility.sand_layer_m: is missing"));
     EXPECT_EQ(errorOf(withFacility(shaft + R"(, "catalogue_shaft": "RSB - Q 160/200")")), "");
 }
 
@@ -122,7 +122,7 @@ TEST(ReadProject, ARingHasItsOwnDimensions) {
     EXPECT_EQ(errorOf(withFacility(
                   R"("type": "shaft", "catalogue_shaft": "RSB - Q 160/200", "inlet_frost_depth_m": 1,
                                       "filter_layer_m": 1, "wall_thickness_m": 1)")),
-              "p.json: facility.txtTloustkaSteny: does not go with \"catalogue_shaft\", which has its own "
+              "p.json: facility.wall_thickness_m: does not go with \"catalogue_shaft\", which has its own "
               "dimensions");
 }
 
@@ -218,7 +218,7 @@ TEST(ReadProject, LongAndNestedValuesAreNotRepeatedInTheMessage) {
     EXPECT_THAT(errorOf(withFacility("\"type\": \"trench\", \"trench_width_m\": \"" + longest + "\"")),
                 HasSubstr("not \"" + longest + "\""));
     EXPECT_EQ(errorOf(withFacility("\"type\": \"trench\", \"trench_width_m\": \"" + longest + "x\"")),
-              "p.json: facility.txtSirkaRyhy: expected a number [m], not a longer text");
+              "p.json: facility.trench_width_m: expected a number [m], not a longer text");
     EXPECT_EQ(errorOf(document(R"("rain": {"intensities_l_s_ha": {}, "periodicity": 1})")),
               "p.json: rain.intensities_l_s_ha: expected a list of nine numbers, not an object");
     EXPECT_EQ(errorOf(document(R"("rain": {"intensities_l_s_ha": 3, "periodicity": 1})")),

@@ -21,7 +21,7 @@ constexpr std::size_t kWhole = 1000;
 
 TEST(ShownText, OrdinaryTextsStandAsTheyAre) {
     for (const char* text :
-         {"", "facility.txtSirkaRyhy", "expected \"round\", not \"kulatá\"", "a\\b", "€ 日本 💧"}) {
+         {"", "facility.trench_width_m", "expected \"round\", not \"kulatá\"", "a\\b", "€ 日本 💧"}) {
         EXPECT_EQ(shownText(text, kWhole), text);
     }
 }

@@ -49,7 +49,7 @@ TEST(Csv, ARowIsWhatTheDesignGives) {
 }
 
 TEST(Csv, AResultThatIsMissingIsAnEmptyCell) {
-    const std::string rows = rowsOf(variants({"facility.txtSirkaRyhy=-1,0"}));
+    const std::string rows = rowsOf(variants({"facility.trench_width_m=-1,0"}));
     EXPECT_EQ(rows,
               "-1,870,0.0001,15.486,15,178,,,,,,,trench_width_not_positive,\r\n"
               "0,870,0.0001,15.486,15,178,,,,,,,trench_width_not_positive,\r\n");
@@ -57,16 +57,16 @@ TEST(Csv, AResultThatIsMissingIsAnEmptyCell) {
 
 TEST(Csv, VerdictsStandInTheirOrderWithBlanksBetween) {
     // Mean flow through 60 m2 of bottom and 134.16 m2 of top at 1e-5 m/s: 0.00097 against 0.00087 m3/s.
-    EXPECT_THAT(rowsOf(variants({"facility.type=tank", "facility.txtHloubkaNadrz=0.9"})),
+    EXPECT_THAT(rowsOf(variants({"facility.type=tank", "facility.tank_depth_m=0.9"})),
                 EndsWith(",tank_volume_sufficient tank_infiltration_proven,\r\n"));
 }
 
 TEST(Csv, ARuntimeErrorIsToldByItsNumber) {
-    EXPECT_THAT(rowsOf(variants({"facility.txtSoucBezp=0"})), EndsWith(",runtime_error_11,11\r\n"));
+    EXPECT_THAT(rowsOf(variants({"facility.safety_factor=0"})), EndsWith(",runtime_error_11,11\r\n"));
 }
 
 TEST(Csv, RowsOfPartsJoinToTheWhole) {
-    const Variants all = variants({"facility.type=all", "facility.txtSoucBezp=1:2:0.25"});
+    const Variants all = variants({"facility.type=all", "facility.safety_factor=1:2:0.25"});
     const project::RainStore rain;
     const CsvTable table(all, rain);
     std::string joined;

@@ -26,39 +26,39 @@ Chart chartOf(const std::vector<std::string>& texts, const PlotWish& wish = {}) 
 }
 
 TEST(Plot, TheFirstNumberIsTheAxisAndTheNextValueTheLines) {
-    const Chart chart =
-        chartOf({"rain.periodicity=0.5,0.2", "facility.txtSirkaRyhy=1,2,3"}, over("facility.txtSirkaRyhy"));
-    EXPECT_EQ(chart.title, "Délka rýhy");
+    const Chart chart = chartOf({"rain.periodicity=0.5,0.2", "facility.trench_width_m=1,2,3"},
+                                over("facility.trench_width_m"));
+    EXPECT_EQ(chart.title, "Délka vsakovací rýhy");
     EXPECT_EQ(chart.x.label, "Šířka rýhy (střední) [m]");
     EXPECT_EQ(chart.y.label, "Délka vsakovací rýhy [m]");
     EXPECT_THAT(chart.x_values, ElementsAre(1.0, 2.0, 3.0));
     ASSERT_THAT(chart.series, SizeIs(2));
     EXPECT_EQ(chart.series[1].name, "0.2");
-    EXPECT_THAT(chartOf({"facility.type=all", "facility.txtSoucBezp=1,2"}).x_values, ElementsAre(1.0, 2.0));
+    EXPECT_THAT(chartOf({"facility.type=all", "facility.safety_factor=1,2"}).x_values, ElementsAre(1.0, 2.0));
 }
 
 TEST(Plot, FurtherValuesStayAtTheirFirstAndAreNamed) {
-    const Chart chart =
-        chartOf({"facility.txtSirkaRyhy=1,2", "facility.txtVyskaRyhy=1,2", "facility.txtPorVyplne=0.3,0.4"});
+    const Chart chart = chartOf(
+        {"facility.trench_width_m=1,2", "facility.trench_height_m=1,2", "facility.fill_porosity=0.3,0.4"});
     EXPECT_EQ(chart.subtitle, "Pórovitost výplně rýhy = 0.3");
 }
 
 TEST(Plot, AResultThatIsMissingInterruptsItsLine) {
-    const Chart chart = chartOf({"facility.txtSirkaRyhy=0,1,2"});
+    const Chart chart = chartOf({"facility.trench_width_m=0,1,2"});
     EXPECT_FALSE(chart.series[0].values[0].has_value());
     EXPECT_TRUE(chart.series[0].values[1].has_value());
     EXPECT_TRUE(chart.legend.empty());
 }
 
 TEST(Plot, ATypeWithoutTheResultHasNoLine) {
-    const Chart chart = chartOf({"facility.type=surface,trench", "facility.txtSoucBezp=1,2"});
+    const Chart chart = chartOf({"facility.type=surface,trench", "facility.safety_factor=1,2"});
     ASSERT_THAT(chart.series, SizeIs(1));
     EXPECT_EQ(chart.series[0].name, "trench");
 }
 
 TEST(Plot, ALogarithmicRangeGetsALogarithmicAxis) {
     EXPECT_TRUE(chartOf({"subsoil.filtration_coefficient_m_s=log:1e-6:1e-3:5"}).x.logarithmic);
-    EXPECT_FALSE(chartOf({"facility.txtSoucBezp=1:2:0.1"}).x.logarithmic);
+    EXPECT_FALSE(chartOf({"facility.safety_factor=1:2:0.1"}).x.logarithmic);
 }
 
 TEST(Plot, WishesThatDoNotFitAreTold) {
@@ -66,43 +66,44 @@ TEST(Plot, WishesThatDoNotFitAreTold) {
         return [=] { checkPlot(variants(texts), wish); };
     };
     EXPECT_THAT(check({"facility.soil=all"}, {}), ThrowsMessage<VariationError>(HasSubstr("vary a number")));
-    EXPECT_THAT(check({"facility.txtSoucBezp=1,2"}, PlotWish{"storage_volume", "", ""}),
+    EXPECT_THAT(check({"facility.safety_factor=1,2"}, PlotWish{"storage_volume", "", ""}),
                 ThrowsMessage<VariationError>(HasSubstr("did you mean \"storage_volume_m3\"?")));
-    EXPECT_THAT(check({"facility.txtSoucBezp=1,2"}, over("facility.soil")),
+    EXPECT_THAT(check({"facility.safety_factor=1,2"}, over("facility.soil")),
                 ThrowsMessage<VariationError>(HasSubstr("is not varied")));
-    EXPECT_THAT(check({"facility.soil=all", "facility.txtSoucBezp=1,2"}, over("facility.soil")),
+    EXPECT_THAT(check({"facility.soil=all", "facility.safety_factor=1,2"}, over("facility.soil")),
                 ThrowsMessage<VariationError>(HasSubstr("is no number")));
-    EXPECT_THAT(check({"facility.txtSoucBezp=1:30:1", "facility.txtPorVyplne=1:30:1"}, {}),
+    EXPECT_THAT(check({"facility.safety_factor=1:30:1", "facility.fill_porosity=1:30:1"}, {}),
                 ThrowsMessage<VariationError>(HasSubstr("24 lines")));
 }
 
 TEST(Plot, EachTypeShowsItsMainResult) {
     const auto title = [](const std::string& type) {
-        return chartOf({"facility.type=" + type, "facility.txtSoucBezp=1,2"}, over("facility.txtSoucBezp"))
+        return chartOf({"facility.type=" + type, "facility.safety_factor=1,2"},
+                       over("facility.safety_factor"))
             .title;
     };
-    EXPECT_EQ(title("swale,trench"), "Potřebný akumulační objem");  // types side by side
+    EXPECT_EQ(title("swale,trench"), "Objem akumulace");  // types side by side
     const auto titleOfOne = [](const std::string& type) {
-        return chartOf({"facility.txtSoucBezp=1,2", "facility.type=" + type, "facility.soil=all"},
+        return chartOf({"facility.safety_factor=1,2", "facility.type=" + type, "facility.soil=all"},
                        {"", "", "facility.soil"})
             .title;
     };
     EXPECT_EQ(titleOfOne("surface"), "Plocha potřebná pro vsakování");
-    EXPECT_EQ(titleOfOne("swale"), "Potřebný akumulační objem");
-    EXPECT_EQ(titleOfOne("swale_trench"), "Délka rýhy");
-    EXPECT_EQ(titleOfOne("trench"), "Délka rýhy");
+    EXPECT_EQ(titleOfOne("swale"), "Objem akumulace průlehu");
+    EXPECT_EQ(titleOfOne("swale_trench"), "Délka vsakovací rýhy");
+    EXPECT_EQ(titleOfOne("trench"), "Délka vsakovací rýhy");
     EXPECT_EQ(titleOfOne("shaft"), "Výška vzdutí");
-    EXPECT_EQ(titleOfOne("tank"), "Potřebný akumulační objem");
+    EXPECT_EQ(titleOfOne("tank"), "Potřebný objem akumulace");
 }
 
 TEST(Plot, AWishedResultTakesThePlaceOfTheMainOne) {
-    const Chart chart = chartOf({"facility.txtSirkaRyhy=1,2"}, {"infiltration_area_m2", "", ""});
+    const Chart chart = chartOf({"facility.trench_width_m=1,2"}, {"infiltration_area_m2", "", ""});
     EXPECT_EQ(chart.y.label, "Plocha potřebná pro vsakování [m²]");
 }
 
 TEST(Plot, TheWishedLinesLeaveTheOtherNumberForTheAxis) {
-    const Chart chart = chartOf({"facility.txtSirkaRyhy=1,2,3", "facility.txtVyskaRyhy=1,2"},
-                                {"", "", "facility.txtSirkaRyhy"});
+    const Chart chart = chartOf({"facility.trench_width_m=1,2,3", "facility.trench_height_m=1,2"},
+                                {"", "", "facility.trench_width_m"});
     EXPECT_EQ(chart.x.label, "Výška rýhy [m]");
     EXPECT_EQ(chart.legend, "Šířka rýhy (střední) [m]");
     ASSERT_THAT(chart.series, SizeIs(3));
@@ -110,9 +111,9 @@ TEST(Plot, TheWishedLinesLeaveTheOtherNumberForTheAxis) {
 }
 
 TEST(Plot, HeldValuesCarryTheirUnitAndAreJoined) {
-    EXPECT_EQ(chartOf({"facility.txtPorVyplne=0.3,0.4", "facility.soil=all", "facility.txtVyskaRyhy=1,2",
-                       "facility.txtSirkaRyhy=0.5,1"},
-                      {"", "facility.txtPorVyplne", "facility.soil"})
+    EXPECT_EQ(chartOf({"facility.fill_porosity=0.3,0.4", "facility.soil=all", "facility.trench_height_m=1,2",
+                       "facility.trench_width_m=0.5,1"},
+                      {"", "facility.fill_porosity", "facility.soil"})
                   .subtitle,
               "Výška rýhy = 1 m, Šířka rýhy (střední) = 0.5 m");
 }
@@ -140,13 +141,13 @@ TEST(Plot, AxisAndLinesDifferAndHaveTheirLimits) {
         return [=] { checkPlot(variants(texts), wish); };
     };
     EXPECT_THAT(
-        check({"facility.txtSoucBezp=1,2"}, {"", "facility.txtSoucBezp", "facility.txtSoucBezp"}),
-        ThrowsMessage<VariationError>("facility.txtSoucBezp: cannot be the axis and the lines at once"));
-    EXPECT_THAT(check({"facility.txtSoucBezp=1:2001:1"}, {}),
+        check({"facility.safety_factor=1,2"}, {"", "facility.safety_factor", "facility.safety_factor"}),
+        ThrowsMessage<VariationError>("facility.safety_factor: cannot be the axis and the lines at once"));
+    EXPECT_THAT(check({"facility.safety_factor=1:2001:1"}, {}),
                 ThrowsMessage<VariationError>(HasSubstr("2000 points")));
-    EXPECT_NO_THROW(check({"facility.txtSoucBezp=1:2000:1"}, {})());
-    EXPECT_NO_THROW(check({"facility.txtSoucBezp=1:30:1", "facility.txtPorVyplne=1:24:1"}, {})());
-    EXPECT_THAT(check({"facility.txtSoucBezp=1,2"}, PlotWish{"xyz", "", ""}),
+    EXPECT_NO_THROW(check({"facility.safety_factor=1:2000:1"}, {})());
+    EXPECT_NO_THROW(check({"facility.safety_factor=1:30:1", "facility.fill_porosity=1:24:1"}, {})());
+    EXPECT_THAT(check({"facility.safety_factor=1,2"}, PlotWish{"xyz", "", ""}),
                 ThrowsMessage<VariationError>("xyz: is no result"));
 }
 

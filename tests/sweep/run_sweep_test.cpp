@@ -117,7 +117,7 @@ TEST_P(RunSweep, AnExceptionOfTheWriterReachesTheCaller) {
 
 TEST_P(RunSweep, DesignsAreTheSameOnAnyNumberOfThreads) {
     const Variants all = test::variants(
-        {"facility.type=all", "facility.txtSirkaRyhy=-0.2:2:0.1", "facility.txtSoucBezp=0:2:0.1"});
+        {"facility.type=all", "facility.trench_width_m=-0.2:2:0.1", "facility.safety_factor=0:2:0.1"});
     const project::RainStore rain;
     const CsvTable table(all, rain);
     std::string expected;

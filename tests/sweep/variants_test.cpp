@@ -17,7 +17,7 @@ using ::testing::HasSubstr;
 using ::testing::ThrowsMessage;
 
 TEST(Variants, TheLastVariationRunsFastest) {
-    const Variants all = variants({"facility.txtSirkaRyhy=1,2", "facility.txtVyskaRyhy=1,2,3"});
+    const Variants all = variants({"facility.trench_width_m=1,2", "facility.trench_height_m=1,2,3"});
     EXPECT_EQ(all.count(), 6U);
     VariantWalk walk(all, 0);
     EXPECT_THAT(walk.positions(), ElementsAre(0, 0));
@@ -31,7 +31,7 @@ TEST(Variants, TheLastVariationRunsFastest) {
 }
 
 TEST(Variants, AWalkMayBeginAnywhere) {
-    const Variants all = variants({"facility.txtSirkaRyhy=1,2", "facility.txtVyskaRyhy=1,2,3"});
+    const Variants all = variants({"facility.trench_width_m=1,2", "facility.trench_height_m=1,2,3"});
     VariantWalk stepped(all, 0);
     for (std::uint64_t n = 0; n < all.count(); ++n, stepped.next()) {
         EXPECT_EQ(VariantWalk(all, n).positions(), stepped.positions());
@@ -60,7 +60,7 @@ TEST(Variants, EveryTypeNeedsItsValues) {
                     HasSubstr("facility.swale_filtration_coefficient_m_s: is missing in the project")));
     // What is varied need not be in the project.
     EXPECT_EQ(
-        variants({"facility.type=trench", "facility.txtSirkaRyhy=1", "facility.txtVyskaRyhy=1,2"}, swale)
+        variants({"facility.type=trench", "facility.trench_width_m=1", "facility.trench_height_m=1,2"}, swale)
             .count(),
         2U);
 }
@@ -71,11 +71,10 @@ TEST(Variants, EveryCombinationOfTheDecidingChoicesNeedsItsValues) {
             "facility": {"type": "shaft", "shape": "round", "inner_diameter_m": 1, "wall_thickness_m": 0.1,
                          "inlet_frost_depth_m": 1, "filter_layer_m": 1}})",
         "p.json");
-    EXPECT_EQ(variants({"facility.txtTloustkaSteny=0.1,0.2"}, shaft).count(), 2U);
-    EXPECT_THAT(
-        [&] { static_cast<void>(variants({"facility.variant=all"}, shaft)); },
-        ThrowsMessage<VariationError>(HasSubstr("facility.txtVyskaPiskVrstvy: is missing in the project")));
-    EXPECT_EQ(variants({"facility.variant=all", "facility.txtVyskaPiskVrstvy=0.1,0.2"}, shaft).count(), 4U);
+    EXPECT_EQ(variants({"facility.wall_thickness_m=0.1,0.2"}, shaft).count(), 2U);
+    EXPECT_THAT([&] { static_cast<void>(variants({"facility.variant=all"}, shaft)); },
+                ThrowsMessage<VariationError>(HasSubstr("facility.sand_layer_m: is missing in the project")));
+    EXPECT_EQ(variants({"facility.variant=all", "facility.sand_layer_m=0.1,0.2"}, shaft).count(), 4U);
     // Only a rectangular shaft has a width; a ring needs neither.
     EXPECT_THAT(
         [&] { static_cast<void>(variants({"facility.shape=round,rectangular"}, shaft)); },

@@ -39,11 +39,11 @@ TEST(Variation, ListsKeepTheirOrder) {
 }
 
 TEST(Variation, RangesTakeTheirEndAndAddUpNoError) {
-    EXPECT_THAT(textsOf("facility.txtSirkaRyhy=0.6:1.2:0.1"),
+    EXPECT_THAT(textsOf("facility.trench_width_m=0.6:1.2:0.1"),
                 ElementsAre("0.6", "0.7", "0.8", "0.9", "1", "1.1", "1.2"));
-    EXPECT_THAT(textsOf("facility.txtSirkaRyhy=0:1:0.4"), ElementsAre("0", "0.4", "0.8"));
-    EXPECT_THAT(textsOf("facility.txtSachtyCount=3:1:-1"), ElementsAre("3", "2", "1"));
-    EXPECT_THAT(textsOf("facility.txtSirkaRyhy=2:2:1"), ElementsAre("2"));
+    EXPECT_THAT(textsOf("facility.trench_width_m=0:1:0.4"), ElementsAre("0", "0.4", "0.8"));
+    EXPECT_THAT(textsOf("facility.shaft_count=3:1:-1"), ElementsAre("3", "2", "1"));
+    EXPECT_THAT(textsOf("facility.trench_width_m=2:2:1"), ElementsAre("2"));
 }
 
 TEST(Variation, NegativeAndLargeNumbersAreNumbersToo) {
@@ -69,7 +69,7 @@ TEST(Variation, AllMeansEveryChoice) {
 TEST(Variation, WhatCannotBeVariedIsTold) {
     EXPECT_EQ(errorOf("facility.trench_widht_m=1"),
               "facility.trench_widht_m: is no value that can be varied; did you mean "
-              "\"facility.txtSirkaRyhy\"?");
+              "\"facility.trench_width_m\"?");
     EXPECT_EQ(errorOf("project.name=a"), "project.name: is no value that can be varied");
     EXPECT_EQ(errorOf("facility.type"), "facility.type: expected PATH=VALUES");
     EXPECT_EQ(errorOf("=1"), "=1: expected PATH=VALUES");
@@ -82,20 +82,22 @@ TEST(Variation, WhatCannotBeVariedIsTold) {
 }
 
 TEST(Variation, ValuesThatDoNotFitAreTold) {
-    EXPECT_EQ(errorOf("facility.txtSirkaRyhy=1,x"),
-              "facility.txtSirkaRyhy: expected a number [m], not \"x\"");
-    EXPECT_EQ(errorOf("facility.txtSirkaRyhy="), "facility.txtSirkaRyhy: expected a number [m], not \"\"");
-    EXPECT_EQ(errorOf("facility.txtSirkaRyhy=1:2"), "facility.txtSirkaRyhy: expected a range FROM:TO:STEP");
-    EXPECT_THAT(errorOf("facility.txtSirkaRyhy=1:2:0"), HasSubstr("expected a step"));
-    EXPECT_THAT(errorOf("facility.txtSirkaRyhy=1:2:-1"), HasSubstr("expected a step"));
-    EXPECT_THAT(errorOf("facility.txtSirkaRyhy=0:1:1e-9"), HasSubstr("at most 100000 values"));
-    EXPECT_THAT(errorOf("facility.txtSirkaRyhy=log:0:1:5"), HasSubstr("greater than 0"));
-    EXPECT_THAT(errorOf("facility.txtSirkaRyhy=log:1:2:1"), HasSubstr("count"));
-    EXPECT_THAT(errorOf("facility.txtSirkaRyhy=log:1:2"), HasSubstr("log:FROM:TO:COUNT"));
-    EXPECT_THAT(errorOf("facility.txtSirkaRyhy=all"), HasSubstr("\"all\" is for choices"));
+    EXPECT_EQ(errorOf("facility.trench_width_m=1,x"),
+              "facility.trench_width_m: expected a number [m], not \"x\"");
+    EXPECT_EQ(errorOf("facility.trench_width_m="),
+              "facility.trench_width_m: expected a number [m], not \"\"");
+    EXPECT_EQ(errorOf("facility.trench_width_m=1:2"),
+              "facility.trench_width_m: expected a range FROM:TO:STEP");
+    EXPECT_THAT(errorOf("facility.trench_width_m=1:2:0"), HasSubstr("expected a step"));
+    EXPECT_THAT(errorOf("facility.trench_width_m=1:2:-1"), HasSubstr("expected a step"));
+    EXPECT_THAT(errorOf("facility.trench_width_m=0:1:1e-9"), HasSubstr("at most 100000 values"));
+    EXPECT_THAT(errorOf("facility.trench_width_m=log:0:1:5"), HasSubstr("greater than 0"));
+    EXPECT_THAT(errorOf("facility.trench_width_m=log:1:2:1"), HasSubstr("count"));
+    EXPECT_THAT(errorOf("facility.trench_width_m=log:1:2"), HasSubstr("log:FROM:TO:COUNT"));
+    EXPECT_THAT(errorOf("facility.trench_width_m=all"), HasSubstr("\"all\" is for choices"));
     EXPECT_THAT(errorOf("rain.periodicity=0.3"), HasSubstr("expected one of: 5, 2"));
     EXPECT_THAT(errorOf("rain.design_duration_min=7"), HasSubstr("durations of the rain table"));
-    EXPECT_THAT(errorOf("facility.txtSachtyCount=1:2:0.5"), HasSubstr("whole number"));
+    EXPECT_THAT(errorOf("facility.shaft_count=1:2:0.5"), HasSubstr("whole number"));
     EXPECT_THAT(errorOf("areas[0].area_m2=0"), HasSubstr("other than 0"));
 }
 
