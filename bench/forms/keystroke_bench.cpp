@@ -36,7 +36,7 @@ struct Site {
     OneRain rain;
     forms::Program program{{desk, clock, locale, rain, "."}};
 
-    explicit Site(int type) {
+    explicit Site(data::FacilityType type) {
         program.start();
         forms::frmCalc& window = program.window();
         window.cmdEdit[0].userClick();
@@ -51,27 +51,31 @@ struct Site {
         window.areaDialog.OKButton.userClick();
         window.txtSoucFiltrace.userEdit("1e-4");
         window.optSelType[type == data::FacilityType::Tank ? 1 : 0].userClick();
-        window.cboSelType.userSelect(type == data::FacilityType::Tank ? 0 : type);
+        window.cboSelType.userSelect(type == data::FacilityType::Tank ? 0 : static_cast<int>(type));
     }
 };
 
 void typeInto(benchmark::State& state, Site& site, platform::TextBox& box) {
-    bool longer = false;
+    constexpr unsigned kKeysPerPause = 1024;
+    unsigned keys = 0;
     for (auto _ : state) {
-        longer = !longer;
+        const bool longer = ++keys % 2 == 1;
         site.program.enter([&] { box.userEdit(longer ? "2.5" : "2"); });
-        site.desk.forget();
+        // What was recorded must not fill the memory; clearing it after each key would be measured too.
+        if (keys % kKeysPerPause == 0) {
+            site.desk.forget();
+        }
     }
 }
 
 /// One benchmark for every text box on the first tab or on the type's panel.
-void registerFields(Site& site, int type) {
+void registerFields(Site& site, data::FacilityType type) {
     for (platform::Control* control : site.program.window().controls()) {
         auto* box = dynamic_cast<platform::TextBox*>(control);
         if (box == nullptr || !box->container()->visible() || !box->enabled()) {
             continue;
         }
-        const std::string name = "type " + numbers::general(type) + " " + box->name();
+        const std::string name = "type " + numbers::general(static_cast<int>(type)) + " " + box->name();
         benchmark::RegisterBenchmark(name.c_str(), [&site, box](benchmark::State& state) {
             typeInto(state, site, *box);
         })->Unit(benchmark::kMicrosecond);
@@ -83,7 +87,7 @@ void registerFields(Site& site, int type) {
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     std::vector<std::unique_ptr<Site>> sites;
-    for (int type = data::FacilityType::Surface; type <= data::FacilityType::Tank; ++type) {
+    for (const data::FacilityType type : data::kFacilityTypes) {
         sites.push_back(std::make_unique<Site>(type));
         registerFields(*sites.back(), type);
     }

@@ -145,7 +145,10 @@ class Panel {
                 return;
             }
             result_->pipes = true;
-            enter([this] { sink_.clearResults(); });
+            // Ticking the box clears the results; the confirmation of the overflow does so once more.
+            if constexpr (type == FacilityType::Trench) {
+                enter([this] { sink_.clearResults(); });
+            }
             enterNumbers(true);
             enter([this] { confirmPipes(sink_, type); });
         }

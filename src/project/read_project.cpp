@@ -291,12 +291,12 @@ class Reader {
         if (!value.is_string()) {
             fail(path, "expected a text, not " + shortText(value));
         }
-        const platform::AcceptedText text = platform::acceptedText(value.get<std::string>(), several_lines);
-        if (text.dropped) {
+        const auto text = value.get<std::string>();
+        if (!std::ranges::all_of(text, [&](char c) { return platform::isAccepted(c, several_lines); })) {
             fail(path, several_lines ? "expected a text without control characters"
                                      : "expected a text on one line");
         }
-        return text.text;
+        return platform::acceptedText(text, several_lines);
     }
 
     static std::string shortText(const json& value) {

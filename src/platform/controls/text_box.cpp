@@ -5,20 +5,20 @@
 
 namespace mero::platform {
 
-AcceptedText acceptedText(std::string_view text, bool multi_line) {
-    AcceptedText accepted;
+std::string acceptedText(std::string_view text, bool multi_line) {
+    std::string accepted;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
-        const bool line_break = c == '\n' || c == '\r';
-        if (line_break && multi_line) {
-            accepted.text += "\r\n";
+        if (!isAccepted(c, multi_line)) {
+            continue;
+        }
+        if (c == '\n' || c == '\r') {
+            accepted += "\r\n";
             if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
                 ++i;
             }
-        } else if (static_cast<unsigned char>(c) >= ' ' || (c == '\t' && multi_line)) {
-            accepted.text += c;
         } else {
-            accepted.dropped = true;
+            accepted += c;
         }
     }
     return accepted;

@@ -15,13 +15,13 @@ namespace mero::platform {
 /// Keys that handlers respond to, with their character codes.
 enum class Key { Enter = 13, Escape = 27 };
 
-/// What of a text a box takes when a user enters it.
-struct AcceptedText {
-    std::string text;      ///< line breaks are "\r\n"; a single-line box takes no control characters
-    bool dropped = false;  ///< some characters were not taken
-};
+/// Does a box take the character when a user enters it? One line takes no control characters.
+[[nodiscard]] constexpr bool isAccepted(char c, bool multi_line) {
+    return static_cast<unsigned char>(c) >= ' ' || (multi_line && (c == '\n' || c == '\r' || c == '\t'));
+}
 
-[[nodiscard]] AcceptedText acceptedText(std::string_view text, bool multi_line);
+/// What a box takes of a text that a user enters; line breaks become "\r\n".
+[[nodiscard]] std::string acceptedText(std::string_view text, bool multi_line);
 
 class TextBox : public Control {
   public:
@@ -39,7 +39,7 @@ class TextBox : public Control {
     void userEdit(const std::string& text);
     /// The text that the box stores when a user enters `text`.
     [[nodiscard]] std::string accepted(const std::string& text) const {
-        return acceptedText(text, multi_line_).text;
+        return acceptedText(text, multi_line_);
     }
 
     [[nodiscard]] bool multiLine() const { return multi_line_; }
