@@ -61,22 +61,25 @@ constexpr InputInfo ofSite(Input input, const Row& of, float data::DesignNumbers
     return row(input, of, stored, nullptr, nullptr);
 }
 
-/// A number that project and window keep under the same name.
-template <auto member>
-constexpr InputInfo number(Input input, const Row& of) {
-    return row(input, of, member, give<member>, given<member>);
-}
-
-/// A number of the overflow's or the drain's pipes.
-template <auto pipes, auto member>
-constexpr InputInfo pipe(Input input, const Row& of) {
-    return row(input, of, member, give<pipes, member>, given<pipes, member>);
-}
-
 /// A choice, a truth or a whole number, or a number that the window keeps under another name.
 template <auto member>
 constexpr InputInfo other(Input input, const Row& of, float data::DesignNumbers::*stored = nullptr) {
     return row(input, of, stored, give<member>, given<member>);
+}
+
+/// A number that project and window keep under the same name.
+template <auto member>
+constexpr InputInfo number(Input input, const char* path, const char* caption, const char* unit,
+                           const char* note, const char* box, Need need = Need::Optional,
+                           const char* reported = nullptr) {
+    return other<member>(input, {path, caption, unit, note, box, need, reported}, member);
+}
+
+/// A number of the overflow's or the drain's pipes.
+template <auto pipes, auto member>
+constexpr InputInfo pipe(Input input, const char* path, const char* caption, const char* unit,
+                         const char* note, const char* box) {
+    return row(input, {path, caption, unit, note, box}, member, give<pipes, member>, given<pipes, member>);
 }
 
 inline void giveType(Facility& facility, float position) {
@@ -145,9 +148,8 @@ inline constexpr std::array<InputInfo, kInputCount> kInputs{{
          .kind = InputKind::Choice,
          .choices = kTypes},
         nullptr, giveType, givenType),
-    number<&FacilityInputs::txtSoucBezp>(
-        Input::SafetyFactor,
-        {"facility.safety_factor", "Součinitel bezpečnosti", "", "safety factor", "txtSoucBezp(#)"}),
+    number<&FacilityInputs::txtSoucBezp>(Input::SafetyFactor, "facility.safety_factor",
+                                         "Součinitel bezpečnosti", "", "safety factor", "txtSoucBezp(#)"),
     other<&Facility::soil_option>(
         Input::Soil,
         {.path = "facility.soil",
@@ -158,49 +160,47 @@ inline constexpr std::array<InputInfo, kInputCount> kInputs{{
          .kind = InputKind::Choice,
          .choices = kSoils}),
     number<&FacilityInputs::txtSoucFiltrPruleh>(
-        Input::SwaleFiltration,
-        {"facility.swale_filtration_coefficient_m_s", "Součinitel filtrace (kf) průlehu", "m/s",
-         "filtration coefficient of the swale's soil (type swale_trench)", "txtSoucFiltrPruleh(#)",
-         Need::Always, "Součinitel filtrace průlehu"}),
+        Input::SwaleFiltration, "facility.swale_filtration_coefficient_m_s",
+        "Součinitel filtrace (kf) průlehu", "m/s",
+        "filtration coefficient of the swale's soil (type swale_trench)", "txtSoucFiltrPruleh(#)",
+        Need::Always, "Součinitel filtrace průlehu"),
     number<&FacilityInputs::txtPorVyplne>(
-        Input::FillPorosity, {"facility.fill_porosity", "Pórovitost výplně rýhy", "",
-                              "porosity of the trench fill (types swale_trench, trench)", "txtPorVyplne(#)"}),
-    number<&FacilityInputs::txtSirkaRyhy>(Input::TrenchWidth,
-                                          {"facility.trench_width_m", "Šířka rýhy (střední)", "m",
-                                           "mean width of the trench", "txtSirkaRyhy(#)", Need::Always}),
-    number<&FacilityInputs::txtVyskaRyhy>(
-        Input::TrenchHeight, {"facility.trench_height_m", "Výška rýhy", "m", "height of the trench",
-                              "txtVyskaRyhy(#)", Need::Always}),
+        Input::FillPorosity, "facility.fill_porosity", "Pórovitost výplně rýhy", "",
+        "porosity of the trench fill (types swale_trench, trench)", "txtPorVyplne(#)"),
+    number<&FacilityInputs::txtSirkaRyhy>(Input::TrenchWidth, "facility.trench_width_m",
+                                          "Šířka rýhy (střední)", "m", "mean width of the trench",
+                                          "txtSirkaRyhy(#)", Need::Always),
+    number<&FacilityInputs::txtVyskaRyhy>(Input::TrenchHeight, "facility.trench_height_m", "Výška rýhy", "m",
+                                          "height of the trench", "txtVyskaRyhy(#)", Need::Always),
 
-    pipe<&Facility::overflow, &PipeInputs::txtPocetPotrubi>(
-        Input::OverflowPipeCount,
-        {"facility.overflow.pipe_count", kPipeCount, "", "number of pipes", "txtPocetPotrubi(#)"}),
+    pipe<&Facility::overflow, &PipeInputs::txtPocetPotrubi>(Input::OverflowPipeCount,
+                                                            "facility.overflow.pipe_count", kPipeCount, "",
+                                                            "number of pipes", "txtPocetPotrubi(#)"),
     pipe<&Facility::overflow, &PipeInputs::txtPrumTroubVnej>(
-        Input::OverflowOuterDiameter, {"facility.overflow.pipe_outer_diameter_mm", kOuterDiameter, "mm",
-                                       "outer diameter of a pipe", "txtPrumTroubVnej(#)"}),
+        Input::OverflowOuterDiameter, "facility.overflow.pipe_outer_diameter_mm", kOuterDiameter, "mm",
+        "outer diameter of a pipe", "txtPrumTroubVnej(#)"),
     pipe<&Facility::overflow, &PipeInputs::txtPrumTroubVnit>(
-        Input::OverflowInnerDiameter, {"facility.overflow.pipe_inner_diameter_mm", kInnerDiameter, "mm",
-                                       "inner diameter of a pipe", "txtPrumTroubVnit(#)"}),
+        Input::OverflowInnerDiameter, "facility.overflow.pipe_inner_diameter_mm", kInnerDiameter, "mm",
+        "inner diameter of a pipe", "txtPrumTroubVnit(#)"),
     pipe<&Facility::overflow, &PipeInputs::txtSpecDrenOdtok>(
-        Input::ThrottledOutflow,
-        {"facility.overflow.throttled_outflow_l_s_ha", "Škrcená odtoková intenzita", "l/(s.ha)",
-         "throttled outflow per hectare of the reduced area", "txtSpecDrenOdtok(#)"}),
+        Input::ThrottledOutflow, "facility.overflow.throttled_outflow_l_s_ha", "Škrcená odtoková intenzita",
+        "l/(s.ha)", "throttled outflow per hectare of the reduced area", "txtSpecDrenOdtok(#)"),
 
-    pipe<&Facility::drain, &PipeInputs::txtPocetPotrubi>(
-        Input::DrainPipeCount,
-        {"facility.drain.pipe_count", kPipeCount, "", "number of pipes", "txtPocetPotrubi(#)"}),
+    pipe<&Facility::drain, &PipeInputs::txtPocetPotrubi>(Input::DrainPipeCount, "facility.drain.pipe_count",
+                                                         kPipeCount, "", "number of pipes",
+                                                         "txtPocetPotrubi(#)"),
     pipe<&Facility::drain, &PipeInputs::txtPrumTroubVnej>(
-        Input::DrainOuterDiameter, {"facility.drain.pipe_outer_diameter_mm", kOuterDiameter, "mm",
-                                    "outer diameter of a pipe", "txtPrumTroubVnej(#)"}),
+        Input::DrainOuterDiameter, "facility.drain.pipe_outer_diameter_mm", kOuterDiameter, "mm",
+        "outer diameter of a pipe", "txtPrumTroubVnej(#)"),
     pipe<&Facility::drain, &PipeInputs::txtPrumTroubVnit>(
-        Input::DrainInnerDiameter, {"facility.drain.pipe_inner_diameter_mm", kInnerDiameter, "mm",
-                                    "inner diameter of a pipe", "txtPrumTroubVnit(#)"}),
+        Input::DrainInnerDiameter, "facility.drain.pipe_inner_diameter_mm", kInnerDiameter, "mm",
+        "inner diameter of a pipe", "txtPrumTroubVnit(#)"),
     pipe<&Facility::drain, &PipeInputs::txtVystupPlocha>(
-        Input::OutletArea, {"facility.drain.outlet_area_cm2_m", "Výstupní plocha", "cm²/m",
-                            "outlet openings of a pipe, per metre", "txtVystupPlocha(#)"}),
+        Input::OutletArea, "facility.drain.outlet_area_cm2_m", "Výstupní plocha", "cm²/m",
+        "outlet openings of a pipe, per metre", "txtVystupPlocha(#)"),
     pipe<&Facility::drain, &PipeInputs::txtVystupRychlost>(
-        Input::OutletVelocity, {"facility.drain.outlet_velocity_m_s", "Výstupní rychlost", "m/s",
-                                "velocity in the openings", "txtVystupRychlost(#)"}),
+        Input::OutletVelocity, "facility.drain.outlet_velocity_m_s", "Výstupní rychlost", "m/s",
+        "velocity in the openings", "txtVystupRychlost(#)"),
 
     // Its words are the designations of the catalogue.
     other<&Facility::catalogue_row>(Input::CatalogueShaft,
@@ -225,43 +225,41 @@ inline constexpr std::array<InputInfo, kInputCount> kInputs{{
         {"facility.inner_width_m", kShaftSide, "m", "inner width of a rectangular shaft",
          "txtPrumerSachtyVnit", Need::RectangularWithoutRing, "Šířka šachty"},
         &DesignNumbers::txtPrumerSachtyVnit),
-    number<&FacilityInputs::txtPrumerSachtyVnej>(
-        Input::InnerLength, {"facility.inner_length_m", "Délka", "m", "inner length of a rectangular shaft",
-                             "txtPrumerSachtyVnej", Need::RectangularWithoutRing, "Délka šachty"}),
-    number<&FacilityInputs::txtTloustkaSteny>(
-        Input::WallThickness, {"facility.wall_thickness_m", "Tloušťka", "m", "wall thickness of the shaft",
-                               "txtTloustkaSteny", Need::WithoutRing, "Tloušťka stěny"}),
-    number<&FacilityInputs::txtMinPrusakDraha>(Input::SeepagePath,
-                                               {"facility.seepage_path_m", "Minimální průsaková dráha", "m",
-                                                "minimum seepage path", "txtMinPrusakDraha"}),
+    number<&FacilityInputs::txtPrumerSachtyVnej>(Input::InnerLength, "facility.inner_length_m", "Délka", "m",
+                                                 "inner length of a rectangular shaft", "txtPrumerSachtyVnej",
+                                                 Need::RectangularWithoutRing, "Délka šachty"),
+    number<&FacilityInputs::txtTloustkaSteny>(Input::WallThickness, "facility.wall_thickness_m", "Tloušťka",
+                                              "m", "wall thickness of the shaft", "txtTloustkaSteny",
+                                              Need::WithoutRing, "Tloušťka stěny"),
+    number<&FacilityInputs::txtMinPrusakDraha>(Input::SeepagePath, "facility.seepage_path_m",
+                                               "Minimální průsaková dráha", "m", "minimum seepage path",
+                                               "txtMinPrusakDraha"),
     number<&FacilityInputs::txtNezamrzHlPritok>(
-        Input::InletDepth,
-        {"facility.inlet_frost_depth_m", "Nezámrzná hloubka přitoku", "m", "frost-free depth of the inlet",
-         "txtNezamrzHlPritok", Need::Always, "Nezámrzná hloubka přítoku"}),
-    number<&FacilityInputs::txtVyskaFiltrVrstvy>(
-        Input::FilterLayer, {"facility.filter_layer_m", "Výška filtrační vrstvy", "m",
-                             "height of the filter layer", "txtVyskaFiltrVrstvy", Need::Always}),
+        Input::InletDepth, "facility.inlet_frost_depth_m", "Nezámrzná hloubka přitoku", "m",
+        "frost-free depth of the inlet", "txtNezamrzHlPritok", Need::Always, "Nezámrzná hloubka přítoku"),
+    number<&FacilityInputs::txtVyskaFiltrVrstvy>(Input::FilterLayer, "facility.filter_layer_m",
+                                                 "Výška filtrační vrstvy", "m", "height of the filter layer",
+                                                 "txtVyskaFiltrVrstvy", Need::Always),
     number<&FacilityInputs::txtVyskaPiskVrstvy>(
-        Input::SandLayer, {"facility.sand_layer_m", "Vrstva písku/jemného štěrku", "m",
-                           "height of the sand layer (variant type_b)", "txtVyskaPiskVrstvy",
-                           Need::WithSandLayer, "Výška vrstvy písku/jem. štěrku"}),
+        Input::SandLayer, "facility.sand_layer_m", "Vrstva písku/jemného štěrku", "m",
+        "height of the sand layer (variant type_b)", "txtVyskaPiskVrstvy", Need::WithSandLayer,
+        "Výška vrstvy písku/jem. štěrku"),
 
     number<&FacilityInputs::txtSpecMeroIntenz>(
-        Input::SpecificInfiltration,
-        {"facility.specific_infiltration_l_s_ha", "Specifická vsakovací intenzita", "l/s.ha",
-         "specific infiltration intensity of the tank", "txtSpecMeroIntenz", Need::Always}),
-    number<&FacilityInputs::txtDelkaDnaNadrz>(
-        Input::BottomLength, {"facility.bottom_length_m", "Délka dna nádrže", "m",
-                              "length of the tank's bottom", "txtDelkaDnaNadrz", Need::Always}),
-    number<&FacilityInputs::txtSirkaDnaNadrz>(
-        Input::BottomWidth, {"facility.bottom_width_m", "Šířka dna nádrže", "m", "width of the tank's bottom",
-                             "txtSirkaDnaNadrz", Need::Always}),
-    number<&FacilityInputs::txtHloubkaNadrz>(
-        Input::TankDepth, {"facility.tank_depth_m", "Hloubka nádrže", "m", "depth of the tank",
-                           "txtHloubkaNadrz", Need::Always}),
-    number<&FacilityInputs::txtSklonSvahuNadrz>(
-        Input::SideSlope, {"facility.side_slope", "Sklon svahů nádrže", "1 : n",
-                           "side slope of the tank, the n of 1 : n", "txtSklonSvahuNadrz", Need::Always}),
+        Input::SpecificInfiltration, "facility.specific_infiltration_l_s_ha",
+        "Specifická vsakovací intenzita", "l/s.ha", "specific infiltration intensity of the tank",
+        "txtSpecMeroIntenz", Need::Always),
+    number<&FacilityInputs::txtDelkaDnaNadrz>(Input::BottomLength, "facility.bottom_length_m",
+                                              "Délka dna nádrže", "m", "length of the tank's bottom",
+                                              "txtDelkaDnaNadrz", Need::Always),
+    number<&FacilityInputs::txtSirkaDnaNadrz>(Input::BottomWidth, "facility.bottom_width_m",
+                                              "Šířka dna nádrže", "m", "width of the tank's bottom",
+                                              "txtSirkaDnaNadrz", Need::Always),
+    number<&FacilityInputs::txtHloubkaNadrz>(Input::TankDepth, "facility.tank_depth_m", "Hloubka nádrže", "m",
+                                             "depth of the tank", "txtHloubkaNadrz", Need::Always),
+    number<&FacilityInputs::txtSklonSvahuNadrz>(Input::SideSlope, "facility.side_slope", "Sklon svahů nádrže",
+                                                "1 : n", "side slope of the tank, the n of 1 : n",
+                                                "txtSklonSvahuNadrz", Need::Always),
     other<&Facility::upstream_settling>(
         Input::UpstreamSettling,
         {"facility.upstream_settling", "Předsazené usazování", "", "settling before the tank", "chkPredUsaz",
