@@ -1,23 +1,23 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# Sourced by ./start and ./check, which set $root: builds a preset in $root/build, with ccache where it is there.
+# Sourced by ./start and ./check, which set $root: builds a preset in $root/build, with ccache if it is installed.
 : "${root:?}"
 
 if command -v ccache >/dev/null; then
     export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
-    # Two checkouts in different folders share their objects.
+    # Lets checkouts in different folders share cached objects.
     export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
 fi
 export CMAKE_BUILD_PARALLEL_LEVEL=${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}
 
-# configure_preset NAME: configures a build folder; one that was copied or moved here is configured anew.
+# configure_preset NAME: configures a build folder. One that was copied or moved here is configured from scratch.
 configure_preset() {
     local cache=$root/build/$1/CMakeCache.txt
     local -a fresh=()
     if [[ -f $cache ]] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
         fresh=(--fresh)
     fi
-    # A folder that was built before ccache was installed stays without it, so nothing is built twice.
+    # A folder that was built before ccache was installed stays without it, to avoid a full rebuild.
     local -a plain=()
     if [[ -f $cache && ${#fresh[@]} -eq 0 ]] && ! grep -q '^CMAKE_CXX_COMPILER_LAUNCHER:.*=ccache' "$cache"; then
         plain=(env -u CMAKE_C_COMPILER_LAUNCHER -u CMAKE_CXX_COMPILER_LAUNCHER)
