@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The program's folder in a build tree: the rain database and the description pages beside the programs.
-# Each file is copied when it is missing or older than its original, so a database that somebody puts there stays.
+# Copies the rain database and the description pages beside the programs of a build tree.
+# A file is copied if it is missing or older than its original, so a newer database of the user's own is kept.
 
 set(mero_program_folder_originals "")
 if(EXISTS ${CMAKE_SOURCE_DIR}/data/mero.mdb AND IS_DIRECTORY ${CMAKE_SOURCE_DIR}/Webs)

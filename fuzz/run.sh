@@ -3,7 +3,7 @@
 # Builds the fuzz targets and runs one, or all of them one after another.
 # Use: fuzz/run.sh TARGET|all SECONDS        e.g. fuzz/run.sh script 600
 # The corpus is kept in build/fuzz/corpus/TARGET; a finding is stored in build/fuzz/findings/TARGET and ends the
-# run with an error. To keep a finding as a test, minimize it (build/fuzz/fuzz/fuzz_TARGET -minimize_crash=1
+# run with an error. To keep a finding as a test, minimize it (build/sanitize/fuzz/fuzz_TARGET -minimize_crash=1
 # -runs=10000 FILE) and put it into fuzz/regressions/TARGET under a descriptive name.
 set -euo pipefail
 
@@ -20,13 +20,13 @@ if [[ $1 == all ]]; then
     for folder in "$root"/fuzz/seeds/*/; do targets+=("$(basename "$folder")"); done
 fi
 
-build_quietly fuzz
+build_quietly sanitize fuzz_all
 # The fuzzer exits without removing its temporary files.
 export TMPDIR=$root/build/fuzz/tmp
 trap 'rm -rf -- "$TMPDIR"' EXIT
 mkdir -p "$TMPDIR"
 for target in "${targets[@]}"; do
-    program=$root/build/fuzz/fuzz/fuzz_$target
+    program=$root/build/sanitize/fuzz/fuzz_$target
     if [[ ! -x $program ]]; then
         echo "there is no fuzz target $target" >&2
         exit 2

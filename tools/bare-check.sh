@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Proof that ./start and ./check need nothing but a bare Debian 12: a new system, the committed tree cloned into a folder
-# with blanks and diacritics, ./start (no display there), then steps of ./check. Takes the better part of an hour.
+# Tests that ./start and ./check need only a bare Debian 12: makes a new system, clones the committed tree into a folder
+# whose name has blanks and diacritics, runs ./start without a display, then steps of ./check. Takes up to an hour.
 # Use, as root: tools/bare-check.sh [STEP...]     steps of ./check; default: format rules build test start
-#               MERO_CCACHE=FOLDER tools/bare-check.sh   shares a compiler cache, to save time
+#               MERO_CCACHE=FOLDER tools/bare-check.sh   uses this compiler cache
 set -euo pipefail
 
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# A bare Debian 12 in a folder, and commands inside it: what a stranger's machine has, and nothing else.
+# Makes a bare Debian 12 in a folder and runs commands inside it, like on a newly installed machine.
 # Use, as root: tools/clean-root.sh new FOLDER                    makes the system (minbase, ca-certificates)
 #               tools/clean-root.sh run FOLDER [--bind FROM TO]... COMMAND...   runs a command inside
 #               tools/clean-root.sh remove FOLDER
-# What was downloaded is kept in build/clean-root. Mounts and processes live in namespaces of their own and end with
-# the command, however it ends. DEBIAN_MIRROR names another mirror.
+# Downloads are kept in build/clean-root. Mounts and processes are in namespaces of their own and end with the command.
+# DEBIAN_MIRROR sets another mirror.
 set -euo pipefail
 
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
@@ -42,7 +42,7 @@ deb ${mirror%/}-security bookworm-security main
 END
 }
 
-# The folder stays free of mounts outside the namespace, so that removing it never reaches what was bound.
+# Mounts exist only inside the namespace, so removing the folder never deletes the contents of a bound folder.
 run() {
     local folder=$1
     shift

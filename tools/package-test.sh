@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Proof that the packages work on machines that have nothing else: each is put on a new bare Debian 12, used there by an
-# ordinary user (every example in the window and without it, the description pages, report, project files, PDF), and
-# removed. Needs what tools/package.sh made; takes some minutes.
+# Tests the packages on bare systems: installs each on a new Debian 12, uses it as an ordinary user (every example with
+# and without the window, the description pages, report, project files, PDF) and removes it.
+# Needs the packages that tools/package.sh makes. Takes some minutes.
 # Use, as root: tools/package-test.sh [deb] [portable]
 set -euo pipefail
 
@@ -30,7 +30,7 @@ for kind in "${kinds[@]}"; do
     "$root/tools/clean-root.sh" new "$folder/system"
     mkdir -p "$folder/system/proof/scripts"
     cp "$package" "$root/tools/package_proof.sh" "$folder/system/proof"
-    # The expected traces are those of the tests.
+    # Uses the expected traces of the tests.
     cp "$root"/examples/*.mero "$root"/tests/scripts/examples/*.trace \
         "$root"/tests/scripts/description_pages.{mero,trace} "$folder/system/proof/scripts"
     cp "$root"/examples/projekty/sachta.json "$folder/system/proof"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes the Debian package and the portable archive in build/packages, and lets the packages' own tools judge them.
-# Needs no root, unless packages are missing. The same commit gives the same bytes.
+# Makes the Debian package and the portable archive in build/packages and checks them with lintian and others.
+# Needs root only if packages are missing. The same commit gives the same bytes.
 set -euo pipefail
 
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
@@ -10,7 +10,7 @@ target=$root/build/packages
 source "$root/tools/build.sh"
 umask 022
 
-# The time in the packages is the commit's.
+# All times in the packages are the commit's.
 SOURCE_DATE_EPOCH=$(git -C "$root" log -1 --format=%ct 2>/dev/null || stat -c %Y "$root/CMakeLists.txt")
 export SOURCE_DATE_EPOCH
 
@@ -32,7 +32,7 @@ for preset in package portable; do
 done
 mv "$root"/build/package/*.deb "$target"
 
-# Packed again here: in order of the names, without the packer's own name, and with the commit's time.
+# Packs the archive again: sorted by name, without the user's name, with the commit's time.
 folders=("$root"/build/portable/_CPack_Packages/*/TGZ/*/)
 [[ ${#folders[@]} -eq 1 ]]
 name=$(basename "${folders[0]}")

@@ -35,12 +35,12 @@ apt() {
     }
 }
 
-# Every file that belongs to the system, with its content: what an ordinary user's work must not change.
+# Prints a checksum of every system file. An ordinary user's work must not change them.
 state() {
     find /usr /etc /opt -xdev -type f -newermt 2000-01-01 -print0 | sort -z | xargs -0 sha256sum
 }
 
-# follows FRONT FOLDER SCRIPT COMMAND...: the trace is the expected one, where <folder> is the program's folder.
+# follows FRONT FOLDER SCRIPT COMMAND...: compares the trace with the expected one; <folder> is the program's folder.
 follows() {
     local folder=$1 script=$2 status=0
     shift 2
@@ -54,7 +54,7 @@ follows() {
     fi
 }
 
-# uses FOLDER BIN: everything that an ordinary user does with the programs of BIN, whose data are in FOLDER.
+# uses FOLDER BIN: does what an ordinary user does with the programs in BIN, whose data are in FOLDER.
 uses() {
     local folder=$1 bin=$2 script name
     for script in "$scripts"/*.mero; do
@@ -76,7 +76,7 @@ uses() {
     check "which is one" grep -qa '^%PDF' "$home/šachta 1.pdf"
     check "the rain of a station" as_user "$bin/mero-batch" stations Brno
     check "the version" grep -q '^mero [1-9]' <(as_user "$bin/mero" --version)
-    # Without a script, for a person: it is still there after some seconds, and nothing was printed.
+    # Without a script the window must stay open for some seconds and print nothing.
     check "the window stays open" stays_open "$bin/mero"
 }
 
@@ -103,7 +103,7 @@ libraries_found() {
     return 0
 }
 
-# A plugin finds its libraries with the program's help.
+# Checks that every plugin finds its libraries; at run time the program has loaded those of its own folder.
 plugins_complete() {
     local plugin
     find "$1/plugins" -name '*.so' ! -name '*cups*' -print0 >/proof/plugins
@@ -140,7 +140,7 @@ proof_of_deb() {
 }
 
 proof_of_portable() {
-    # What an X11 desktop has anyway.
+    # Libraries that every X11 desktop has.
     apt install -y --no-install-recommends xvfb xauth fonts-dejavu-core fontconfig \
         libgl1 libegl1 libopengl0 libx11-xcb1 libharfbuzz0b libglib2.0-0 libdbus-1-3 libstdc++6
     check "there is no Qt and no libmdb here" \
@@ -173,7 +173,7 @@ proof_of_portable() {
 
 apt-get -qq update >/proof/apt.log 2>&1
 useradd -m "$user"
-# As a session gives it.
+# As a desktop session sets it.
 install -d -o "$user" -m 700 "/run/user/$user"
 chmod -R a+rX /proof
 echo "  packages before: $(dpkg-query -W | wc -l)"

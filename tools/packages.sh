@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# The Debian packages that MERO needs, in groups, and their installation.
-# Use: tools/packages.sh GROUP...   installs what is missing of the groups below; asks for nothing.
-#      tools/packages.sh --missing GROUP...   only prints what is missing.
+# Lists the Debian packages that MERO needs, in groups, and installs them.
+# Use: tools/packages.sh GROUP...   installs the missing packages of the groups; asks no questions.
+#      tools/packages.sh --missing GROUP...   only prints the missing packages.
 set -euo pipefail
 
 declare -A packages=(
@@ -35,7 +35,7 @@ missing() {
             wanted+=("$name")
         done
     done
-    # dpkg-query prints nothing for a package that it has never heard of.
+    # dpkg-query prints nothing for an unknown package.
     local installed
     installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null || true)
     for name in "${wanted[@]}"; do

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
 /// JSON texts of the trace's values.
-/// The JSON library escapes texts; numbers are written by platform/numbers, whose texts are valid JSON.
+/// Numbers are written by platform/numbers, whose texts are valid JSON.
 #include "automation/json_line.h"
 
-#include <nlohmann/json.hpp>
-
+#include "platform/json_text.h"
 #include "platform/numbers/number_text.h"
 
 namespace mero::automation {
 
 std::string json(std::string_view text) {
-    constexpr int kOneLine = -1;
-    return nlohmann::json(text).dump(kOneLine, ' ', false, nlohmann::json::error_handler_t::replace);
+    return platform::jsonText(text);
 }
 
 std::string json(const std::string& text) {

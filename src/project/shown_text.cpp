@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-/// Escaping by the JSON library, less the escapes of quotes and backslashes.
-/// Those would only make a path or a message harder to read.
+/// Escapes a text as JSON does, except quotes and backslashes: their escapes would make a path or a message
+/// harder to read.
 #include "project/shown_text.h"
 
-#include <nlohmann/json.hpp>
+#include "platform/json_text.h"
 
 namespace mero::project {
 namespace {
@@ -21,12 +21,10 @@ std::size_t cutBefore(std::string_view text, std::size_t at) {
 }  // namespace
 
 std::string shownText(std::string_view text, std::size_t longest) {
-    constexpr int kOneLine = -1;
     constexpr char kDelete = '\x7f';
     const bool cut = text.size() > longest;
     const std::string_view piece = cut ? text.substr(0, cutBefore(text, longest)) : text;
-    const std::string json =
-        nlohmann::json(piece).dump(kOneLine, ' ', false, nlohmann::json::error_handler_t::replace);
+    const std::string json = platform::jsonText(piece);
     std::string shown;
     for (std::size_t i = 1; i + 1 < json.size(); ++i) {
         if (json[i] == '\\') {

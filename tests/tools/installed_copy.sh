@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# What `cmake --install` puts into a folder works from there, also after that folder was moved: reader, data, pages, PDF.
-# The installed files stay as they are; what the program writes goes to the user's data folder.
+# Tests an installed copy, also after its folder was moved: rain reader, data, description pages, PDF.
+# The program must not change the installed files: it writes to the user's data folder.
 # Use: installed_copy.sh CMAKE BUILD_FOLDER SOURCE_FOLDER
 set -euo pipefail
 

@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # usage: rain_database_matches_csv.sh DATA_FOLDER
-# Every table of mero.mdb is what its CSV file says, no table is missing and none is too many.
-# Who changes a CSV file and forgets to build the database, or the other way round, fails here.
+# Checks that mero.mdb holds exactly the tables of the CSV files, with their values.
+# Fails if a CSV file was changed and the database was not rebuilt, or the other way round.
 set -u
 data=$1
 command -v mdb-export >/dev/null || { echo "mdb-export is missing"; exit 77; }
@@ -18,7 +18,7 @@ mdb-tables -1 "$data/mero.mdb" | sort >"$work/tables"
 diff "$work/expected" "$work/tables" || failures=1
 [ "$(grep -c List "$work/expected")" -eq 92 ] || { echo "there must be 92 stations"; failures=1; }
 
-# Singles are exported with 8 digits, so a value may differ from its CSV text in the eighth.
+# Singles are exported with 8 digits, so the eighth digit may differ from the CSV file.
 for table in $(grep List "$work/expected"); do
     mdb-export -Q "$data/mero.mdb" "$table" >"$work/exported"
     awk -F, -v table="$table" '

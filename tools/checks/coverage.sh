@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# How much of src the tests reach: builds with counters, runs all tests once, prints lines and branches of what is the
-# program itself and of what only shows it (the widgets and the window layouts). Exit status 1 when one is below its mark.
+# Measures the test coverage of src: builds with counters, runs all tests once, prints lines and branches of the program
+# itself and of the widgets and window layouts. Exit status 1 if one of these is below its limit.
 # Use: tools/checks/coverage.sh            all of it
-#      tools/checks/coverage.sh --report   only counts anew what the last run left
-# The lines that no test reaches stand in build/coverage/report/index.html.
+#      tools/checks/coverage.sh --report   only evaluates the last run again
+# build/coverage/report/index.html shows the lines that no test reaches.
 set -euo pipefail
 
 root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/../..
@@ -19,8 +19,8 @@ run_tests() {
     (cd "$root" && LC_ALL=C.UTF-8 ctest --preset coverage --no-tests=error -j "${JOBS:-$(nproc)}")
 }
 
-# Left out: branches that only an exception takes which the compiler adds to every call, and branches of lines
-# without code of ours (the destructors behind a closing brace). gcc counts both, no test can mean them.
+# Excludes the exception branches that the compiler adds to every call, and branches on lines without code of ours (the
+# destructors at a closing brace). gcc counts both, but no test can aim at them.
 count() {
     gcovr --root "$root" --object-directory "$build" --filter "$root/src/" -j "$(nproc)" \
         --exclude-throw-branches --exclude-unreachable-branches --json "$build/counts.json" "$build"

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""The table of tools/checks/coverage.sh: lines and branches of each folder of src, and of the two parts that have a
-mark of their own. Exit status 1 when a part is below its mark.
+"""Prints the table of tools/checks/coverage.sh: lines and branches of each folder of src, and of the two parts that
+have limits. Exit status 1 if a part is below its limit.
 
 Use: coverage_table.py SUMMARY   (what gcovr --json-summary writes)
 """
@@ -49,7 +49,7 @@ def percent(reached: int, all_of_them: int) -> float:
 
 
 def table(files: list[dict]) -> tuple[list[str], bool]:
-    """The lines to print, and whether every part reaches its marks."""
+    """The lines to print, and whether every part reaches its limits."""
     folders: dict[str, Count] = defaultdict(Count)
     parts = {part: Count() for part in PARTS}
     for entry in files:

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Tests of the coverage table: what belongs to which part, and when a part is below its mark."""
+"""Tests of the coverage table: which folder belongs to which part, and when a part is below its limit."""
 
 import unittest
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The mutants of a C++ source: the text with one operator, constant, condition or statement changed.
+"""Makes the mutants of a C++ source: copies with one operator, constant, condition or statement changed.
 
 The sources are formatted (binary operators stand between blanks, the brackets of templates do not), so a list of
 tokens is enough to tell a comparison from a template and a product from a pointer.
@@ -21,7 +21,7 @@ TOKEN = re.compile(
     re.VERBOSE | re.DOTALL | re.MULTILINE,
 )
 
-# Each operator by its boundary and by its opposite.
+# Replaces each operator by its boundary case and by its opposite.
 BINARY = {
     "+": ("-",), "-": ("+",), "*": ("/",), "/": ("*",), "%": ("*",),
     "<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
@@ -29,7 +29,7 @@ BINARY = {
     "+=": ("-=",), "-=": ("+=",), "*=": ("/=",), "/=": ("*=",),
 }
 NAMES = {"true": "false", "false": "true", "min": "max", "max": "min"}
-# What a statement that can be left out does not begin with.
+# A statement that begins with one of these cannot be removed.
 NO_PLAIN_STATEMENT = {
     "return", "if", "else", "for", "while", "do", "switch", "case", "default", "using", "namespace", "struct", "class",
     "enum", "template", "const", "constexpr", "inline", "static", "auto", "static_assert", "public", "private", "try",
@@ -64,13 +64,13 @@ class Mutant:
 
 
 def tokens_of(source: str) -> list[Token]:
-    """What the compiler reads: without comments and directives."""
+    """The source without comments and preprocessor directives."""
     found = (Token(match.lastgroup, match.group(), match.start()) for match in TOKEN.finditer(source))
     return [token for token in found if token.kind not in ("comment", "directive")]
 
 
 def changed_numbers(text: str) -> list[str]:
-    """Other values for a number: one more, one less, none, twice as much."""
+    """Other values for a number: n + 1, n - 1, 0, 2 n."""
     digits = text.rstrip("fFuUlL")
     suffix = text[len(digits) :]
     if re.fullmatch(r"[\d']+", digits):
@@ -83,12 +83,12 @@ def changed_numbers(text: str) -> list[str]:
 
 
 def next_char(text: str) -> str | None:
-    """The character after the one in quotes; none for an escaped one."""
+    """The next character after a character literal's; none for an escaped one."""
     return None if "\\" in text or text in ("'&'", "'['") else f"'{chr(ord(text[1]) + 1)}'"
 
 
 def closing(tokens: list[Token], opening: int) -> int:
-    """Where the bracket that opens at `opening` closes."""
+    """The position of the bracket that closes the one at `opening`."""
     depth = 0
     for at in range(opening, len(tokens)):
         depth += (tokens[at].text in "([{") - (tokens[at].text in ")]}")
@@ -98,13 +98,13 @@ def closing(tokens: list[Token], opening: int) -> int:
 
 
 def is_binary(source: str, token: Token) -> bool:
-    """Formatted sources have blanks, or the end of the line, on both sides of a binary operator."""
+    """Is this a binary operator? Formatted sources have a blank or a line end on both sides of one."""
     return source[token.begin - 1].isspace() and source[token.end : token.end + 1].isspace()
 
 
 def is_size(tokens: list[Token], at: int) -> bool:
-    """The size of an array that is a buffer: more room than needed is no behaviour, and less is found while compiling
-    or by the library's assertions."""
+    """Is this the size of a buffer? A larger one changes nothing; a smaller one fails to compile or fails an
+    assertion of the library."""
     return tokens[at - 1].text == "," and tokens[at + 1].text == ">"
 
 
@@ -131,7 +131,7 @@ def operator_changes(source: str, tokens: list[Token]):
 
 
 def condition_changes(tokens: list[Token]):
-    """A condition of if or while that always holds, or never does."""
+    """Replaces a condition of if by true and by false, one of while by false."""
     for at, token in enumerate(tokens[:-1]):
         if token.text in ("if", "while") and tokens[at + 1].text == "(":
             begin, end = tokens[at + 1].end, tokens[closing(tokens, at + 1)].begin
@@ -140,7 +140,7 @@ def condition_changes(tokens: list[Token]):
 
 
 def is_plain_statement(words: list[Token]) -> bool:
-    """An assignment, a call, a step: what does not declare anything."""
+    """Is this an assignment, a call or an increment, and no declaration?"""
     first = words[0]
     if first.text in ("++", "--", "*"):
         return True
@@ -152,7 +152,7 @@ def is_plain_statement(words: list[Token]) -> bool:
 
 
 def statement_changes(tokens: list[Token]):
-    """A statement that is left out; of the returns only those that come early, from within an if."""
+    """Removes a statement; of the returns only early ones, inside an if."""
     at = 0
     while at < len(tokens):
         before = tokens[at - 1].text if at else ";"
@@ -169,7 +169,7 @@ def statement_changes(tokens: list[Token]):
             at = end + 1
             continue
         early_return = tokens[at].text == "return" and before == "{" and at > 1 and tokens[at - 2].text == ")"
-        # A function's only statement is its result, not an early return: its block begins after ") {" as well.
+        # The only statement of a function is its result and no early return, although its block also follows ") {".
         if early_return:
             opening = opening_of(tokens, at - 2)
             early_return = opening > 0 and tokens[opening - 1].text in ("if", "for", "while")
@@ -188,7 +188,7 @@ def opening_of(tokens: list[Token], closed: int) -> int:
 
 
 def mutants_of(source: str) -> list[Mutant]:
-    """Every mutant, in the order of the source."""
+    """All mutants, in source order."""
     tokens = tokens_of(source)
     changes = [*operator_changes(source, tokens), *condition_changes(tokens), *statement_changes(tokens)]
     lines = source.split("\n")
@@ -198,7 +198,7 @@ def mutants_of(source: str) -> list[Mutant]:
         code = lines[line].strip()
         column = begin - source.rfind("\n", 0, begin) - 1 - (len(lines[line]) - len(lines[line].lstrip()))
         old = " ".join(source[begin:end].split())
-        # The same sign can stand in a line more than once: then it is counted.
+        # Numbers the changes if an operator occurs in a line more than once.
         nth = code.count(old, 0, column) + 1
         place = f" (number {nth})" if code.count(old) > 1 else ""
         change = f"{old} left out{place}" if text in ("", ";") else f"{old} -> {text}{place}"

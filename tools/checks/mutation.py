@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
 """Changes one operator, constant, condition or statement at a time in the formulas and the texts of numbers, builds
-the unit tests of their room and runs them. A mutant that no test notices fails the command, unless
-tools/checks/mutants-explained.txt says why nobody could notice it; so does an explained one that a test notices.
+the unit tests of their room and runs them. The command fails if a mutant survives and tools/checks/mutants-explained.txt
+does not explain it, and if an explained mutant is killed.
 
 Use: mutation.py [--root ROOT] [--only FILE]... [--jobs N] [--seconds N] [--list] [--fresh]
 
-Needs the packages of ./check. Works on a copy in ROOT/build/mutation. What was found stays there for as long as the texts that decided it are the
-same, so that a broken-off run goes on, and a change costs only what it touches.
+Needs the packages of ./check. Works on a copy in ROOT/build/mutation and stores each verdict there until a file that
+decided it changes. So an interrupted run can be continued, and after a change only the affected mutants run again.
 """
 
 import argparse
@@ -28,14 +28,14 @@ from mutants import Mutant, mutants_of
 from sources import includes
 
 COMPILER = "clang++-14"
-# Asserting library: reading past the end of a text is noticed.
+# With the library's assertions, so that reading past the end of a text fails.
 FLAGS = ["-std=c++20", "-O0", "-g0", "-w", "-ffp-contract=off", "-D_GLIBCXX_ASSERTIONS"]
-# What most of the time would go into is compiled once: the library's headers, and for the tests those of theirs.
+# Headers that take most of the compile time are precompiled: the standard ones, and GoogleTest's for the tests.
 TEST_HEADERS = {"sources": [], "plain": ["gmock/gmock.h", "gtest/gtest.h"]}
 TEST_HEADERS["properties"] = [*TEST_HEADERS["plain"], "rapidcheck/gtest.h"]
-# As in the build's own tests: the seed is given.
+# The same fixed seed as in the tests of the build.
 ENVIRONMENT = {"RC_PARAMS": "seed=20240601 max_success=1000"}
-# Of the processor: on a busy machine the clock would end good runs too. The unchanged tests take less than one.
+# Processor time, because on a busy machine the wall clock would also end good runs. Unchanged tests take under 1 s.
 TEST_SECONDS = 5
 TEST_CLOCK_SECONDS = 120
 MEMORY = 2 << 30
@@ -44,7 +44,7 @@ EXPLAINED = "tools/checks/mutants-explained.txt"
 
 @dataclass(frozen=True)
 class Room:
-    """Sources and the unit tests that must notice a change of them."""
+    """Sources and the unit tests that must fail when one of them changes."""
 
     sources: str
     tests: str
@@ -55,7 +55,7 @@ ROOMS = (Room("src/platform/numbers", "tests/platform/numbers"), Room("src/calc"
 
 
 class Tree:
-    """A copy of the sources, so that work on them does not mix with the run, and what they include."""
+    """A copy of the sources and of their headers, so that the tree can be edited during the run."""
 
     def __init__(self, root: Path, folder: Path):
         self.folder = folder
@@ -72,7 +72,7 @@ class Tree:
         return [name for name in self.texts if name.startswith(folder + "/") and name.endswith(suffix)]
 
     def closure(self, name: str) -> frozenset[str]:
-        """The file and all that it includes, directly or not."""
+        """The file and everything that it includes, directly or not."""
         if name not in self.closures:
             seen, waiting = set(), [name]
             while waiting:
@@ -86,7 +86,7 @@ class Tree:
         return self.closures[name]
 
     def kind(self, name: str) -> str:
-        """Which of the headers that are compiled beforehand a source takes."""
+        """The set of precompiled headers that a source uses."""
         if name.startswith("src/"):
             return "sources"
         return "properties" if any("rapidcheck" in self.texts[used] for used in self.closure(name)) else "plain"
@@ -105,7 +105,7 @@ class Tree:
 
 @dataclass
 class Bench:
-    """Compiles and links in one folder; `mutated` takes the place of the tree's file of that name."""
+    """Compiles and links in one folder; `mutated` replaces the tree's file of that name."""
 
     tree: Tree
     folder: Path
@@ -123,7 +123,7 @@ class Bench:
         return self.folder / "objects" / (name + ".o")
 
     def compiled(self, name: str) -> tuple[Path | None, str]:
-        """The object of a source of the tree, None and the compiler's words when it does not compile."""
+        """The object file of a source, or None and the compiler's output if it does not compile."""
         target = self.object_of(name)
         target.parent.mkdir(parents=True, exist_ok=True)
         path = self.folder / "changed" / name if name == self.mutated else self.tree.folder / name
@@ -142,14 +142,14 @@ class Bench:
 
 
 def passes(program: Path, seconds: int) -> bool:
-    """A mutant may never end, or eat all memory: both are noticed."""
+    """Runs a test with limits on time and memory, because a mutant may loop forever or allocate without end."""
     def limit():
         resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
         resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
         resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
     try:
-        # Without a shuffle, so that a result can be reproduced.
+        # In fixed order, so that a result can be reproduced.
         done = subprocess.run([program, "--gtest_brief=1", "--gtest_fail_fast"], env=os.environ | ENVIRONMENT,
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=TEST_CLOCK_SECONDS,
                               cwd=program.parent, preexec_fn=limit, check=False)
@@ -160,7 +160,7 @@ def passes(program: Path, seconds: int) -> bool:
 
 @dataclass
 class Workshop:
-    """The unchanged objects of every room, and the verdict on one mutant after the other."""
+    """Holds the unchanged objects of every room and decides on the mutants one by one."""
 
     tree: Tree
     folder: Path
@@ -168,7 +168,7 @@ class Workshop:
     objects: dict[str, Path] = field(default_factory=dict)
 
     def prepare(self, jobs: int, rooms: list[Room]):
-        """Compiles what is unchanged; a room whose tests fail as they are cannot judge a mutant."""
+        """Compiles the unchanged sources. The tests of a room must pass before they can decide on mutants."""
         bench = Bench(self.tree, self.folder / "unchanged", self.folder / "precompiled")
         names = sorted({name for room in rooms for folder in (room.sources, room.tests, *room.links)
                         for name in self.tree.files(folder, ".cpp")})
@@ -195,7 +195,7 @@ class Workshop:
                        check=True)
 
     def unchanged(self, bench: "Bench", name: str) -> tuple[Path | None, str]:
-        """The object of a source as it stands, of an earlier call where nothing that it includes has changed."""
+        """The object file of an unchanged source; an earlier one is reused if nothing that it includes has changed."""
         target = bench.object_of(name)
         stamp, key = target.with_suffix(".key"), f"{FLAGS}{self.tree.digest(self.tree.closure(name))}"
         if target.is_file() and stamp.is_file() and stamp.read_text() == key:
@@ -209,7 +209,7 @@ class Workshop:
         return [name for folder in (room.sources, *room.links) for name in self.tree.files(folder, ".cpp")]
 
     def stages(self, room: Room, name: str) -> list[list[str]]:
-        """The tests in the order in which they are tried: the mirrored one, then those of the room that see the file."""
+        """The tests in the order in which they run: the one of the same path, then those of the room that see the file."""
         tests = self.tree.files(room.tests, ".cpp")
         stem = Path(name).stem
         mirrored = [test for test in tests if Path(test).stem == stem + "_test"]
@@ -221,7 +221,7 @@ class Workshop:
         return [stage for stage in (mirrored, rest) if stage]
 
     def keys(self, room: Room, name: str, mutant: Mutant) -> list[str]:
-        """For each stage, what its verdict depends on: the change, the sources and the tests up to there."""
+        """For each stage a key of everything that decides it: the change, the sources and the tests so far."""
         sources = {used for source in self.sources_of(room) for used in self.tree.closure(source)}
         keys, tests = [], set()
         for stage in self.stages(room, name):
@@ -231,7 +231,7 @@ class Workshop:
         return keys
 
     def judge(self, bench: Bench, room: Room, name: str, mutant: Mutant) -> tuple[str, int]:
-        """killed, survived or not compiled, and the stage that decided."""
+        """killed, survived or not compiled, and the stage that decided it."""
         bench.place(name, mutant.applied(self.tree.texts[name]))
         objects = {}
         for source in self.sources_of(room):
@@ -257,7 +257,7 @@ class Workshop:
 
 
 def read_explained(path: Path) -> dict[tuple[str, str, str], str]:
-    """(file, line of code, change) -> why no test can notice it. An entry is a block of lines: the file, the code,
+    """(file, line of code, change) -> why no test can fail. An entry is a block of lines: the file, the code,
     one or more changes, the reason."""
     explained = {}
     if not path.is_file():
@@ -278,7 +278,7 @@ def read_explained(path: Path) -> dict[tuple[str, str, str], str]:
 
 
 class Memory:
-    """Verdicts of earlier calls, written as they come."""
+    """The verdicts of earlier calls; each new one is stored at once."""
 
     def __init__(self, path: Path, fresh: bool):
         self.path, self.lock, self.verdicts = path, threading.Lock(), {}
@@ -290,7 +290,7 @@ class Memory:
                 self.verdicts[key] = verdict.replace("-", " ")
 
     def find(self, keys: list[str]) -> str | None:
-        """What an early stage noticed stays noticed; that something survived needs all stages."""
+        """A mutant is killed if one stage killed it; it survives only if all stages let it pass."""
         known = [self.verdicts.get(key) for key in keys]
         return next((verdict for verdict in known if verdict), None)
 
@@ -371,7 +371,7 @@ def report(root: Path, work: list, verdicts: list[str], begin: float) -> int:
     files = sorted({name for _, name, _ in work})
     count = {name: {"killed": 0, "explained": 0, "survived": 0, "not compiled": 0} for name in files}
     complaints, met = [], set()
-    # A line of code that stands twice in a file has one entry; it holds when one of its mutants survives.
+    # A line of code that occurs twice in a file has one entry, which is valid if one of its mutants survives.
     surviving = {(name, mutant.code, mutant.change) for (_, name, mutant), verdict in zip(work, verdicts)
                  if verdict == "survived"}
     for (_, name, mutant), verdict in zip(work, verdicts):

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Tests of the mutation check: which mutants there are, and that it tells the killed from the surviving ones."""
+"""Tests of the mutation check: which mutants it makes, and that it recognises killed and surviving ones."""
 
 import subprocess
 import sys
@@ -103,7 +103,7 @@ why: of equal numbers either is the larger
 
 
 class WholeRun(unittest.TestCase):
-    """One tree for all steps, because most of the time goes into the test library's headers."""
+    """One tree for all steps, because compiling GoogleTest's headers takes most of the time."""
 
     def run_it(self, *options: str) -> tuple[int, str]:
         done = subprocess.run([sys.executable, "-B", HERE / "mutation.py", "--root", self.root, "--jobs", "2",
@@ -135,7 +135,7 @@ class WholeRun(unittest.TestCase):
         self.write("tools/checks/mutants-explained.txt", EXPLAINED)
         status, output = self.run_it()
         self.assertEqual(status, 0, output)
-        # Nothing was asked for twice.
+        # No verdict was computed twice.
         self.assertEqual((self.root / "build/mutation/verdicts.txt").read_text(), verdicts)
 
         self.write("tools/checks/mutants-explained.txt", EXPLAINED.replace(">=", "<=\nchange: > -> ~"))

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# The desktop entry and the AppStream metadata are valid, and everything that names a version names the project's.
+# Checks the desktop entry, the AppStream metadata, and that every version number is the project's.
 # Use: package_files.sh ROOT
 set -euo pipefail
 
@@ -11,7 +11,7 @@ wrong() {
     failures=$((failures + 1))
 }
 
-# Also its warnings count; it ends with success for these.
+# The tool exits with success on warnings, so its output is checked.
 said=$(desktop-file-validate "$root/packaging/mero.desktop" 2>&1) || true
 [[ -z $said ]] || wrong "$said"
 said=$(appstreamcli validate --no-net --explain "$root/packaging/local.mero.mero.metainfo.xml" 2>&1) || wrong "$said"
@@ -23,14 +23,14 @@ released=$(sed -n 's/.*<release version="\([^"]*\)" date=.*/\1/p' "$root/packagi
 packed=$(sed -n '1s/^mero (\([^-]*\)-.*/\1/p' "$root/packaging/debian/changelog")
 [[ $packed == "$version" ]] || wrong "the Debian changelog begins with $packed, the project's version is $version"
 
-# Each program that users call has its manual page, and the menu entry starts one of them.
+# Each program that users call has a manual page; the menu entry starts one of these programs.
 for program in mero mero-batch; do
     [[ -f $root/docs/man/$program.1 ]] || wrong "docs/man/$program.1 is missing"
 done
 grep -qx 'Exec=mero' "$root/packaging/mero.desktop" || wrong "the menu entry does not start mero"
 for size in 16 22 24 32 48 64 128 256; do
     picture=$root/packaging/icons/${size}x$size/apps/mero.png
-    # The size stands in the header of a PNG file: two numbers of four bytes, the high byte first.
+    # A PNG header holds the width and the height as 4-byte big-endian numbers.
     [[ -f $picture && $(od -An -tu1 -j16 -N8 "$picture" | tr -s ' ') == \
         " 0 0 $((size / 256)) $((size % 256)) 0 0 $((size / 256)) $((size % 256))" ]] || wrong "$picture is not $size pixels"
 done

@@ -1,5 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""Rules of the source tree that no compiler checks. Prints FILE:LINE: what is wrong; exit status 1 when anything is.
+"""Checks rules of the source tree that no compiler checks. Prints FILE:LINE: what is wrong; exit status 1 if anything is.
+
+A file under src/ may include a header only if its target links the header's target, directly or through others.
+Both come from the CMakeLists.txt files (rooms.py), so the links are the one statement of the layers.
 
 Use: rules.py ROOT
 """
@@ -8,82 +11,42 @@ import re
 import sys
 from pathlib import Path
 
+from rooms import QT_TARGET, Rooms, Target
 from sources import code_only, includes, script_files, source_files
 
 MAX_LINES = 450
 LICENCE = "SPDX-License-Identifier: MIT"
 
-# What each room of src/ may include, besides itself. The longest matching prefix counts.
-# `numbers` is also the home of the run-time error type.
-NUMBERS = ("platform/numbers",)
-CORE = ("calc", "data", "report", "platform")
-ROOMS = {
-    "platform/numbers": (),
-    "qt": ("platform", "picture"),
-    "platform": NUMBERS,
-    "calc": NUMBERS,
-    "picture": ("calc", *NUMBERS),
-    "data": ("calc", "platform"),
-    "design": ("calc", "data", "platform"),
-    "report": ("calc", "data", "platform"),
-    "project": (*CORE, "design"),
-    "sweep": (*CORE, "picture", "design", "project"),
-    "forms": (*CORE, "picture", "qt"),
-    "automation": (*CORE, "forms"),
-    "app": (*CORE, "design", "project", "sweep", "forms", "automation", "qt"),
-}
-
+# The rooms that may link Qt: the widgets, the layouts of the forms, the program with the window.
+QT_ROOM = re.compile(r"qt|forms/(.+/)?layout|app/mero")
+NUMBER_ROOM = "platform/numbers"
 QT_INCLUDE = re.compile(r"^(Qt\w*/)?Q\w+$|^(Qt\w+/)?q[a-z0-9_]+\.h$")
-QT_LINK = re.compile(r"\bQt6?::\w+")
 NUMBER_TEXT = re.compile(
     r"\b(?:sto(?:f|d|ld)|strto(?:f|d|ld)|ato(?:f|i|l|ll)|s?n?scanf|v?(?:f|s|sn|as|d)?printf|to_string|to_wstring"
     r"|setlocale|uselocale|imbue|setprecision|toFloat|toDouble)\s*(?:<[^<>]*>)?\s*\(|\bstd::(?:locale|fixed|scientific)\b"
 )
 
 
-def is_qt_room(path: str) -> bool:
-    """May this file (relative to src/) see Qt: the Qt platform, window layouts, the window's main program?"""
-    return (
-        path.startswith(("qt/", "app/mero/"))
-        or path == "app/mero.cpp"
-        or (path.startswith("forms/") and "/layout/" in path)
-    )
-
-
-def room_of(path: str) -> str | None:
-    """The room of a path relative to src/, None when it lies in none."""
-    matching = [room for room in ROOMS if path.startswith(room + "/")]
-    return max(matching, key=len, default=None)
-
-
-def may_include(path: str, included: str) -> bool:
-    """May the file `path` include the header `included` (both relative to src/)?"""
-    room, other = room_of(path), room_of(included)
-    if room is None or other is None:
-        return False
-    if other == "qt" and not is_qt_room(path):
-        return False
-    if room == other:
-        return True
-    return any(other == below or other.startswith(below + "/") for below in ROOMS[room])
-
-
-def check_include(root: Path, path: str, name: str, own: bool) -> str | None:
-    """What is wrong with an include of a file under src/, None when nothing is."""
+def check_include(rooms: Rooms, target: Target, name: str, own: bool) -> str | None:
+    """What is wrong with an include of a file of `target`, None when nothing is."""
     if QT_INCLUDE.match(name):
-        return None if is_qt_room(path) else f"Qt ({name}) outside qt, forms/**/layout and app/mero"
+        return None if rooms.sees_qt(target) else f"{target.name} links no Qt, so it cannot include {name}"
     if name.endswith(".moc"):
         return None
+    is_ours = (rooms.src / name).is_file()
     if not own:
-        return f'<{name}> is a header of ours: write it in quotes' if (root / "src" / name).is_file() else None
-    if not (root / "src" / name).is_file():
+        return f"<{name}> is a header of ours: write it in quotes" if is_ours else None
+    if not is_ours:
         return f'"{name}" is no path from src/'
-    if not may_include(path, name):
-        return f'"{name}" lies above or beside {room_of(path) or "src"}: includes go only downwards'
+    owner = rooms.owner(name)
+    if owner is None:
+        return f'"{name}" belongs to no target'
+    if owner.name not in rooms.sees(target):
+        return f'"{name}" belongs to {owner.name}, which {target.name} does not link'
     return None
 
 
-def check_source(root: Path, file: Path) -> list[str]:
+def check_source(root: Path, rooms: Rooms, file: Path) -> list[str]:
     """Everything that is wrong with one .h or .cpp file."""
     name = file.relative_to(root).as_posix()
     text = file.read_text(encoding="utf-8")
@@ -102,33 +65,61 @@ def check_source(root: Path, file: Path) -> list[str]:
         return found
 
     path = name.removeprefix("src/")
-    if room_of(path) is None:
-        found.append(f"{name}:1: lies in no room of src/ ({', '.join(ROOMS)})")
-    for line, included, own in includes(text):
-        if wrong := check_include(root, path, included, own):
-            found.append(f"{name}:{line}: {wrong}")
-    if room_of(path) != "platform/numbers":
+    target = rooms.owner(path)
+    if target is None:
+        room = rooms.room_of(path)
+        found.append(f"{name}:1: " + (f"no target of src/{room} compiles it" if room else "lies in no room of src/"))
+    else:
+        for line, included, own in includes(text):
+            if wrong := check_include(rooms, target, included, own):
+                found.append(f"{name}:{line}: {wrong}")
+    if target is None or target.folder != NUMBER_ROOM:
         for line, code in enumerate(code_only(text).split("\n"), 1):
             if match := NUMBER_TEXT.search(code):
                 word = match.group().rstrip("( ")
-                found.append(f"{name}:{line}: {word}: texts of numbers are made and read in platform/numbers only")
+                found.append(f"{name}:{line}: {word}: texts of numbers are made and read in {NUMBER_ROOM} only")
     return found
 
 
-def check_links(root: Path, file: Path) -> list[str]:
-    """Qt links of a CMakeLists.txt outside the rooms of Qt."""
-    path = file.relative_to(root / "src").as_posix()
-    if is_qt_room(path):
-        return []
+def included_targets(rooms: Rooms, files: list[Path]) -> dict[str, set[str]]:
+    """For each target the targets whose headers its files include."""
+    found: dict[str, set[str]] = {name: set() for name in rooms.targets}
+    for file in files:
+        if target := rooms.owner(file.relative_to(rooms.src).as_posix()):
+            names = [name for _, name, _ in includes(file.read_text(encoding="utf-8"))]
+            found[target.name] |= {owner.name for name in names if (owner := rooms.owner(name))}
+    return found
+
+
+def check_link(rooms: Rooms, target: Target, link: str, included: set[str]) -> str | None:
+    """What is wrong with a link of a target, None when nothing is."""
+    other = rooms.target(link)
+    if not QT_ROOM.fullmatch(target.folder) and (QT_TARGET.match(link) or (other and rooms.sees_qt(other))):
+        return f"{target.name} links {link}: only qt, forms/**/layout and app/mero may link Qt"
+    if other is None:
+        return None
+    if rooms.position[other.name] >= rooms.position[target.name]:
+        return f"{target.name} links {link}, which is added later: links go only downwards"
+    if other.folder != target.folder and any(beside.is_program for beside in rooms.targets_in(other.folder)):
+        return f"{target.name} links {link}, which is a part of the program in src/{other.folder}"
+    if other.name not in included:
+        return f"{target.name} links {link}, but includes no header of it"
+    return None
+
+
+def check_links(rooms: Rooms, files: list[Path]) -> list[str]:
+    """Everything that is wrong with the links between the targets under src/."""
+    included = included_targets(rooms, files)
     return [
-        f"src/{path}:{number}: links {match.group()} outside qt, forms/**/layout and app/mero"
-        for number, line in enumerate(file.read_text(encoding="utf-8").split("\n"), 1)
-        if (match := QT_LINK.search(line.split("#")[0]))
+        f"{target.file}:{line}: {wrong}"
+        for target in rooms.targets.values()
+        for link, line in target.links.items()
+        if (wrong := check_link(rooms, target, link, included[target.name]))
     ]
 
 
 def check_licence(root: Path, file: Path) -> list[str]:
-    """A script or a build file whose first line, or the one below #!, does not tell its licence."""
+    """What is wrong with the licence line of a script or a build file: the first line, or the one below #!."""
     lines = file.read_text(encoding="utf-8").split("\n")
     line = lines[1:2] if lines[0].startswith("#!") else lines[:1]
     return [] if line == [f"# {LICENCE}"] else [f"{file.relative_to(root).as_posix()}:1: opens without # {LICENCE}"]
@@ -136,8 +127,10 @@ def check_licence(root: Path, file: Path) -> list[str]:
 
 def check_tree(root: Path) -> list[str]:
     """Everything that is wrong in the tree, one line each."""
-    found = [wrong for file in source_files(root) for wrong in check_source(root, file)]
-    found += [wrong for file in sorted((root / "src").rglob("CMakeLists.txt")) for wrong in check_links(root, file)]
+    rooms = Rooms(root)
+    files = source_files(root)
+    found = [wrong for file in files for wrong in check_source(root, rooms, file)]
+    found += check_links(rooms, [file for file in files if file.is_relative_to(rooms.src)])
     found += [wrong for file in script_files(root) for wrong in check_licence(root, file)]
     return found
 

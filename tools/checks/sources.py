@@ -1,6 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The project's C++ sources as the checks see them: which files there are, their code without comments and
-texts, and what they include."""
+"""Finds and reads the project's files for the checks: lists of files, code without comments and texts, includes."""
 
 import re
 from pathlib import Path
@@ -8,8 +7,8 @@ from pathlib import Path
 FOLDERS = ("src", "tests", "bench", "fuzz")
 SCRIPT_FOLDERS = (*FOLDERS, "cmake", "docs", "packaging", "tools")
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<(?P<system>[^>]+)>|"(?P<own>[^"]+)")', re.MULTILINE)
-# In this order, so that what begins first wins: a quote in a comment is no text, slashes in a text no comment.
-# A ' between digits groups them (10'000).
+# One expression for all, because the first one that begins wins: a quote in a comment begins no text, slashes in a text
+# begin no comment. A ' between digits groups them (10'000).
 COMMENT_OR_TEXT = re.compile(
     r"""
     //(?:\\\n|[^\n])*
@@ -42,7 +41,7 @@ def code_only(text: str) -> str:
 
 
 def includes(text: str) -> list[tuple[int, str, bool]]:
-    """(line, name, own) of every include; `own` when it is written with quotes."""
+    """(line, name, own) of every include; `own` is true if it is written with quotes."""
     found = []
     for match in INCLUDE.finditer(text):
         line = text.count("\n", 0, match.start("own" if match["own"] else "system")) + 1

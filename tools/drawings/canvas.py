@@ -108,7 +108,7 @@ class Canvas:
         self.polygon(points, stroke=INK, width=1.2)
 
     def grains(self, points, fill, radius, spacing, color=GREY, seed=7):
-        """Grains of gravel (rings) or sand (dots), placed alike at every run."""
+        """Grains of gravel (rings) or sand (dots), at the same places in every run."""
         self.polygon(points, fill)
         xs = [p[0] for p in points]
         ys = [p[1] for p in points]
@@ -142,7 +142,7 @@ class Canvas:
         self.polygon(points, TOPSOIL)
 
     def grass(self, *points):
-        """Blades along a line of points."""
+        """Blades of grass along a line of points."""
         for (x1, y1), (x2, y2) in zip(points, points[1:]):
             count = max(1, int(math.hypot(x2 - x1, y2 - y1) / 6))
             for i in range(count):
@@ -157,7 +157,7 @@ class Canvas:
         self.polygon(points, WATER)
 
     def level(self, x1, x2, y, mark_x, dash=None):
-        """Water level with its triangle standing on it."""
+        """Water level with the triangle symbol on it."""
         self.line((x1, y), (x2, y), color=WATER_LINE, width=1.5, dash=dash)
         self.polygon([(mark_x - 6, y - 10), (mark_x + 6, y - 10), (mark_x, y - 1)], WHITE, WATER_LINE, 1.2)
         self.line((mark_x - 5, y + 4), (mark_x + 5, y + 4), color=WATER_LINE, width=1)
@@ -210,7 +210,7 @@ class Canvas:
         return width
 
     def text(self, x, y, label, align="left", size=12, color=INK, backed=False, bold=False):
-        """A label with its baseline at y; "backed" clears the ground behind it."""
+        """A label with its baseline at y; `backed` clears the background behind it."""
         width = self.label_width(label, size, bold)
         x -= {"left": 0, "centre": width / 2, "right": width}[align]
         if x < 0 or x + width > self.width or y > self.height or y < size:
@@ -226,7 +226,7 @@ class Canvas:
         self.ctx.new_path()
 
     def note(self, target, at, label, align="left", backed=False):
-        """A label with a thin line to what it names."""
+        """A label with a thin leader line to the part that it names."""
         self.line((at[0], at[1]), target, color=INK, width=0.8)
         self.circle(target[0], target[1], 2, fill=INK)
         gap = {"left": 4, "centre": 0, "right": -4}[align]
@@ -242,7 +242,7 @@ class Canvas:
         self.text((x1 + x2) / 2, y + (16 if below else -6), label, "centre", backed=backed)
 
     def down(self, x, y1, y2, label, reach=(), side="right", backed=True, at=None):
-        """Vertical dimension with its label beside it; several lines are parted by a line feed."""
+        """Vertical dimension with its label beside it; a line feed separates the lines of the label."""
         for y, start in zip((y1, y2), reach):
             self.line((start, y), (x + (6 if x > start else -6), y), color=GREY, width=0.7)
         self.line((x, y1), (x, y2), color=INK, width=0.9)

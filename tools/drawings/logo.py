@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The logo of the report and of the description pages: the program's mark and its name."""
+"""Draws the logo of the report and of the description pages: the program's mark and its name."""
 import cairo
 
 from canvas import FONT, WATER_LINE, Canvas

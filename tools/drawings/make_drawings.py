@@ -23,7 +23,7 @@ def as_image(canvas):
 
 
 def make_icons(folder):
-    """The icon as an icon theme has it: a folder for each size, and one for all others."""
+    """Writes the icon as icon themes expect it: a folder for each pixel size and one for the scalable file."""
     for size in SIZES:
         place = folder / f"{size}x{size}" / "apps"
         place.mkdir(parents=True, exist_ok=True)
@@ -42,7 +42,7 @@ def main():
     folder = base / "Webs" / "Desc_soubory"
     folder.mkdir(parents=True, exist_ok=True)
     for number, draw in SECTIONS.items():
-        # 96 colours are plenty for line drawings and make small files.
+        # 96 colours are enough for line drawings and make small files.
         picture = as_image(draw()).quantize(96, dither=Image.Dither.NONE)
         picture.save(folder / f"rez_{number:02}.png", optimize=True)
     as_image(logo()).quantize(64, dither=Image.Dither.NONE).save(folder / "logo.gif", optimize=True)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The mark of the program: a drop sinking into the layers of the soil, on a plate with round corners.
+"""Draws the program's mark: a drop sinking into the layers of the soil, on a plate with round corners.
 
 One geometry for the icon in all sizes, as pixels and as SVG, and for the logo of the report. A mark is a list of
 (colour, path); a path is a list of ("M" | "L", x, y), ("C", x1, y1, x2, y2, x, y) and ("Z",).
@@ -14,7 +14,7 @@ GRAVEL = (0.86, 0.78, 0.63)
 DROP = (0.08, 0.36, 0.66)
 WHITE = (1.0, 1.0, 1.0)
 
-# What a quarter of a circle takes as two control points, in radii.
+# Distance of the control points of a quarter circle from its ends, in radii.
 ARC = 0.5523
 
 GRID = 64
@@ -33,7 +33,7 @@ def plate(low, high, radius):
 
 
 def layer(low, high, radius, top, wave=0.0):
-    """What of the plate lies below `top`; its upper edge swings by `wave`. Reaches no further up than the corners."""
+    """The part of the plate below `top`, with a wave of height `wave` as its upper edge. `top` lies below the corners."""
     k = radius * (1 - ARC)
     third = (high - low) / 3
     return [("M", low, top), ("C", low + third, top - wave, high - third, top + wave, high, top),
@@ -42,7 +42,7 @@ def layer(low, high, radius, top, wave=0.0):
 
 
 def drop(x, tip, bottom, radius, grown=0.0):
-    """A drop with its tip above; `grown` by a rim."""
+    """A drop with its tip at the top, enlarged by a rim of width `grown`."""
     y = bottom - radius
     r = radius + grown
     top = tip - 1.2 * grown
@@ -53,7 +53,7 @@ def drop(x, tip, bottom, radius, grown=0.0):
 
 
 def gleam(x, y, r, width):
-    """The light on the drop: a sickle along its lower left side."""
+    """The highlight of the drop: a crescent along its lower left side."""
     inner = r - width
     k, j = r * ARC, inner * ARC
     return [("M", x - r, y), ("C", x - r, y + k, x - k, y + r, x, y + r), ("L", x, y + inner),
@@ -70,7 +70,7 @@ def mark():
 
 
 def small_mark(size):
-    """The mark in pixels, for 16 to 24 of them: every straight edge lies between two pixels."""
+    """The mark for 16 to 24 pixels: every straight edge lies between two pixels."""
     low = 1
     high = size - 1
     radius = 2 if size < 20 else 3
@@ -82,7 +82,7 @@ def small_mark(size):
 
 
 def draw(ctx, shapes):
-    """Paints a mark; the context says where and how large."""
+    """Paints a mark; the context sets position and size."""
     for color, path in shapes:
         ctx.new_path()
         for command, *numbers in path:
@@ -92,7 +92,7 @@ def draw(ctx, shapes):
 
 
 def icon(size):
-    """The icon as a picture of so many pixels, its ground transparent."""
+    """The icon as a picture of the given size with a transparent background."""
     surface = cairo.ImageSurface(cairo.FORMAT_ARGB32, size, size)
     ctx = cairo.Context(surface)
     if size in SMALL_SIZES:

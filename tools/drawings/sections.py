@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The section drawings of the six infiltration types, with the dimensions that their panels ask for."""
+"""Draws the sections of the six infiltration types with the dimensions of their input panels."""
 from canvas import INK, WATER, WHITE, Canvas
 
 WIDTH = 650

@@ -6,8 +6,8 @@ Use: make_pictures.py [--program MERO]         the pictures of the user manual, 
      make_pictures.py --all [--program MERO] [--only WORD]
                                                every tab, panel and dialog, light and dark, 100 and 200 %, on a small
                                                and a large screen, with contact sheets, into build/screenshots
-The program is build/release/bin/mero unless told otherwise. Needs what `tools/packages.sh screenshots` installs.
-The states are those of the manual's examples, so that the pictures show the numbers that it prints.
+The default program is build/release/bin/mero. Needs the packages that `tools/packages.sh screenshots` installs.
+The pictures show the manual's examples, so they show the numbers that it prints.
 """
 
 import argparse
@@ -22,7 +22,7 @@ from views import BOXES, MANUAL_PICTURES, VIEWS
 
 COLOURS = 64
 BETWEEN_KEYS_S = 1.0
-# On a larger screen the window fills it.
+# On a screen larger than this the window fills it.
 SMALL_WIDTH = 1024
 LOOKS = [Look(palette, scale, width, height)
          for palette in ("light", "dark")
@@ -32,13 +32,13 @@ LOOKS += [Look(scale_percent=150), Look(font_dpi=192), Look("dark", 200, 2560, 1
 
 
 def shrink(file: Path) -> None:
-    """Few colours are plenty for a window and make small files; no dates, so that the same picture is the same file."""
+    """Stores a picture with few colours, to save space, and without dates, so that equal pictures are equal files."""
     subprocess.run(["convert", str(file), "-strip", "+dither", "-colors", str(COLOURS), "-define",
                     "png:compression-level=9", "-define", "png:exclude-chunks=date,time", f"PNG8:{file}"], check=True)
 
 
 def take(program: Path, look: Look, views, folder: Path) -> list[Path]:
-    """Walks the views on one screen; a view that begins anew gets a fresh program."""
+    """Takes the pictures of the views on one screen; a view that starts over gets a fresh program."""
     files = []
     with Screen(look.width, look.height) as screen:
         for name, steps in views.items():
@@ -65,7 +65,7 @@ def take(program: Path, look: Look, views, folder: Path) -> list[Path]:
 
 
 def contact_sheets(files: list[Path], folder: Path, look: Look) -> None:
-    """Four pictures to a sheet, large enough to be read."""
+    """Puts four pictures on a sheet, large enough to be read."""
     for number in range(0, len(files), 4):
         subprocess.run(["montage", *map(str, files[number:number + 4]), "-label", "%t", "-tile", "2x2", "-geometry",
                         "950x715>+4+4", "-background", "#808080", str(folder / f"sheet-{look.name}-{number // 4:02}.png")],
@@ -78,7 +78,7 @@ def main() -> int:
     parser.add_argument("--only", default="", help="only looks whose name holds this word")
     parser.add_argument("--program", type=Path, default=ROOT / "build" / "release" / "bin" / "mero")
     options = parser.parse_args()
-    # An early end takes the screen and the program along.
+    # Ends the screen and the program too if this program is ended early.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     if not options.program.is_file():
         print(f"make_pictures: there is no {options.program}; build it, or tell --program", file=sys.stderr)

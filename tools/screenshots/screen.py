@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A screen of our own with the running program on it: Xvfb, a window manager, mero worked by a script, pictures."""
+"""Runs mero on a virtual screen (Xvfb with a window manager), controls it by a script and takes pictures."""
 
 import json
 import os
@@ -13,13 +13,13 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 CLOCK = "2026-11-20T14:05:09"
 START_LIMIT_S = 20
-# Until the window manager has placed a new window and the program has painted it.
+# Time for the window manager to place a new window and for the program to paint it.
 SETTLE_S = 0.35
 
 
 @dataclass(frozen=True)
 class Look:
-    """How the program is shown."""
+    """Screen size, scale and colours of the program."""
 
     palette: str = "light"
     scale_percent: int = 100
@@ -34,7 +34,7 @@ class Look:
 
 
 class Screen:
-    """An X server without a monitor, on a display number that nobody uses."""
+    """An X server without a monitor, on a free display number."""
 
     def __init__(self, width: int, height: int) -> None:
         read, write = os.pipe()
@@ -50,7 +50,7 @@ class Screen:
                                         stderr=subprocess.DEVNULL)
 
     def __enter__(self) -> "Screen":
-        # A window that comes before its manager would not get the focus.
+        # A window that opens before the window manager runs does not get the focus.
         self.answer("get_desktop")
         return self
 
@@ -77,7 +77,7 @@ class Screen:
         return self.answer("getactivewindow")
 
     def answer(self, question: str) -> str:
-        """What the window manager answers, as soon as it does."""
+        """Waits for the window manager's answer and returns it."""
         end = time.monotonic() + START_LIMIT_S
         while time.monotonic() < end:
             done = subprocess.run(["xdotool", question], env=self.environment, capture_output=True, text=True,
@@ -89,7 +89,7 @@ class Screen:
 
 
 class Program:
-    """mero on a screen, in a folder of its own, worked by script lines or by a person."""
+    """mero on a screen, in a folder of its own, controlled by script lines or by a person."""
 
     @classmethod
     def for_person(cls, screen: Screen, program: Path, look: Look) -> "Program":
@@ -128,7 +128,7 @@ class Program:
         self.work.cleanup()
 
     def perform(self, lines: list[str]) -> list[dict]:
-        """Does what the lines say; the trace of it. RuntimeError when the program ended or refused one."""
+        """Runs the lines and returns their trace. RuntimeError if the program ended or refused a line."""
         self.steps += 1
         mark = {"echo": f"step {self.steps}"}
         self.process.stdin.write("\n".join([*lines, f'echo "step {self.steps}"']) + "\n")

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""What is photographed: script lines, and the name of the picture that is taken after them.
+"""The list of pictures: script lines, and the name of the picture that is taken after them.
 
-Each view begins with a fresh program. The states come from the user manual's examples.
+Each view starts with a fresh program and shows an example of the user manual.
 """
 
 import sys
@@ -39,7 +39,7 @@ def actions(name: str, before_ok_of: str = "", until_press: str = "", times: int
 
 
 def finished(name: str, *pictures: tuple[int, str]) -> Steps:
-    """An example to its end, then its tabs."""
+    """Runs an example to its end, then shows its tabs."""
     first, *rest = pictures
     steps: Steps = [(actions(name), ""), ([f"tab {first[0]}"], first[1])]
     return steps + [([f"tab {tab}"], picture) for tab, picture in rest]
@@ -110,5 +110,5 @@ VIEWS: dict[str, Steps] = {
     ],
 }
 
-# What only somebody at the keyboard sees, because a script answers it at once: the keys that lead there.
+# Keys that open message boxes. A script would answer these at once.
 BOXES: dict[str, list[str]] = {"hlaseni": ["ctrl+Tab", "ctrl+Tab"]}

@@ -15,14 +15,14 @@ import java.util.Set;
 
 /** The folder of CSV files: stations.csv, rain/List<N>.csv for each station, demo.csv for demonstration values. */
 record DataFolder(Path folder) {
-    /** A text column of the database holds no more. */
+    /** Maximum length of a text column of the database. */
     private static final int LONGEST_NOTE = 255;
 
     List<Station> stations() throws IOException, InputException {
         return Station.readAll(folder.resolve("stations.csv"));
     }
 
-    /** The tables of all stations in the order of the station list; a file that no station asks for is an error. */
+    /** The tables of all stations in the order of the station list. A file that belongs to no station is an error. */
     Map<Station, RainTable> rainTables() throws IOException, InputException {
         Map<Station, RainTable> tables = new LinkedHashMap<>();
         Set<Path> read = new HashSet<>();

@@ -9,7 +9,7 @@ import java.util.List;
 import java.util.Map;
 
 /**
- * Demonstration intensities, computed and clearly no measurement.
+ * Computes demonstration intensities, which are no measurements.
  *
  * <p>i(t, p) = r * 38 / (t + 9) * (p^(-1/4) - 0.369) in l/s.ha, Reinhold's time coefficients: t the duration in
  * minutes, p the periodicity per year, r the rain of 15 minutes and periodicity 1. So that stations differ,
@@ -37,7 +37,7 @@ final class DemoValues {
         return new RainTable(last_column, rows);
     }
 
-    /** Every eighth number, 12 of the 92 stations, shows the column that the program falls back to. */
+    /** Every eighth number, 12 of the 92 stations, has the column that the program falls back to. */
     static boolean hasColumn004(int station_number) {
         return station_number % 8 == 3;
     }
@@ -45,7 +45,7 @@ final class DemoValues {
     static BigDecimal intensity(int station_number, int duration_min, double periodicity) {
         double rain = 100.0 + station_number / 2.0;
         double value = rain * 38.0 / (duration_min + 9.0) * (Math.pow(periodicity, -0.25) - 0.369);
-        // Periodicity 1 gives exact halves of a tenth; twelve digits first take the error of the double away.
+        // Periodicity 1 gives exact halves of a tenth. Rounding to twelve digits first removes the error of the double.
         return BigDecimal.valueOf(value).round(TWELVE_DIGITS).setScale(1, RoundingMode.HALF_UP);
     }
 }

@@ -28,12 +28,12 @@ final class RainDatabaseWriter {
     static final String DEMO_TABLE = "Demo";
     static final String DEMO_COLUMN = "poznamka";
 
-    /** Stands in the catalog for every table's creation and change, else each build would give another file. */
+    /** Time of creation and change of every table in the catalog. Fixed, so that every build gives the same file. */
     private static final LocalDateTime CATALOG_TIME = LocalDateTime.of(2026, 1, 1, 0, 0);
 
     private RainDatabaseWriter() {}
 
-    /** Writes beside the target first, so that a failure leaves an existing database as it is. */
+    /** Writes a file beside the target and renames it, so that a failure leaves an existing database unchanged. */
     static void write(Path target, Map<Station, RainTable> tables, Optional<String> demo_note) throws IOException {
         Path unfinished = target.resolveSibling(target.getFileName() + ".new");
         try {
@@ -61,8 +61,8 @@ final class RainDatabaseWriter {
     }
 
     /**
-     * The duration is an Integer (16 bit) and an intensity a Single, the types that the program stores them in:
-     * what it reads is the value that stands in the file, rounded once, when the file is built.
+     * The duration is an Integer (16 bit) and an intensity a Single, as in the program. So values are rounded only once,
+     * when the file is built.
      */
     private static void addStation(Database database, Station station, RainTable rain) throws IOException {
         TableBuilder builder = new TableBuilder(station.tableName());

@@ -9,7 +9,7 @@ import java.util.List;
 
 /**
  * The rain intensities of one station in l/s.ha: one row per duration, one column per periodicity.
- * The last column is "005" (periodicity 0.05), or "004" (0.04) at stations that have that one instead.
+ * The last column is "005" (periodicity 0.05), at some stations "004" (0.04) instead.
  */
 record RainTable(String lastColumn, List<List<BigDecimal>> intensities) {
     static final List<Integer> DURATIONS_MIN = List.of(5, 10, 15, 20, 30, 45, 60, 90, 120);
@@ -44,7 +44,7 @@ record RainTable(String lastColumn, List<List<BigDecimal>> intensities) {
         return csv.toString();
     }
 
-    /** Reads List<N>.csv: exactly the nine durations in rising order, every intensity given. */
+    /** Reads List<N>.csv: exactly the nine durations in ascending order, with all intensities. */
     static RainTable read(Path file) throws IOException, InputException {
         List<String> lines = TextFile.lines(file);
         String last_column = lastColumnOf(file, lines);

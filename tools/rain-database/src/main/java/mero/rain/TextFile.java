@@ -9,7 +9,7 @@ import java.nio.file.NoSuchFileException;
 import java.nio.file.Path;
 import java.util.List;
 
-/** Reads the lines of a UTF-8 file; a byte order mark, as spreadsheets write it, is skipped. */
+/** Reads the lines of a UTF-8 file and skips a byte order mark, which spreadsheets write. */
 final class TextFile {
     private TextFile() {}
 

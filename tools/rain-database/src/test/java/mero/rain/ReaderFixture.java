@@ -15,7 +15,7 @@ import java.math.BigDecimal;
 import java.nio.file.Path;
 import java.time.LocalDateTime;
 
-/** Writes tests/data/odd_tables.mdb: what an office's own database may hold, for the tests of the reader. */
+/** Writes tests/data/odd_tables.mdb: unusual tables, for the tests of the reader. */
 public final class ReaderFixture {
     private ReaderFixture() {}
 
@@ -72,7 +72,7 @@ public final class ReaderFixture {
         table.addRow(null, null, null, null, null, null, null, null, null, null, null, null);
     }
 
-    /** Eleven rows of which the third and the last were deleted again. */
+    /** Eleven rows; the third and the last are deleted. */
     private static void addDeletedRows(Database database) throws IOException {
         Table table = addCounting(database, "List6", 11);
         Column key = table.getColumn("Doba");

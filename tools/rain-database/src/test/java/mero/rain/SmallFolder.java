@@ -5,7 +5,7 @@ import java.io.IOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
 
-/** A data folder with two stations, one of each kind of last column, to spoil in tests. */
+/** A data folder with two stations, one for each kind of last column. Tests damage it. */
 final class SmallFolder {
     static final String STATIONS = "position;name;number\n1;Aš;7\n2;Žďár nad Sázavou;3\n";
     static final String ROWS =
