@@ -31,8 +31,9 @@ std::span<const CatalogueShaft> shaftCatalogue() {
 
 std::span<const CatalogueShaft> shaftCatalogue(data::ShaftShape shape) {
     const auto all = shaftCatalogue();
-    const auto of_shape = std::ranges::equal_range(all, shape, {}, &CatalogueShaft::shape);
-    return {of_shape.begin(), of_shape.end()};
+    const auto rectangular = std::ranges::find(all, data::ShaftShape::Rectangular, &CatalogueShaft::shape);
+    return shape == data::ShaftShape::Round ? std::span(all.begin(), rectangular)
+                                            : std::span(rectangular, all.end());
 }
 
 }  // namespace mero::design

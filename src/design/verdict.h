@@ -45,7 +45,7 @@ struct Verdict {
     VerdictId id;
     std::array<float, kMostSubjects> values;  ///< of the subjects of info(id), in their order
 
-    friend bool operator==(const Verdict& verdict, VerdictId id) { return verdict.id == id; }
+    friend bool operator==(const Verdict& verdict, VerdictId other) { return verdict.id == other; }
 };
 
 /// What the verdict speaks of.

@@ -13,10 +13,10 @@ std::string reportPath(std::string_view program_folder, std::string_view project
     return path;
 }
 
-std::string descriptionPagePath(std::string_view program_folder, int infiltration_type) {
+std::string descriptionPagePath(std::string_view program_folder, data::FacilityType type) {
     std::string path(program_folder);
     path += "/Webs/Desc0";
-    path += numbers::general(infiltration_type);
+    path += numbers::general(static_cast<int>(type));
     path += ".htm";
     return path;
 }

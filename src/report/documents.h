@@ -5,12 +5,14 @@
 #include <string>
 #include <string_view>
 
+#include "data/facility_type.h"
+
 namespace mero::report {
 
 /// Report file of a project: "Mero_" and the project name as typed, without extension.
 [[nodiscard]] std::string reportPath(std::string_view program_folder, std::string_view project_name);
 
-/// Description page of an infiltration type, 1 to 6: "Webs/Desc01.htm" to "Webs/Desc06.htm".
-[[nodiscard]] std::string descriptionPagePath(std::string_view program_folder, int infiltration_type);
+/// Description page of an infiltration type: "Webs/Desc01.htm" to "Webs/Desc06.htm".
+[[nodiscard]] std::string descriptionPagePath(std::string_view program_folder, data::FacilityType type);
 
 }  // namespace mero::report

@@ -61,7 +61,7 @@ Size pictureSize(const std::string& bytes) {
 class DescriptionPage : public testing::TestWithParam<int> {
   protected:
     void SetUp() override {
-        path_ = descriptionPagePath(kProgramFolder.string(), GetParam());
+        path_ = descriptionPagePath(kProgramFolder.string(), static_cast<data::FacilityType>(GetParam()));
         ASSERT_TRUE(fs::is_regular_file(path_)) << path_;
         html_ = contentOf(path_);
     }
@@ -154,7 +154,8 @@ TEST(Logo, FitsTheReportsCell) {
 TEST(DescriptionFolder, HoldsNothingThatNoPageShows) {
     std::string all_pages;
     for (int type = 1; type <= 6; ++type) {
-        all_pages += contentOf(descriptionPagePath(kProgramFolder.string(), type));
+        all_pages +=
+            contentOf(descriptionPagePath(kProgramFolder.string(), static_cast<data::FacilityType>(type)));
     }
     for (const auto& entry : fs::directory_iterator(kProgramFolder / "Webs" / "Desc_soubory")) {
         EXPECT_NE(all_pages.find("Desc_soubory/" + entry.path().filename().string()), std::string::npos)

@@ -19,9 +19,9 @@ TEST(ReportPath, TakesTheNameAsTyped) {
 }
 
 TEST(DescriptionPagePath, IsNumberedByType) {
-    EXPECT_EQ(descriptionPagePath("/opt/mero", 1), "/opt/mero/Webs/Desc01.htm");
-    EXPECT_EQ(descriptionPagePath("/opt/mero", 4), "/opt/mero/Webs/Desc04.htm");
-    EXPECT_EQ(descriptionPagePath("/má data", 6), "/má data/Webs/Desc06.htm");
+    EXPECT_EQ(descriptionPagePath("/opt/mero", data::FacilityType::Surface), "/opt/mero/Webs/Desc01.htm");
+    EXPECT_EQ(descriptionPagePath("/opt/mero", data::FacilityType::Trench), "/opt/mero/Webs/Desc04.htm");
+    EXPECT_EQ(descriptionPagePath("/má data", data::FacilityType::Tank), "/má data/Webs/Desc06.htm");
 }
 
 }  // namespace

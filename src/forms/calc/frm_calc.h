@@ -118,7 +118,7 @@ class frmCalc : public frmCalcControls {
     void enterTechnologyTab(int previous_tab);
     void enterResultsTab(int previous_tab);
     void refuseTab(int previous_tab);
-    /// Saves the report as HTML or PDF, as the path's suffix says, and tells of a failure.
+    /// Saves the report as HTML or PDF, as the path's suffix says, and reports a failure.
     void saveResults(const std::string& path);
 
     /// Writes the shown report again when its file is gone or is another program's by now. False when it

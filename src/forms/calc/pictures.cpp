@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Values of the pictures.
-/// A result field that is empty or shows no number is a result that there is not.
+/// A result field that is empty or shows no number counts as no result.
 #include "forms/calc/pictures.h"
 
 #include <optional>

@@ -39,7 +39,7 @@ void frmCalc::enterTechnologyTab(int previous_tab) {
         refuseTab(previous_tab);
         return;
     }
-    const std::string page = report::descriptionPagePath(folder_, static_cast<int>(SelectedType));
+    const std::string page = report::descriptionPagePath(folder_, SelectedType);
     wbShowPopisTech.navigate(page);
     desk_->navigated(wbShowPopisTech.name(), page);
     wbShowPopisTech.show();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of the two tabs that show documents.
+/// Lays out the two tabs that show documents.
 #include "forms/calc/layout/documents_pages.h"
 
 #include <QHBoxLayout>

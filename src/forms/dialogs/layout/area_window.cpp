@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of the drained-area dialog.
+/// Lays out the drained-area dialog.
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>

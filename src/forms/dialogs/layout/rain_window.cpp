@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of the rain dialog.
+/// Lays out the rain dialog.
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Setting out of the soil dialog.
+/// Lays out the soil dialog.
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
