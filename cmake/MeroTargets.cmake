@@ -41,8 +41,8 @@ function(mero_library name)
   endif()
 endfunction()
 
-# mero_compile_fast(NAME): compiles the sources of tests without optimisation. The tests run as fast, because the
-# time is spent in the libraries; clang with sanitizers compiles them in half the time.
+# mero_compile_fast(NAME): compiles the sources of a test without optimisation. With sanitizers this halves the time to
+# compile them, which saves several times what the tests then take longer.
 function(mero_compile_fast name)
   if(MERO_SANITIZE)
     target_compile_options(${name} PRIVATE -O0)
