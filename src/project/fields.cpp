@@ -115,6 +115,20 @@ std::span<const std::string> choices(const Field& field) {
     return kWords[index(field.input)];
 }
 
+bool isReplacedByRing(const Field& field) {
+    switch (field.need) {
+        case Need::WithoutRing:
+        case Need::RoundWithoutRing:
+        case Need::RectangularWithoutRing:
+            return true;
+        case Need::Optional:
+        case Need::Always:
+        case Need::WithSandLayer:
+            break;
+    }
+    return false;
+}
+
 std::vector<std::string> namesIn(std::string_view object_path) {
     std::vector<std::string> names;
     const auto add = [&](std::string_view path) {

@@ -24,6 +24,9 @@ void store(const Field& field, Inputs& inputs, float value);
 /// The words that a choice takes, in the order of their positions; empty for other kinds.
 [[nodiscard]] std::span<const std::string> choices(const Field& field);
 
+/// Does a shaft of the catalogue take its place?
+[[nodiscard]] bool isReplacedByRing(const Field& field);
+
 /// Names that may stand in the object at that path ("" for the document), for checks and suggestions.
 [[nodiscard]] std::vector<std::string> namesIn(std::string_view object_path);
 

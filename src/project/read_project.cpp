@@ -334,10 +334,9 @@ class Reader {
         if (!isGiven("facility.catalogue_shaft")) {
             return;
         }
-        for (const char* path : {"facility.shape", "facility.inner_diameter_m", "facility.inner_width_m",
-                                 "facility.inner_length_m", "facility.wall_thickness_m"}) {
-            if (isGiven(path)) {
-                fail(path, "does not go with \"catalogue_shaft\", which has its own dimensions");
+        for (const Field& field : design::inputs()) {
+            if (isReplacedByRing(field) && isGiven(field.path)) {
+                fail(field.path, "does not go with \"catalogue_shaft\", which has its own dimensions");
             }
         }
     }

@@ -4,76 +4,14 @@
 import csv
 
 from manual_text import ROOT, Action, Example, Message, Result
+from tables import Field, Tables
 
-TYPES = ("", "Plošné vsakování", "Vsakování v průlezích", "Vsakování v kombinovaném objektu",
-         "Vsakování rýhové a kombinace rýhy a drénu", "Šachtové vsakování", "Vsakovací nádrže")
 TABS = ("Základní informace", "Výpočet", "Popis technologie", "Výsledky")
 DURATIONS = (5, 10, 15, 20, 30, 45, 60, 90, 120)
 SOILS = "Výběr u zeminy "
 SURFACES = "Výběr u povrchu "
 RAINS = "Výběr u doby "
 TAB = "Záložka "
-
-# Fields of the first tab, shared by all types.
-SITE = {
-    "Název projektu": "txtProjName",
-    "Řešitel projektu": "txtProjektant",
-    "Místo akce": "txtMistoAkce",
-    "Investor": "txtInvestor",
-    "Detilní popis": "txtDetails",
-    "Typ nesoudržné horniny": "txtTypPudyPodlozi",
-    "Hladina podzemní vody (pod povrchem)": "txtHPV",
-    "Celková odvodňovaná plocha": "txtOdvodNepPlocha",
-    "Intenzita trvání deště": "txtSelIntDeste",
-    "Doba trvání deště": "txtSelDTrvDeste",
-    "Odtok do vsakovacího zařízení": "txtOdtokDoVsak",
-    "Součinitel filtrace (kf) podloží": "txtSoucFiltrace",
-}
-
-# Fields of the panels; # stands for the number of the type.
-PANEL = {
-    "Součinitel bezpečnosti": "txtSoucBezp(#)",
-    "Součinitel filtrace (kf) průlehu": "txtSoucFiltrPruleh(#)",
-    "Pórovitost výplně rýhy": "txtPorVyplne(#)",
-    "Šířka rýhy (střední)": "txtSirkaRyhy(#)",
-    "Výška rýhy": "txtVyskaRyhy(#)",
-    "Počet potrubí": "txtPocetPotrubi(#)",
-    "Vnější průměr vsakovací trouby": "txtPrumTroubVnej(#)",
-    "Vnitřní průměr vsakovací trouby": "txtPrumTroubVnit(#)",
-    "Škrcená odtoková intenzita": "txtSpecDrenOdtok(#)",
-    "Výstupní plocha": "txtVystupPlocha(#)",
-    "Výstupní rychlost": "txtVystupRychlost(#)",
-    "Počet šachet": "txtSachtyCount",
-    "DN / Šířka": "txtPrumerSachtyVnit",
-    "Délka": "txtPrumerSachtyVnej",
-    "Tloušťka": "txtTloustkaSteny",
-    "Nezámrzná hloubka přitoku": "txtNezamrzHlPritok",
-    "Minimální průsaková dráha": "txtMinPrusakDraha",
-    "Výška filtrační vrstvy": "txtVyskaFiltrVrstvy",
-    "Vrstva písku/jemného štěrku": "txtVyskaPiskVrstvy",
-    "Délka dna nádrže": "txtDelkaDnaNadrz",
-    "Šířka dna nádrže": "txtSirkaDnaNadrz",
-    "Hloubka nádrže": "txtHloubkaNadrz",
-    "Sklon svahů nádrže": "txtSklonSvahuNadrz",
-    "Specifická vsakovací intenzita": "txtSpecMeroIntenz",
-    # Results.
-    "Plocha potřebná pro vsakování": "txtVsakPlocha(#)",
-    "Vsakovací plocha šachty": "txtVsakPlocha(#)",
-    "Objem akumulace průlehu": "txtObjAkum(#)",
-    "Objem akumulace": "txtObjAkum(#)",
-    "Potřebný objem akumulace": "txtObjAkum(#)",
-    "Výška vzdutí": "txtVyskaVzduti(#)",
-    "Doba prázdnění průlehu": "txtDobaPrazdneni(#)",
-    "Délka vsakovací rýhy": "txtDelkaRyhy(#)",
-    "Šířka průlehu": "txtSirkaPrulehu(#)",
-    "Hloubka průlehu (výška vzdutí)": "txtHloubkaPrulehu(#)",
-    "Celkový součinitel akumulace vsakovací rýhy (vč. příp. trouby)": "txtSoucAkum(#)",
-    "Potřebná hloubka šachty": "txtHloubkaSachty",
-    "Min. hloubka hladiny podzemní vody": "txtPotrHloubkaZahl",
-    "Součinitel filtrace náplně filtru": "txtSoucFiltrPruleh(#)",
-    "Vsakovací tok": "txtVsakTok",
-    "Objem dle rozměrů nádrže": "txtVypObjNadrz",
-}
 
 BUTTONS = {
     "Zadat u pole Intenzita trvání deště": "cmdEdit(0)",
@@ -83,19 +21,8 @@ BUTTONS = {
     "Centralizované": "optSelType(1)",
     "Výpočti": "cmdCalcul(#)",
     "Editovat": "cmdEdit(#)",
-    "Přetok a škrcený odtok": "chkSelPretok(3)",
-    "Drenáž": "chkSelPretok(4)",
-    "Předsazené usazování": "chkPredUsaz",
-    "kruhový": "optSelTypSachty(0)",
-    "pravoúhlý": "optSelTypSachty(1)",
-    "typ A": "optSelTypPudy5(0)",
-    "typ B": "optSelTypPudy5(1)",
-    "Písek střední až jemný": "optSelTypPudy#(0)",
-    "Slit a písek, slit": "optSelTypPudy#(1)",
 }
 DIALOGS = {"cmdEdit(0)": "frmIntDialog", "cmdEdit(1)": "frmDialog", "cmdEdit(2)": "frmCoefDialog"}
-LISTS = {"Stanice": "frmIntDialog.cboSelStanice", "Periodicita": "frmIntDialog.cboSelPeriod",
-         "Šachta z katalogu": "cboTypSachty"}
 # The user leaves these fields, for example with the Tab key; the number is then formatted.
 FILTRATION = ("txtSoucFiltrace", "txtSoucFiltrPruleh")
 
@@ -108,24 +35,23 @@ def reference_rows(name: str, column: str) -> list[str]:
 class Person:
     """A reader of the manual: keeps which window is open and which type is chosen."""
 
-    def __init__(self) -> None:
+    def __init__(self, tables: Tables) -> None:
+        self.tables = tables
         self.dialog = ""
         self.type_number = 0
         self.tab = 0
 
-    def control(self, caption: str) -> str:
+    def field(self, caption: str) -> Field:
         """The field of a caption, in any window. KeyError if there is none."""
-        found = SITE.get(caption) or PANEL.get(caption) or LISTS.get(caption)
-        if found is None:
-            raise KeyError(f"no field is called {caption}")
-        return found.replace("#", str(self.type_number))
+        return self.tables.find(caption, self.type_number)
 
     def seen(self, caption: str) -> str:
-        """The field of a caption that is on the screen now."""
-        control = self.control(caption)
-        if caption not in LISTS and (self.dialog or self.tab != (0 if caption in SITE else 1)):
+        """The control of a caption that is on the screen now."""
+        field = self.field(caption)
+        on_first_tab = field in self.tables.inputs[0]
+        if field.kind != "list" and (self.dialog or self.tab != (0 if on_first_tab else 1)):
             raise KeyError(f"{caption} is not on the screen here")
-        return control
+        return field.box
 
     def script(self, step: Action | Result | Message) -> list[str]:
         """The script lines of a step. KeyError for a caption that the window does not have."""
@@ -136,14 +62,14 @@ class Person:
         if step.value is None:
             return self.press(step.caption)
         if step.caption == "Typ vsakování":
-            self.type_number = TYPES.index(step.value)
+            self.type_number = self.tables.types.index(step.value)
             return ["focus cboSelType", f'select cboSelType "{step.value}"']
-        if step.caption in LISTS:
-            return [f'select {LISTS[step.caption]} "{step.value}"']
         if step.caption in ("Dílčí plocha", "Součinitel odtoku"):
             box = {"Dílčí plocha": "txtPlocha", "Součinitel odtoku": "txtSoucinitel"}[step.caption]
             return [f'type frmDialog.{box} "{step.value}"']
         control = self.seen(step.caption)
+        if self.field(step.caption).kind == "list":
+            return [f'select {control} "{step.value}"']
         if control.startswith(FILTRATION):
             return [f'set {control} ""', f'type {control} "{step.value}"', f"leave {control}"]
         return [f'set {control} "{step.value}"']
@@ -163,8 +89,9 @@ class Person:
         if caption == "OK":
             return [f"click {self.confirm()}"]
         if caption == "Centralizované":
-            self.type_number = TYPES.index("Vsakovací nádrže")
-        control = BUTTONS[caption].replace("#", str(self.type_number))
+            self.type_number = self.tables.types.index("Vsakovací nádrže")
+        option = self.tables.option(caption, self.type_number)
+        control = option or BUTTONS[caption].replace("#", str(self.type_number))
         self.dialog = DIALOGS.get(control, self.dialog)
         return [f"click {control}"]
 
@@ -176,9 +103,9 @@ class Person:
         return f"{dialog}.OKButton" if dialog == "frmDialog" else f"{dialog}.cmdOK"
 
 
-def script_of(example: Example) -> list[str]:
+def script_of(example: Example, tables: Tables) -> list[str]:
     """The whole script: each step's lines after an echo of its line in the manual."""
-    person = Person()
+    person = Person(tables)
     lines = []
     for step in example.steps:
         try:

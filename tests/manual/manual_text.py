@@ -8,7 +8,8 @@ An example is between the marks `<!-- příklad: NAME -->` and `<!-- konec pří
 - a table headed `Výsledek | Vyjde` holds what the program must show: a caption and the text in back quotes;
 - a quotation `> **Informace:** „TEXT“` (or Upozornění, Chyba) is a message box.
 
-Tables of inputs follow `<!-- vstupy: N -->`, where N is the number of the type, 0 for the first tab.
+Tables of inputs follow `<!-- vstupy: N -->`, where N is the number of the type, 0 for the first tab. After that of a type a
+paragraph "Výsledky:" names its results: „CAPTION“ (UNIT).
 """
 
 import re
@@ -127,6 +128,16 @@ def input_tables(text: str) -> list[Inputs]:
         elif current is not None and current.rows:
             current = None
     return found
+
+
+def results_told(text: str, line: int) -> list[tuple[str, str]]:
+    """Caption and unit of each result in the first paragraph after that line that begins with "Výsledky:".
+
+    A quotation before a colon is none of them.
+    """
+    rest = "\n".join(text.split("\n")[line:])
+    paragraph = " ".join(rest[rest.index("\nVýsledky:"):].strip().split("\n\n")[0].split())
+    return re.findall(r"„([^“]+)“(?: \(([^\s,;)]+))?(?=[,; )])", paragraph)
 
 
 def commands(text: str) -> list[Command]:

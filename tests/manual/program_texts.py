@@ -1,11 +1,10 @@
 # SPDX-License-Identifier: MIT
-"""The texts that the program shows, read from its sources: messages and captions.
+"""The texts that the program shows beside its tables, read from the sources: messages, questions, captions.
 
 A message composed of parts is compared part by part, so that its variable parts may be anything.
 """
 
 import re
-from pathlib import Path
 
 from manual_text import ROOT
 
@@ -13,8 +12,8 @@ SRC = ROOT / "src"
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 ADJACENT = re.compile(r'"\s*\n?\s*"')
 # Files that contain only such texts.
-TABLES = ("design/verdict.cpp", "design/messages.cpp", "platform/numbers/runtime_error.cpp", "data/rain_database.cpp",
-          "app/mero/qt_desk.cpp", "app/mero/save_dialog.cpp", "platform/mod_reg_settings.cpp")
+LISTS = ("platform/numbers/runtime_error.cpp", "data/rain_database.cpp", "app/mero/qt_desk.cpp",
+         "app/mero/save_dialog.cpp", "platform/mod_reg_settings.cpp")
 STATEMENT = re.compile(
     r"\b(?:message|error|showMessage)\((?:[^;\"]|\"(?:[^\"\\\n]|\\.)*\")*;", re.DOTALL)
 # Captions beside a field, in the order of the arguments: a control, then the caption.
@@ -36,23 +35,23 @@ def is_message(literal: str) -> bool:
     return len(literal.strip()) >= SHORTEST and (" " in literal.strip() or not literal.isascii())
 
 
+def parts(text: str) -> list[str]:
+    """The parts of a text between its line breaks and placeholders."""
+    return [part.strip() for part in re.split(r"\\r\\n|\\n|%\d", text) if is_message(part)]
+
+
 def literals(code: str) -> list[str]:
-    found = []
-    for literal in LITERAL.findall(joined(code)):
-        for part in re.split(r"\\r\\n|\\n|%\d", literal):
-            if is_message(part):
-                found.append(part.strip())
-    return found
+    return [part for literal in LITERAL.findall(joined(code)) for part in parts(literal)]
 
 
-def message_texts() -> list[tuple[str, str]]:
-    """File and text of each message, run-time error and question."""
-    found = []
+def message_texts(verdicts: dict[str, str]) -> list[tuple[str, str]]:
+    """Code or file, and text, of each message, run-time error and question."""
+    found = [(code, part) for code, text in verdicts.items() for part in parts(text)]
     for file in sorted(SRC.rglob("*.cpp")):
         name = file.relative_to(SRC).as_posix()
         code = without_comments(file.read_text(encoding="utf-8"))
         code = re.sub(r"^#include.*$", "", code, flags=re.MULTILINE)
-        if name in TABLES:
+        if name in LISTS:
             code = re.sub(r"static_assert\(.*?\);", "", code, flags=re.DOTALL)
             found += [(name, text) for text in literals(code)]
         elif name.startswith(("forms/", "app/mero/")):
@@ -74,12 +73,7 @@ def sentences() -> list[tuple[str, str]]:
 
 
 def caption_texts() -> list[tuple[str, str]]:
-    """File and text of each caption beside a field, a list or a group of options."""
+    """File and text of each caption that is written in a layout instead of a table."""
     return [(file.relative_to(SRC).as_posix(), caption)
             for file in sorted(SRC.glob("forms/**/layout/*.cpp"))
             for caption in CAPTION.findall(file.read_text(encoding="utf-8"))]
-
-
-def code_table() -> list[str]:
-    """The codes of the verdicts, as the commands print them."""
-    return re.findall(r'\{Verdict::\w+, "(\w+)"', Path(SRC / "design" / "verdict.cpp").read_text(encoding="utf-8"))
