@@ -140,7 +140,7 @@ TEST(TrenchDesign, LengthVolumeAndDrain) {
 
 TEST(TrenchDesign, ADrainWithoutDiameterIsUntickedAndNotJudged) {
     Facility facility = facilityOf(FacilityType::Trench);
-    facility.drain = {true, 1.0F, 160.0F, 0.0F};
+    facility.drain = {{.txtPocetPotrubi = 1.0F, .txtPrumTroubVnej = 160.0F}, true};
     const DesignResult result = design(hourOfRain(), facility);
     EXPECT_FALSE(result.pipes);
     EXPECT_EQ(result.value(Quantity::StorageCoefficient), 0.5F);
