@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "design/input.h"
+#include "design/quantity.h"
 
 namespace mero::design::table {
 
@@ -129,8 +130,8 @@ inline constexpr std::array<InputInfo, kInputCount> kInputs{{
             "the row that is picked as design rain, by its duration", "txtSelDTrvDeste"},
            &DesignNumbers::VybranaDoba),
     ofSite(Input::Filtration,
-           {"subsoil.filtration_coefficient_m_s", "Součinitel filtrace (kf) podloží", "m/s",
-            "filtration coefficient kf", "txtSoucFiltrace", Need::Always, "Součinitel filtrace podloží"},
+           {"subsoil.filtration_coefficient_m_s", kSubsoilFiltration, "m/s", "filtration coefficient kf",
+            "txtSoucFiltrace", Need::Always, "Součinitel filtrace podloží"},
            &DesignNumbers::txtSoucFiltrace),
     ofSite(Input::Groundwater,
            {"subsoil.groundwater_depth_m", "Hladina podzemní vody (pod povrchem)", "m",

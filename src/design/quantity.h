@@ -55,6 +55,9 @@ inline constexpr std::size_t kQuantityCount = static_cast<std::size_t>(Quantity:
 inline constexpr int kScientific = -1;  ///< the pattern "0.0E+00"
 inline constexpr int kGeneral = -2;     ///< the shortest text: a value without a box
 
+/// Caption of the subsoil's coefficient, which is an input and, rounded by its field, a result.
+inline constexpr const char* kSubsoilFiltration = "Součinitel filtrace (kf) podloží";
+
 struct QuantityInfo {
     Quantity quantity;
     const char* name;     ///< in JSON and CSV, with the unit: `storage_volume_m3`

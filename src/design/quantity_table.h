@@ -13,8 +13,7 @@ using data::DesignNumbers;
 inline constexpr std::array<QuantityInfo, kQuantityCount> kQuantities{{
     {Quantity::ReducedArea, "reduced_area_m2", "Celková odvodňovaná plocha", "m²",
      &DesignNumbers::RedukovanaPlocha},
-    {Quantity::Filtration, "filtration_used_m_s", "Součinitel filtrace (kf) podloží", "m/s",
-     &DesignNumbers::txtSoucFiltrace},
+    {Quantity::Filtration, "filtration_used_m_s", kSubsoilFiltration, "m/s", &DesignNumbers::txtSoucFiltrace},
     {Quantity::Inflow, "inflow_l_s", "Odtok do vsakovacího zařízení", "l/s", &DesignNumbers::txtOdtokDoVsak},
     {Quantity::CriticalDuration, "critical_duration_min", "Doba trvání rozhodujícího deště", "min",
      &DesignNumbers::VybranaDoba},

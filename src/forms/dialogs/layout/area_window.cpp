@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "design/quantity.h"
 #include "forms/dialogs/layout/dialog_windows.h"
 #include "qt/buttons.h"
 #include "qt/cell_editor_box.h"
@@ -87,8 +88,9 @@ QWidget& AreaWindow::buildFoot(QWidget& parent) {
     row->addWidget(&qt::makeButton(kit(), form_->cmdDelete, foot));
     row->addWidget(&qt::makeButton(kit(), form_->cmdDeleteAll, foot));
     row->addSpacing(2 * qt::gap(foot));
-    qt::showAsResult(addField(kit(), *row, foot, form_->txtOdvodNepPlocha,
-                              QStringLiteral("Celková odvodňovaná plocha"), QStringLiteral("m²")));
+    const design::QuantityInfo& area = info(design::Quantity::ReducedArea);
+    qt::showAsResult(addField(kit(), *row, foot, form_->txtOdvodNepPlocha, QString::fromUtf8(area.caption),
+                              QString::fromUtf8(area.unit)));
     row->addStretch(1);
     row->addWidget(&qt::makeButton(kit(), form_->OKButton, foot));
     row->addWidget(&qt::makeButton(kit(), form_->CancelButton, foot));

@@ -61,7 +61,7 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     });
 
     qt::GridView& table = qt::makeGrid(kit(), form_->fgIntDeste, kChoiceColumn, kRoom, side);
-    qt::describe(table, QStringLiteral("Intenzity trvání deště"));
+    qt::describe(table, QString::fromStdString(form_->title()));
     qt::makeCellEditor(kit(), form_->txtSChange, table, form_->fgIntDeste);
     column->addWidget(&table, 1);
     column->addWidget(&makeRainCurve(*form_, side));

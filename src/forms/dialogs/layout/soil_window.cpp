@@ -18,7 +18,7 @@ constexpr qt::GridRoom kRoom{.characters = 76, .rows = 8};
 void SoilWindow::build(QWidget& content) {
     auto* column = new QVBoxLayout(&content);
     qt::GridView& soils = qt::makeGrid(kit(), form_->fgCoefProp, kChoiceColumn, kRoom, content);
-    qt::describe(soils, QStringLiteral("Součinitel filtrace"));
+    qt::describe(soils, QString::fromStdString(form_->title()));
     column->addWidget(&soils, 1);
     auto* foot = new QHBoxLayout;
     foot->addStretch(1);
