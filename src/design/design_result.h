@@ -22,6 +22,10 @@ class VerdictList {
     /// More than any design gives: the guards, seven input checks, and those of the design itself.
     static constexpr std::size_t kMost = 16;
 
+    // Verdicts are not set before they are added: a sweep would spend more time on that than on a small
+    // design.
+    VerdictList() {}  // NOLINT(cppcoreguidelines-pro-type-member-init,modernize-use-equals-default)
+
     /// @throws std::length_error when the list is full
     void add(const Verdict& verdict) {
         if (count_ == kMost) {
@@ -34,7 +38,6 @@ class VerdictList {
 
   private:
     std::size_t count_ = 0;
-    // Not set before they are added: a sweep would spend more time on that than on a small design.
     std::array<Verdict, kMost> verdicts_;
 };
 

@@ -84,26 +84,26 @@ enum class Need : std::uint8_t {
 
 /// One value of a choice; its position in the list is what is stored.
 struct Choice {
-    const char* word;     ///< in a project file
-    const char* caption;  ///< Czech, of its option
+    const char* word = "";     ///< in a project file
+    const char* caption = "";  ///< Czech, of its option
 };
 
 struct InputInfo {
-    Input input;
-    const char* path;  ///< in a project file: "facility.trench_width_m"
-    InputKind kind;
-    const char* caption;  ///< Czech, beside its box, with the colon that some captions end with
-    const char* unit;     ///< "" for a pure number or a choice
-    const char* note;     ///< English, for the schema of project files
+    Input input = Input::Station;
+    const char* path = "";  ///< in a project file: "facility.trench_width_m"
+    InputKind kind = InputKind::Number;
+    const char* caption = "";  ///< Czech, beside its box, with the colon that some captions end with
+    const char* unit = "";     ///< "" for a pure number or a choice
+    const char* note = "";     ///< English, for the schema of project files
     /// Name of the control, "#" for the number of the type: "txtSoucBezp(#)". "" where it is none of the
     /// main window, or a group of options.
-    const char* box;
+    const char* box = "";
     /// Where the box stores a number; null for choices and whole numbers.
-    float data::DesignNumbers::*stored;
+    float data::DesignNumbers::*stored = nullptr;
     /// Where a project keeps the number, the position of the choice, or the truth as 0 or 1. Null for the
     /// inputs of the site.
-    void (*give)(Facility& facility, float value);
-    float (*given)(const Facility& facility);
+    void (*give)(Facility& facility, float value) = nullptr;
+    float (*given)(const Facility& facility) = nullptr;
     Need need = Need::Optional;
     std::span<const Choice> choices{};
     const char* reported = nullptr;  ///< label in the results report, null where it is the caption
@@ -115,7 +115,7 @@ inline constexpr const char* kDrainCaption = "Drenáž";
 
 /// An input on the panel of one type.
 struct PanelInput {
-    Input input;
+    Input input = Input::Station;
     const char* caption = nullptr;  ///< where it differs from the input's
     bool opens_empty = false;       ///< the box opens without the text of its default
 };

@@ -59,11 +59,11 @@ inline constexpr int kGeneral = -2;     ///< the shortest text: a value without 
 inline constexpr const char* kSubsoilFiltration = "Součinitel filtrace (kf) podloží";
 
 struct QuantityInfo {
-    Quantity quantity;
-    const char* name;     ///< in JSON and CSV, with the unit: `storage_volume_m3`
-    const char* caption;  ///< Czech, beside its box
-    const char* unit;     ///< as it is printed, "" for a pure number
-    float data::DesignNumbers::*stored;
+    Quantity quantity = Quantity::ReducedArea;
+    const char* name = "";     ///< in JSON and CSV, with the unit: `storage_volume_m3`
+    const char* caption = "";  ///< Czech, beside its box
+    const char* unit = "";     ///< as it is printed, "" for a pure number
+    float data::DesignNumbers::*stored = nullptr;
     const char* reported = nullptr;  ///< label in the results report, null where it is the caption
     /// The field has a change rule: what it shows is read back and stored.
     bool stores_back = false;
@@ -71,9 +71,9 @@ struct QuantityInfo {
 
 /// A box of a panel that shows a result.
 struct ResultBox {
-    Quantity quantity;
-    const char* box;  ///< name of the control; an array has one member for each type
-    int decimals;     ///< fixed decimals, or kScientific
+    Quantity quantity = Quantity::ReducedArea;
+    const char* box = "";  ///< name of the control; an array has one member for each type
+    int decimals = 0;      ///< fixed decimals, or kScientific
     /// Text of the box when the type is chosen; null: the choice leaves the box as it is.
     const char* cleared_text = nullptr;
     // Where this type's differ from the quantity's.

@@ -13,12 +13,12 @@ namespace mero::design {
 enum class TextInput : std::uint8_t { ProjectName, Designer, Investor, Place, Description, Subsoil };
 
 struct TextInputInfo {
-    TextInput input;
-    const char* path;     ///< in a project file: "project.name"
-    const char* caption;  ///< Czech, beside its box, with the colon that some captions end with
-    const char* note;     ///< English, for the schema of project files
-    const char* box;
-    std::string data::ProjectTexts::*stored;
+    TextInput input = TextInput::ProjectName;
+    const char* path = "";     ///< in a project file: "project.name"
+    const char* caption = "";  ///< Czech, beside its box, with the colon that some captions end with
+    const char* note = "";     ///< English, for the schema of project files
+    const char* box = "";
+    std::string data::ProjectTexts::*stored = nullptr;
     bool several_lines = false;
     const char* reported = nullptr;  ///< label in the results report, null where it is the caption
 };

@@ -19,20 +19,20 @@ enum class Severity : std::uint8_t { Information, Warning, Refusal };
 
 /// An input or a quantity that a verdict speaks of.
 struct Subject {
-    const char* name;  ///< of the quantity, or the path of the input
-    const char* unit;
-    float data::DesignNumbers::*stored;
+    const char* name = nullptr;  ///< of the quantity, or the path of the input
+    const char* unit = "";
+    float data::DesignNumbers::*stored = nullptr;
 };
 
 /// Most numbers that one verdict speaks of.
 inline constexpr std::size_t kMostSubjects = 3;
 
 struct VerdictInfo {
-    VerdictId id;
-    const char* code;  ///< stable: `shaft_bottom_too_close`
+    VerdictId id = VerdictId::RainIntensitiesMissing;
+    const char* code = "";  ///< stable: `shaft_bottom_too_close`
     /// Czech. "%1" stands for the number of comparedNumbers(), "%2" for the one that it is compared with.
-    const char* text;
-    Severity severity;
+    const char* text = "";
+    Severity severity = Severity::Information;
     std::array<Subject, kMostSubjects> about{};  ///< ends at the first without a name
     bool titled_error = false;  ///< the box has the title "Chyba" instead of the application's
 };

@@ -6,8 +6,14 @@ Use: make_pictures.py [--program MERO]         the pictures of the user manual, 
      make_pictures.py --all [--program MERO] [--only WORD]
                                                every tab, panel and dialog, light and dark, 100 and 200 %, on a small
                                                and a large screen, with contact sheets, into build/screenshots
+<<<<<<< HEAD
 The default program is build/release/bin/mero. Needs the packages that `tools/packages.sh screenshots` installs.
 The pictures show the manual's examples, so they show the numbers that it prints.
+=======
+The program is build/release/bin/mero unless told otherwise. The names of the controls come from the development build's
+mero-tables, or that of --tables. Needs what `tools/packages.sh screenshots` installs.
+The states are those of the manual's examples, so that the pictures show the numbers that it prints.
+>>>>>>> tables
 """
 
 import argparse
@@ -18,7 +24,7 @@ import time
 from pathlib import Path
 
 from screen import ROOT, Look, Program, Screen
-from views import BOXES, MANUAL_PICTURES, VIEWS
+from views import BOXES, MANUAL_PICTURES, VIEWS, Actions, Tables
 
 COLOURS = 64
 BETWEEN_KEYS_S = 1.0
@@ -37,8 +43,13 @@ def shrink(file: Path) -> None:
                     "png:compression-level=9", "-define", "png:exclude-chunks=date,time", f"PNG8:{file}"], check=True)
 
 
+<<<<<<< HEAD
 def take(program: Path, look: Look, views, folder: Path) -> list[Path]:
     """Takes the pictures of the views on one screen; a view that starts over gets a fresh program."""
+=======
+def take(program: Path, tables: Tables, look: Look, views, folder: Path) -> list[Path]:
+    """Walks the views on one screen; a view that begins anew gets a fresh program."""
+>>>>>>> tables
     files = []
     with Screen(look.width, look.height) as screen:
         for name, steps in views.items():
@@ -46,7 +57,7 @@ def take(program: Path, look: Look, views, folder: Path) -> list[Path]:
                 if look.width > SMALL_WIDTH:
                     screen.fill()
                 for lines, picture in steps:
-                    running.perform(lines)
+                    running.perform(lines.lines(tables) if isinstance(lines, Actions) else lines)
                     if picture:
                         file = folder / f"{picture}.png"
                         screen.shoot(file)
@@ -77,19 +88,22 @@ def main() -> int:
     parser.add_argument("--all", action="store_true")
     parser.add_argument("--only", default="", help="only looks whose name holds this word")
     parser.add_argument("--program", type=Path, default=ROOT / "build" / "release" / "bin" / "mero")
+    parser.add_argument("--tables", type=Path, default=ROOT / "build" / "dev" / "tests" / "mero-tables")
     options = parser.parse_args()
     # Ends the screen and the program too if this program is ended early.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
-    if not options.program.is_file():
-        print(f"make_pictures: there is no {options.program}; build it, or tell --program", file=sys.stderr)
-        return 2
+    for needed in (options.program, options.tables):
+        if not needed.is_file():
+            print(f"make_pictures: there is no {needed}; build it, or tell --program or --tables", file=sys.stderr)
+            return 2
+    tables = Tables(str(options.tables.resolve()))
     if options.all:
         folder = ROOT / "build" / "screenshots"
         for look in (look for look in LOOKS if options.only in look.name):
-            files = take(options.program, look, VIEWS, folder / look.name)
+            files = take(options.program, tables, look, VIEWS, folder / look.name)
             contact_sheets(files, folder, look)
         return 0
-    for file in take(options.program, Look(), MANUAL_PICTURES, ROOT / "docs" / "pictures"):
+    for file in take(options.program, tables, Look(), MANUAL_PICTURES, ROOT / "docs" / "pictures"):
         shrink(file)
     return 0
 
