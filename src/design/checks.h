@@ -58,7 +58,7 @@ template <VerdictId id>
 template <FacilityType type, Sink S>
 [[nodiscard]] bool pass(S& sink, bool sand_layer) {
     const data::DesignNumbers& numbers = sink.numbers();
-    std::array<VerdictId, kChecks<type>.size()> failed;
+    std::array<VerdictId, kChecks<type>.size()> failed{};
     std::size_t count = 0;
     const auto check = [&]<VerdictId id>() {
         const bool concerned = id != VerdictId::SandLayerNotPositive || sand_layer;

@@ -55,7 +55,7 @@ report::Options optionsOf(const Facility& facility, const design::DesignResult& 
 
 report::ReportData reportData(const Project& project, const design::Site& site,
                               const design::DesignResult& result, const platform::DateTime& now) {
-    report::ReportData data{.texts = project.texts,
+    report::ReportData data{.texts = static_cast<const data::ProjectTexts&>(project.texts),
                             .type = project.inputs.facility.type,
                             .type_name = reference().TypyZasakovani[index(project.inputs.facility.type)],
                             .rain = rainOf(project.inputs.rain, site),

@@ -6,14 +6,9 @@ Use: make_pictures.py [--program MERO]         the pictures of the user manual, 
      make_pictures.py --all [--program MERO] [--only WORD]
                                                every tab, panel and dialog, light and dark, 100 and 200 %, on a small
                                                and a large screen, with contact sheets, into build/screenshots
-<<<<<<< HEAD
-The default program is build/release/bin/mero. Needs the packages that `tools/packages.sh screenshots` installs.
+The default program is build/release/bin/mero. The names of the controls come from mero-tables of the development build,
+or that of --tables. Needs the packages that `tools/packages.sh screenshots` installs.
 The pictures show the manual's examples, so they show the numbers that it prints.
-=======
-The program is build/release/bin/mero unless told otherwise. The names of the controls come from the development build's
-mero-tables, or that of --tables. Needs what `tools/packages.sh screenshots` installs.
-The states are those of the manual's examples, so that the pictures show the numbers that it prints.
->>>>>>> tables
 """
 
 import argparse
@@ -43,13 +38,8 @@ def shrink(file: Path) -> None:
                     "png:compression-level=9", "-define", "png:exclude-chunks=date,time", f"PNG8:{file}"], check=True)
 
 
-<<<<<<< HEAD
-def take(program: Path, look: Look, views, folder: Path) -> list[Path]:
-    """Takes the pictures of the views on one screen; a view that starts over gets a fresh program."""
-=======
 def take(program: Path, tables: Tables, look: Look, views, folder: Path) -> list[Path]:
-    """Walks the views on one screen; a view that begins anew gets a fresh program."""
->>>>>>> tables
+    """Takes the pictures of the views on one screen; a view that starts over gets a fresh program."""
     files = []
     with Screen(look.width, look.height) as screen:
         for name, steps in views.items():

@@ -1,9 +1,5 @@
 # SPDX-License-Identifier: MIT
-<<<<<<< HEAD
-"""The list of pictures: script lines, and the name of the picture that is taken after them.
-=======
-"""What is photographed: script lines or an example's actions, and the name of the picture that is taken after them.
->>>>>>> tables
+"""The list of pictures: script lines or actions of an example, and the name of the picture that is taken after them.
 
 Each view starts with a fresh program and shows an example of the user manual.
 """

@@ -33,14 +33,14 @@ report::Options optionsOf(const frmCalc& window) {
 
 report::ReportData reportData(const frmCalc& window, const platform::DateTime& now) {
     const data::modPublicVariables& values = window.values();
-    return {.texts = values,
+    return {.texts = static_cast<const data::ProjectTexts&>(values),
             .type = window.SelectedType,
             .type_name = values.TypyZasakovani[index(window.SelectedType)],
             .rain = {.station = values.VybranaStanice,
                      .periodicity = values.VybranaPeriodicita,
                      .rows = rainTable(values)},
             .partial_areas = partialAreasOf(values),
-            .numbers = values,
+            .numbers = static_cast<const data::DesignNumbers&>(values),
             .options = optionsOf(window),
             .date = platform::dateText(now),
             .time = platform::timeText(now)};

@@ -29,9 +29,9 @@ Fields boxOf(frmCalc& form, Input input) {
 
 /// In the order in which they are tried: the first that can be reached counts.
 Fields fieldsOf(frmCalc& form, VerdictId id) {
-    const Fields area{&form.cmdEdit[1]};
-    const Fields shaft_size{&form.txtPrumerSachtyVnit, &form.cboTypSachty, &form.txtSachtyCount};
-    const Fields shaft_outside{&form.txtPrumerSachtyVnej, &form.txtTloustkaSteny, &form.cboTypSachty};
+    Fields area{&form.cmdEdit[1]};
+    Fields shaft_size{&form.txtPrumerSachtyVnit, &form.cboTypSachty, &form.txtSachtyCount};
+    Fields shaft_outside{&form.txtPrumerSachtyVnej, &form.txtTloustkaSteny, &form.cboTypSachty};
     switch (id) {
         case VerdictId::RainIntensitiesMissing:
             return {&form.intDialog.cboSelStanice};
