@@ -9,13 +9,11 @@ namespace {
 
 void enterResults(benchmark::State& state) {
     mero::bench::ResultsTab tab;
-    tab.start(static_cast<int>(state.range(0)));
+    tab.start(static_cast<mero::data::FacilityType>(state.range(0)));
     for (auto _ : state) {
         tab.enter();
     }
 }
-BENCHMARK(enterResults)
-    ->DenseRange(mero::data::FacilityType::Surface, mero::data::FacilityType::Tank)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(enterResults)->DenseRange(1, mero::data::kFacilityTypes.size())->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -19,7 +19,7 @@ void enterAndPaint(benchmark::State& state) {
     qt::WidgetKit kit([&tab](const std::function<void()>& event) { tab.program.enter(event); },
                       qt::FocusEvents::RunHandlers);
     forms::CalcWindow window(kit, tab.program.window(), {report::viewHtml, [](const std::string&) {}});
-    tab.start(static_cast<int>(state.range(0)));
+    tab.start(static_cast<data::FacilityType>(state.range(0)));
     QApplication::processEvents();
     for (auto _ : state) {
         tab.enter();
@@ -27,9 +27,7 @@ void enterAndPaint(benchmark::State& state) {
     }
     window.hide();
 }
-BENCHMARK(enterAndPaint)
-    ->DenseRange(data::FacilityType::Surface, data::FacilityType::Tank)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(enterAndPaint)->DenseRange(1, data::kFacilityTypes.size())->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -55,7 +55,7 @@ struct ResultsTab {
     forms::Program program{{desk, clock, locale, rain, folder.path()}};
 
     /// Starts the program and enters all inputs of the type.
-    void start(int type) {
+    void start(data::FacilityType type) {
         constexpr int kAreas = 20;
         program.start();
         forms::frmCalc& window = program.window();
@@ -74,7 +74,7 @@ struct ResultsTab {
         window.txtSoucFiltrace.userEdit("1e-4");
         window.optSelType[type == data::FacilityType::Tank ? 1 : 0].userClick();
         if (type != data::FacilityType::Tank) {
-            window.cboSelType.userSelect(type);
+            window.cboSelType.userSelect(static_cast<int>(type));
         }
     }
 

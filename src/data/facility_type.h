@@ -32,6 +32,28 @@ inline constexpr std::size_t kTypeSlots = kFacilityTypes.size() + 1;
     return static_cast<std::size_t>(type);
 }
 
+/// Calls `action` with the type as a constant, as its template argument.
+template <typename Action>
+constexpr decltype(auto) withType(FacilityType type, Action action) {
+    switch (type) {
+        case FacilityType::Surface:
+            return action.template operator()<FacilityType::Surface>();
+        case FacilityType::Swale:
+            return action.template operator()<FacilityType::Swale>();
+        case FacilityType::SwaleTrench:
+            return action.template operator()<FacilityType::SwaleTrench>();
+        case FacilityType::Trench:
+            return action.template operator()<FacilityType::Trench>();
+        case FacilityType::Shaft:
+            return action.template operator()<FacilityType::Shaft>();
+        case FacilityType::Tank:
+            return action.template operator()<FacilityType::Tank>();
+        case FacilityType::None:
+            break;
+    }
+    return action.template operator()<FacilityType::None>();
+}
+
 /// The number is the position of the option `optSelTypSachty`.
 enum class ShaftShape : std::uint8_t { Round = 0, Rectangular = 1 };
 

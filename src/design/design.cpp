@@ -82,7 +82,7 @@ class Panel {
                 if constexpr (type == FacilityType::Shaft) {
                     shaft::calculate(sink_);
                 }
-                calculateDesign(sink_, type);
+                calculateDesign<type>(sink_);
             });
         }
     }
@@ -117,7 +117,7 @@ class Panel {
         if constexpr (type == FacilityType::Swale || type == FacilityType::SwaleTrench) {
             if (facility_->soil_option != 0) {
                 sink_.selectSoil(facility_->soil_option);
-                enter([this] { calculateArea(sink_, type); });
+                enter([this] { calculateArea<type>(sink_); });
             }
         }
         enterNumbers(false);
@@ -134,7 +134,7 @@ class Panel {
     void enterSafetyFactor() {
         if (facility_->txtSoucBezp != numbers().txtSoucBezp) {
             numbers().txtSoucBezp = facility_->txtSoucBezp;
-            enter([this] { calculateArea(sink_, type); });
+            enter([this] { calculateArea<type>(sink_); });
         }
     }
 
@@ -150,7 +150,7 @@ class Panel {
                 enter([this] { sink_.clearResults(); });
             }
             enterNumbers(true);
-            enter([this] { confirmPipes(sink_, type); });
+            enter([this] { confirmPipes<type>(sink_); });
         }
     }
 
@@ -203,31 +203,6 @@ class Panel {
     RecordSink<type> sink_;
 };
 
-void runPanel(const Site& site, const Facility& facility, DesignResult& result) {
-    switch (facility.type) {
-        case FacilityType::None:
-            break;
-        case FacilityType::Surface:
-            Panel<FacilityType::Surface>(site, facility, result).run();
-            break;
-        case FacilityType::Swale:
-            Panel<FacilityType::Swale>(site, facility, result).run();
-            break;
-        case FacilityType::SwaleTrench:
-            Panel<FacilityType::SwaleTrench>(site, facility, result).run();
-            break;
-        case FacilityType::Trench:
-            Panel<FacilityType::Trench>(site, facility, result).run();
-            break;
-        case FacilityType::Shaft:
-            Panel<FacilityType::Shaft>(site, facility, result).run();
-            break;
-        case FacilityType::Tank:
-            Panel<FacilityType::Tank>(site, facility, result).run();
-            break;
-    }
-}
-
 }  // namespace
 
 DesignResult design(const Site& site, const Facility& facility) {
@@ -241,7 +216,11 @@ DesignResult design(const Site& site, const Facility& facility) {
     }
     // Only the tank refuses to go on without the input.
     if (!missing || facility.type != FacilityType::Tank) {
-        runPanel(site, facility, result);
+        data::withType(facility.type, [&]<FacilityType type>() {
+            if constexpr (type != FacilityType::None) {
+                Panel<type>(site, facility, result).run();
+            }
+        });
     }
     if (result.pickedRain() != calc::Rain{}) {
         result.show(Quantity::CriticalDuration);

@@ -16,23 +16,8 @@ const InputInfo& info(Input input) {
 }
 
 std::span<const PanelInput> panelInputs(FacilityType type) {
-    switch (type) {
-        case FacilityType::None:
-            break;
-        case FacilityType::Surface:
-            return table::kPanel<FacilityType::Surface>;
-        case FacilityType::Swale:
-            return table::kPanel<FacilityType::Swale>;
-        case FacilityType::SwaleTrench:
-            return table::kPanel<FacilityType::SwaleTrench>;
-        case FacilityType::Trench:
-            return table::kPanel<FacilityType::Trench>;
-        case FacilityType::Shaft:
-            return table::kPanel<FacilityType::Shaft>;
-        case FacilityType::Tank:
-            return table::kPanel<FacilityType::Tank>;
-    }
-    return {};
+    return data::withType(type,
+                          []<FacilityType of>() -> std::span<const PanelInput> { return table::kPanel<of>; });
 }
 
 bool isOfSubPanel(Input input) {

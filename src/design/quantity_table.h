@@ -66,16 +66,22 @@ static_assert(inOrder(), "a quantity is found by its number");
 
 inline constexpr const char* kSwaleVolume = "Objem akumulace průlehu";
 
-inline constexpr std::array<ResultBox, 1> kSurfaceBoxes{{
+/// The boxes of a panel from top to bottom.
+template <FacilityType type>
+inline constexpr std::array<ResultBox, 0> kBoxes{};
+template <>
+inline constexpr std::array<ResultBox, 1> kBoxes<Surface>{{
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 1, "0"},
 }};
-inline constexpr std::array<ResultBox, 4> kSwaleBoxes{{
+template <>
+inline constexpr std::array<ResultBox, 4> kBoxes<Swale>{{
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 1, ""},
     {Quantity::StorageVolume, "txtObjAkum(#)", 1, "", kSwaleVolume},
     {Quantity::WaterDepth, "txtVyskaVzduti(#)", 2, ""},
     {Quantity::EmptyingTime, "txtDobaPrazdneni(#)", 1, ""},
 }};
-inline constexpr std::array<ResultBox, 6> kSwaleTrenchBoxes{{
+template <>
+inline constexpr std::array<ResultBox, 6> kBoxes<SwaleTrench>{{
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 1, ""},
     {Quantity::StorageVolume, "txtObjAkum(#)", 1, "", kSwaleVolume},
     {Quantity::TrenchLength, "txtDelkaRyhy(#)", 1, ""},
@@ -83,14 +89,16 @@ inline constexpr std::array<ResultBox, 6> kSwaleTrenchBoxes{{
     {Quantity::SwaleDepth, "txtHloubkaPrulehu(#)", 2, ""},
     {Quantity::EmptyingTime, "txtDobaPrazdneni(#)", 1, ""},
 }};
-inline constexpr std::array<ResultBox, 4> kTrenchBoxes{{
+template <>
+inline constexpr std::array<ResultBox, 4> kBoxes<Trench>{{
     {Quantity::StorageCoefficient, "txtSoucAkum(#)", 2},
     {Quantity::TrenchLength, "txtDelkaRyhy(#)", 1, ""},
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 1, ""},
     // The report calls the trench's volume the swale's; its labels are a fixed interface.
     {Quantity::StorageVolume, "txtObjAkum(#)", 1, "", nullptr, kSwaleVolume},
 }};
-inline constexpr std::array<ResultBox, 6> kShaftBoxes{{
+template <>
+inline constexpr std::array<ResultBox, 6> kBoxes<Shaft>{{
     {Quantity::WaterDepth, "txtVyskaVzduti(#)", 2},
     {Quantity::InfiltrationArea, "txtVsakPlocha(#)", 2, nullptr, "Vsakovací plocha šachty"},
     {Quantity::StorageVolume, "txtObjAkum(#)", 2},
@@ -98,30 +106,15 @@ inline constexpr std::array<ResultBox, 6> kShaftBoxes{{
     {Quantity::RequiredGroundwaterDepth, "txtPotrHloubkaZahl", 2},
     {Quantity::RequiredFilterPermeability, "txtSoucFiltrPruleh(#)", kScientific},
 }};
-inline constexpr std::array<ResultBox, 3> kTankBoxes{{
+template <>
+inline constexpr std::array<ResultBox, 3> kBoxes<Tank>{{
     {Quantity::InfiltrationFlow, "txtVsakTok", 2},
     {Quantity::TankVolume, "txtVypObjNadrz", 2},
     {Quantity::StorageVolume, "txtObjAkum(#)", 2, nullptr, "Potřebný objem akumulace"},
 }};
 
 [[nodiscard]] constexpr std::span<const ResultBox> boxesOf(FacilityType type) {
-    switch (type) {
-        case None:
-            return {};
-        case Surface:
-            return kSurfaceBoxes;
-        case Swale:
-            return kSwaleBoxes;
-        case SwaleTrench:
-            return kSwaleTrenchBoxes;
-        case Trench:
-            return kTrenchBoxes;
-        case Shaft:
-            return kShaftBoxes;
-        case Tank:
-            return kTankBoxes;
-    }
-    return {};
+    return data::withType(type, []<FacilityType of>() -> std::span<const ResultBox> { return kBoxes<of>; });
 }
 
 /// Results that have no box on the type's panel.

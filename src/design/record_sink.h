@@ -52,10 +52,10 @@ class RecordSink {
 
     /// The boxes are cleared, and what is live is calculated anew.
     void clearResults() {
-        clearBoxes(*this, type);
+        clearBoxes<type>(*this);
         if constexpr (type == FacilityType::Surface || type == FacilityType::Swale ||
                       type == FacilityType::SwaleTrench) {
-            calculateArea(*this, type);
+            calculateArea<type>(*this);
         }
     }
     void closePipes() {}

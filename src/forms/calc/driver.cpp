@@ -15,7 +15,7 @@ void frmCalc::RebuildCalc() {
 
 void frmCalc::ClearTypeResults() {
     WindowSink sink(*this, SelectedType);
-    design::clearBoxes(sink, SelectedType);
+    data::withType(SelectedType, [&]<FacilityType type>() { design::clearBoxes<type>(sink); });
     switch (SelectedType) {
         case FacilityType::Surface:
             CalcInfiltArea();
@@ -39,31 +39,34 @@ void frmCalc::ClearTypeResults() {
 
 void frmCalc::CalcInfiltArea() {
     WindowSink sink(*this, SelectedType);
-    design::calculateArea(sink, SelectedType);
+    data::withType(SelectedType, [&]<FacilityType type>() { design::calculateArea<type>(sink); });
 }
 
 void frmCalc::CalcDesign() {
     WindowSink sink(*this, SelectedType);
-    design::calculateDesign(sink, SelectedType);
+    data::withType(SelectedType, [&]<FacilityType type>() { design::calculateDesign<type>(sink); });
 }
 
 void frmCalc::cmdCalcul_Click(int Index) {
-    const auto type = static_cast<FacilityType>(Index);
-    WindowSink sink(*this, type);
-    const bool has_command = type >= FacilityType::SwaleTrench && type <= FacilityType::Tank;
-    if (!has_command || !design::passChecks(sink, type, optSelTypPudy5[1].selected())) {
+    const auto index = static_cast<FacilityType>(Index);
+    WindowSink sink(*this, index);
+    const bool passed = data::withType(index, [&]<FacilityType type>() {
+        return !design::checks::kChecks<type>.empty() &&
+               design::checks::pass<type>(sink, optSelTypPudy5[1].selected());
+    });
+    if (!passed) {
         return;
     }
-    if (type == FacilityType::Shaft) {
+    if (index == FacilityType::Shaft) {
         CalcInfiltArea();
     }
     CalcDesign();
 }
 
 void frmCalc::cmdOK_Click(int Index) {
-    const auto type = static_cast<FacilityType>(Index);
-    WindowSink sink(*this, type);
-    design::confirmPipes(sink, type);
+    const auto index = static_cast<FacilityType>(Index);
+    WindowSink sink(*this, index);
+    data::withType(index, [&]<FacilityType type>() { design::confirmPipes<type>(sink); });
 }
 
 }  // namespace mero::forms

@@ -97,14 +97,15 @@ class frmCalc : public frmCalcControls {
     [[nodiscard]] platform::modRegSettings& regSettings() { return reg_settings_; }
 
   private:
+    /// The design procedures write the window through it.
+    friend class WindowSink;
+
     // Binding of the handlers, by concern.
     void bindInputs();
     void bindFacilityInputs();
     void bindTypeChoice();
     void bindShaft();
     void bindResults();
-
-    friend class WindowSink;
 
     void showInflow();
     void bindNumber(TextBox& box, float data::DesignNumbers::*stored);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Writes the schema: each input and text by its path, and what each type requires.
+/// Generates the schema: each input and text by its path, and what each type requires.
 #include "project/schema.h"
 
 #include <algorithm>
