@@ -8,6 +8,19 @@
 
 namespace mero::design::swale {
 
+/// Stores the infiltration area [m2] that the soil suggests; a combined object starts with the same.
+/// @return false without a drained area: then nothing changes. @throws RuntimeError Overflow
+template <Sink S>
+[[nodiscard]] bool storeStartingArea(S& sink) {
+    data::DesignNumbers& numbers = sink.numbers();
+    if (numbers.RedukovanaPlocha <= 0.0F) {
+        return false;
+    }
+    numbers.txtVsakPlocha =
+        calc::swale::startingArea(numbers.RedukovanaPlocha, sink.soilOption(), numbers.txtVsakPlocha);
+    return true;
+}
+
 /// Storage volume, ponding depth, emptying time.
 /// @throws RuntimeError DivisionByZero when there is no infiltration area, Overflow
 template <Sink S>
@@ -29,14 +42,11 @@ void design(S& sink) {
 /// The starting area, then the design. Without a drained area nothing changes.
 template <Sink S>
 void calculate(S& sink) {
-    data::DesignNumbers& numbers = sink.numbers();
-    if (numbers.RedukovanaPlocha <= 0.0F) {
+    if (!storeStartingArea(sink)) {
         return;
     }
-    numbers.txtVsakPlocha =
-        calc::swale::startingArea(numbers.RedukovanaPlocha, sink.soilOption(), numbers.txtVsakPlocha);
     sink.clear(Quantity::StorageVolume);
-    sink.show(Quantity::InfiltrationArea, numbers.txtVsakPlocha);
+    sink.show(Quantity::InfiltrationArea, sink.numbers().txtVsakPlocha);
     design(sink);
 }
 

@@ -5,6 +5,7 @@
 
 #include "design/balances.h"
 #include "design/sink.h"
+#include "design/swale.h"
 #include "platform/numbers/checked.h"
 
 namespace mero::design::swale_trench {
@@ -12,18 +13,15 @@ namespace mero::design::swale_trench {
 /// The starting area; the other results are cleared. Without a drained area nothing changes.
 template <Sink S>
 void calculateArea(S& sink) {
-    data::DesignNumbers& numbers = sink.numbers();
-    if (numbers.RedukovanaPlocha <= 0.0F) {
+    if (!swale::storeStartingArea(sink)) {
         return;
     }
-    numbers.txtVsakPlocha =
-        calc::swale::startingArea(numbers.RedukovanaPlocha, sink.soilOption(), numbers.txtVsakPlocha);
     sink.clear(Quantity::StorageVolume);
     sink.clear(Quantity::TrenchLength);
     sink.clear(Quantity::SwaleWidth);
     sink.clear(Quantity::SwaleDepth);
     sink.clear(Quantity::EmptyingTime);
-    sink.show(Quantity::InfiltrationArea, numbers.txtVsakPlocha);
+    sink.show(Quantity::InfiltrationArea, sink.numbers().txtVsakPlocha);
 }
 
 /// Does the trench fit into the area of the swale?

@@ -36,7 +36,7 @@ def is_message(literal: str) -> bool:
 
 
 def parts(text: str) -> list[str]:
-    """The parts of a text between its line breaks and placeholders."""
+    """The parts of a text between its line breaks and the values put into it."""
     return [part.strip() for part in re.split(r"\\r\\n|\\n|%\d", text) if is_message(part)]
 
 

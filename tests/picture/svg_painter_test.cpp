@@ -5,13 +5,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <array>
-
 #include "picture/arrange.h"
 #include "picture/balance_chart.h"
 #include "picture/facility_sections.h"
 #include "picture/picture_support.h"
 #include "picture/rain_curve.h"
+#include "picture/samples.h"
 #include "picture/svg_document.h"
 #include "platform/numbers/number_text.h"
 
@@ -27,21 +26,6 @@ using testing::Not;
 
 const Sheet kSheet{480, 360};
 
-const std::array<calc::Rain, calc::kRainRows> kRains{
-    {{5, 434}, {10, 320}, {15, 253}, {20, 210}, {30, 156}, {45, 113}, {60, 88}, {90, 61}, {120, 47}}};
-
-Section shaft() {
-    return shaftSection({.inner_width_m = 1.5F,
-                         .wall_m = 0.15F,
-                         .inlet_depth_m = 1.2F,
-                         .filter_layer_m = 0.5F,
-                         .sand_layer_m = 0.3F,
-                         .water_level_m = 1.91F,
-                         .depth_m = 3.91F,
-                         .required_embedding_m = 4.61F,
-                         .groundwater_depth_m = 5});
-}
-
 Section trench() {
     return trenchSection({.length_m = 20.0F,
                           .width_m = 1.2F,
@@ -53,7 +37,7 @@ Section trench() {
 Chart balance() {
     return swaleChart(
         {.reduced_area_m2 = 500, .infiltration_area_m2 = 60, .filtration_m_s = 1e-5F, .safety_factor = 2},
-        kRains, "10.0");
+        kSampleRains, "10.0");
 }
 
 LineChart lines() {
@@ -122,8 +106,9 @@ void expectOnSheet(const SvgDocument& document, const Sheet& sheet) {
 
 TEST(SvgPainter, PicturesAreCompleteAndOnTheSheet) {
     for (const Sheet& sheet : {kSheet, Sheet{300, 240}, Sheet{1600, 1200}}) {
-        for (const Drawing& drawing : {drawn(shaft(), sheet), drawn(trench(), sheet), drawn(balance(), sheet),
-                                       drawn(rainCurve(kRains, kRains[2]), sheet), drawn(lines(), sheet)}) {
+        for (const Drawing& drawing :
+             {drawn(sampleShaft(), sheet), drawn(trench(), sheet), drawn(balance(), sheet),
+              drawn(rainCurve(kSampleRains, kSampleRains[2]), sheet), drawn(lines(), sheet)}) {
             const SvgDocument document(svgDocument(drawing, sheet));
             EXPECT_EQ(document.texts(), textsOf(drawing));
             EXPECT_EQ(document.named("ellipse").size(), drawing.ellipses.size());
@@ -135,7 +120,7 @@ TEST(SvgPainter, PicturesAreCompleteAndOnTheSheet) {
 }
 
 TEST(SvgPainter, ASectionShowsItsMaterialsAndDimensions) {
-    const SvgDocument document(svgDocument(drawn(shaft()), kSheet));
+    const SvgDocument document(svgDocument(drawn(sampleShaft()), kSheet));
     std::vector<std::string> fills;
     for (const SvgElement& area : document.named("polygon")) {
         fills.push_back(area.attributes.at("fill"));
@@ -143,7 +128,7 @@ TEST(SvgPainter, ASectionShowsItsMaterialsAndDimensions) {
     EXPECT_THAT(fills, IsSupersetOf({"url(#mero-soil)", "url(#mero-filter)", "url(#mero-sand)", "#999999"}));
     EXPECT_EQ(document.named("pattern").size(), 3U) << "each once";
     ASSERT_EQ(document.named("desc").size(), 1U);
-    EXPECT_EQ(document.named("desc")[0].text, shaft().summary);
+    EXPECT_EQ(document.named("desc")[0].text, sampleShaft().summary);
     EXPECT_THAT(document.texts(), Contains(HasSubstr("1.91 m")));
     bool dashed = false;
     for (const SvgElement& line : document.named("line")) {

@@ -13,6 +13,7 @@
 #include "picture/facility_sections.h"
 #include "picture/picture_support.h"
 #include "picture/rain_curve.h"
+#include "picture/samples.h"
 #include "qt/texts.h"
 
 namespace mero::qt {
@@ -50,22 +51,8 @@ double contrast(const QColor& first, const QColor& second) {
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-picture::Section shaft() {
-    return picture::shaftSection({.inner_width_m = 1.5F,
-                                  .wall_m = 0.15F,
-                                  .inlet_depth_m = 1.2F,
-                                  .filter_layer_m = 0.5F,
-                                  .sand_layer_m = 0.3F,
-                                  .water_level_m = 1.91F,
-                                  .depth_m = 3.91F,
-                                  .required_embedding_m = 4.61F,
-                                  .groundwater_depth_m = 5});
-}
-
 picture::Chart rain() {
-    const std::array<calc::Rain, calc::kRainRows> rains{
-        {{5, 434}, {10, 320}, {15, 253}, {20, 210}, {30, 156}, {45, 113}, {60, 88}, {90, 61}, {120, 47}}};
-    return picture::rainCurve(rains, rains[2]);
+    return picture::rainCurve(picture::kSampleRains, picture::kSampleRains[2]);
 }
 
 picture::LineChart lines() {
@@ -112,9 +99,10 @@ TEST_P(PicturesInPalettes, TheCriticalBarAndTheMaterialsAreToldApart) {
 TEST_P(PicturesInPalettes, NothingIsPaintedOutsideTheSheet) {
     constexpr int kAround = 20;
     for (const Sheet& sheet : kSheets) {
-        for (const Drawing& drawing : {arrange(shaft(), sheet, textSizes(QApplication::font())),
-                                       arrange(rain(), sheet, textSizes(QApplication::font())),
-                                       arrange(lines(), sheet, textSizes(QApplication::font()))}) {
+        for (const Drawing& drawing :
+             {arrange(picture::sampleShaft(), sheet, textSizes(QApplication::font())),
+              arrange(rain(), sheet, textSizes(QApplication::font())),
+              arrange(lines(), sheet, textSizes(QApplication::font()))}) {
             if (drawing.lines.empty()) {
                 continue;  // a line chart needs a large sheet
             }
@@ -149,8 +137,8 @@ TEST(PicturePainter, LabelsInRealFontsFitTheirBoxesAndKeepApart) {
         font.setPointSize(points);
         for (const Sheet& sheet : kSheets) {
             for (const Drawing& drawing :
-                 {arrange(shaft(), sheet, textSizes(font)), arrange(rain(), sheet, textSizes(font)),
-                  arrange(lines(), sheet, textSizes(font))}) {
+                 {arrange(picture::sampleShaft(), sheet, textSizes(font)),
+                  arrange(rain(), sheet, textSizes(font)), arrange(lines(), sheet, textSizes(font))}) {
                 SCOPED_TRACE(std::to_string(points) + " pt");
                 expectTidy(drawing, sheet);
                 for (const picture::PlacedText& text : drawing.texts) {
