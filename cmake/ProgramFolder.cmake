@@ -23,7 +23,7 @@ endforeach()
 
 if(mero_program_folder_copies)
   add_custom_target(mero_program_folder ALL DEPENDS ${mero_program_folder_copies})
-  foreach(program mero mero-batch mero-rain)
+  foreach(program mero mero-batch)
     if(TARGET ${program})
       add_dependencies(${program} mero_program_folder)
     endif()

@@ -6,7 +6,6 @@ set(share ${CMAKE_INSTALL_DATAROOTDIR})
 set(doc ${share}/doc/mero)
 
 install(TARGETS mero mero-batch RUNTIME DESTINATION bin)
-install(TARGETS mero-rain RUNTIME DESTINATION libexec/mero)
 
 install(FILES ${CMAKE_SOURCE_DIR}/data/mero.mdb DESTINATION ${share}/mero)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/Webs ${CMAKE_SOURCE_DIR}/examples DESTINATION ${share}/mero)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# The portable copy: one folder, which is also the program's folder. Qt, libmdb and their dependencies are in lib, found by
+# The portable copy: one folder, which is also the program's folder. Qt and its dependencies are in lib, found by
 # a relative run path; libraries that every desktop has (C and C++ library, X11, OpenGL, fonts) are not included.
-set(RPATH_PROGRAMS mero mero-batch mero-rain)
+set(RPATH_PROGRAMS mero mero-batch)
 set_target_properties(${RPATH_PROGRAMS} PROPERTIES INSTALL_RPATH "$ORIGIN/lib")
 foreach(program IN LISTS RPATH_PROGRAMS)
   # DT_RPATH, the older of the two tags, also applies to libraries loaded by other libraries and plugins.
@@ -45,7 +45,7 @@ install(FILES ${QT_CZECH_TEXTS} DESTINATION translations)
 
 list(TRANSFORM plugins PREPEND ${qt_plugins}/ OUTPUT_VARIABLE plugin_files)
 install(CODE "
-  set(bundled_programs \"$<TARGET_FILE:mero>;$<TARGET_FILE:mero-batch>;$<TARGET_FILE:mero-rain>\")
+  set(bundled_programs \"$<TARGET_FILE:mero>;$<TARGET_FILE:mero-batch>\")
   set(bundled_plugins \"${plugin_files}\")
   set(bundled_texts \"${QT_CZECH_TEXTS}\")")
 install(SCRIPT bundle.cmake)

@@ -7,7 +7,7 @@ set -euo pipefail
 
 declare -A packages=(
     [run]="libqt6widgets6 libqt6printsupport6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core"
-    [build]="g++ cmake ninja-build pkg-config qt6-base-dev mdbtools-dev nlohmann-json3-dev"
+    [build]="g++ cmake ninja-build pkg-config qt6-base-dev nlohmann-json3-dev"
     [check]="libgtest-dev libgmock-dev librapidcheck-dev
              clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev lld-14 ccache
              desktop-file-utils appstream

@@ -1,29 +1,24 @@
 // SPDX-License-Identifier: MIT
-/// Reads a station by running `mero-rain` and reports errors in Czech.
-/// This file does not depend on the database's format.
+/// Reads a station from the file and reports errors in Czech.
+/// The file is read whole: checking it as a whole takes less time than reading it in pieces.
 #include "data/rain_database.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <limits>
+#include <memory>
+#include <span>
 #include <system_error>
-#include <utility>
 
-#include "data/rain_protocol.h"
-#include "data/reader_process.h"
+#include "data/jet/failure.h"
+#include "data/jet/same_name.h"
+#include "data/station_file.h"
 #include "platform/numbers/number_text.h"
 #include "platform/numbers/runtime_error.h"
 
 namespace mero::data {
 namespace {
-
-char lowerCase(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool isSameName(std::string_view one, std::string_view other) {
-    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                      [](char a, char b) { return lowerCase(a) == lowerCase(b); });
-}
 
 bool exists(const std::string& path) {
     std::error_code ignored;
@@ -69,37 +64,37 @@ struct Failures {
     }
 };
 
-StationTable tableOf(const ReaderResult& result, const Failures& failures) {
-    using Ending = ReaderResult::Ending;
-    switch (result.ending) {
-        case Ending::NotStarted:
-            throw failures.readFailed("program pro čtení databáze nelze spustit");
-        case Ending::TimeLimit:
-            throw failures.readFailed("čtení trvalo příliš dlouho, soubor je zřejmě poškozen");
-        case Ending::Crashed:
-        case Ending::OutputLimit:
-            throw failures.readFailed("soubor je zřejmě poškozen");
-        case Ending::Exited:
-            break;
-    }
-    if (result.exit_status == static_cast<int>(ReaderExit::CannotOpen)) {
+/// The largest file of this format.
+constexpr std::uintmax_t kLargestFile = std::uintmax_t{2} << 30U;
+
+/// A whole file in memory; its bytes are not set before they are read.
+struct Content {
+    std::unique_ptr<std::uint8_t[]> bytes;
+    std::size_t size = 0;
+
+    [[nodiscard]] std::span<const std::uint8_t> span() const { return {bytes.get(), size}; }
+};
+
+Content contentOf(const std::string& file, const Failures& failures) {
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(file, error);
+    std::ifstream stream(file, std::ios::binary);
+    if (error || size > kLargestFile || !stream) {
         throw failures.cannotOpen();
     }
-    if (result.exit_status == static_cast<int>(ReaderExit::TableMissing)) {
-        throw failures.tableMissing();
+    Content content{std::make_unique_for_overwrite<std::uint8_t[]>(size), static_cast<std::size_t>(size)};
+    stream.read(reinterpret_cast<char*>(content.bytes.get()), static_cast<std::streamsize>(size));
+    if (static_cast<std::uintmax_t>(stream.gcount()) != size) {
+        throw failures.readFailed("soubor se při čtení změnil");
     }
-    auto table = decode(result.output);
-    if (result.exit_status != static_cast<int>(ReaderExit::Done) || !table) {
-        throw failures.readFailed("soubor je zřejmě poškozen");
-    }
-    return *std::move(table);
+    return content;
 }
 
 }  // namespace
 
 std::optional<std::size_t> columnIndex(const StationTable& table, std::string_view name) {
     const auto found = std::find_if(table.columns.begin(), table.columns.end(),
-                                    [&](const std::string& column) { return isSameName(column, name); });
+                                    [&](const std::string& column) { return jet::isSameName(column, name); });
     if (found == table.columns.end()) {
         return std::nullopt;
     }
@@ -114,7 +109,26 @@ std::string tableName(std::int16_t station_number) {
     return "List" + numbers::general(static_cast<int>(station_number));
 }
 
-MdbRainDatabase::MdbRainDatabase(std::string reader_program) : reader_program_(std::move(reader_program)) {}
+bool arePlausible(const StationTable& table) {
+    const auto is_intensity = [](std::string_view name) {
+        return name == kSubstituteField ||
+               std::ranges::find(kIntensityFields, name) != kIntensityFields.end();
+    };
+    for (std::size_t column = 0; column < table.columns.size(); ++column) {
+        if (!is_intensity(table.columns[column])) {
+            continue;
+        }
+        double before = std::numeric_limits<double>::infinity();
+        for (const auto& row : table.rows) {
+            const StationTable::Value value = row[column];
+            if (value && (*value < 0.0 || *value > before)) {
+                return false;
+            }
+            before = value.value_or(before);
+        }
+    }
+    return true;
+}
 
 StationTable MdbRainDatabase::read(std::int16_t station_number, const std::string& path) {
     const Failures failures{tableName(station_number), path};
@@ -127,7 +141,24 @@ StationTable MdbRainDatabase::read(std::int16_t station_number, const std::strin
     if (status.type() != std::filesystem::file_type::regular) {  // a folder; reading a pipe would block
         throw failures.cannotOpen();
     }
-    return tableOf(runReader({reader_program_, file, failures.table}), failures);
+    const Content content = contentOf(file, failures);
+    try {
+        StationTable table = stationTable(content.span(), failures.table);
+        if (!arePlausible(table)) {
+            throw failures.readFailed("intenzity nejsou kladné a klesající s dobou trvání");
+        }
+        return table;
+    } catch (const jet::Failure& failure) {
+        switch (failure.kind()) {
+            case jet::Failure::Kind::CannotOpen:
+                throw failures.cannotOpen();
+            case jet::Failure::Kind::NoSuchTable:
+                throw failures.tableMissing();
+            case jet::Failure::Kind::Damaged:
+                break;
+        }
+        throw failures.readFailed("soubor je zřejmě poškozen");
+    }
 }
 
 }  // namespace mero::data

@@ -3,6 +3,7 @@
 /// This class only returns the columns and rows of a table; the rain dialog decides how to use them.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -21,6 +22,15 @@ struct StationTable {
     bool demonstration = false;            ///< the file has the table `Demo`: its values are not measured
 };
 
+/// Fields of a station's intensities in the order of the periodicities 5, 2, 1, 0.5, 0.2, 0.1, 0.05.
+inline constexpr std::array<std::string_view, 7> kIntensityFields{"5", "2", "1", "05", "02", "01", "005"};
+/// A table without the field "005" has this one, for the periodicity 0.04.
+inline constexpr std::string_view kSubstituteField = "004";
+
+/// Are the intensities of each periodicity 0 or more and nowhere rising with the duration? Those of a station
+/// without data are 0. Values that are no numbers do not count.
+[[nodiscard]] bool arePlausible(const StationTable& table);
+
 /// Position of a field by its name, ignoring case as the database does.
 [[nodiscard]] std::optional<std::size_t> columnIndex(const StationTable& table, std::string_view name);
 
@@ -30,7 +40,7 @@ struct StationTable {
 /// Error numbers of a failed read, besides 53 (the file does not exist).
 inline constexpr int kCannotOpenDatabase = 3051;  ///< no permission, not a file, not a database
 inline constexpr int kTableNotFound = 3078;       ///< the file has no table of that station
-inline constexpr int kReadFailed = 3112;          ///< damaged: the read crashed, hung or ended early
+inline constexpr int kReadFailed = 3112;          ///< damaged, or not plausible
 
 /// Name of a station's table: "List" and the number in plain decimal.
 [[nodiscard]] std::string tableName(std::int16_t station_number);
@@ -52,18 +62,12 @@ class RainDatabase {
     [[nodiscard]] virtual StationTable read(std::int16_t station_number, const std::string& path) = 0;
 };
 
-/// Reads `mero.mdb` with the reader program `mero-rain`, started for each read: the database library crashes
-/// or never ends on some damaged files, which is harmless in a separate process.
+/// Reads `mero.mdb`, a Jet 4 file. A file that is damaged, cut, encrypted or not plausible gives an error,
+/// never a part of its values.
 class MdbRainDatabase : public RainDatabase {
   public:
-    /// @param reader_program path of `mero-rain`
-    explicit MdbRainDatabase(std::string reader_program);
-
-    /// Returns or throws within 2 s for any file. `path` may join folder and file by a backslash.
+    /// `path` may join folder and file by a backslash.
     [[nodiscard]] StationTable read(std::int16_t station_number, const std::string& path) override;
-
-  private:
-    std::string reader_program_;
 };
 
 }  // namespace mero::data

@@ -10,10 +10,6 @@
 namespace mero::design {
 namespace {
 
-/// Intensity fields in the order of the periodicities 5, 2, 1, 0.5, 0.2, 0.1, 0.05.
-constexpr std::array<const char*, data::kPeriodicityCount> kFields{"5", "2", "1", "05", "02", "01", "005"};
-constexpr const char* kSubstituteOfLastField = "004";
-
 /// Reads fields of a table and remembers why the last one that failed did. A success does not clear that,
 /// nor does the next row.
 class FieldReader {
@@ -22,7 +18,7 @@ class FieldReader {
 
     /// Stores the field's number as Single or Integer; the slot keeps its value when there is none.
     template <typename T>
-    void store(std::size_t row, const char* field, T& slot, T (*convert)(double)) {
+    void store(std::size_t row, std::string_view field, T& slot, T (*convert)(double)) {
         const auto column = data::columnIndex(*table_, field);
         if (!column) {
             field_missing_ = true;
@@ -54,11 +50,11 @@ void readStation(const data::StationTable& table, StationIntensities& intensitie
     FieldReader reader(table);
     for (std::size_t row = 0; row < table.rows.size() && row < calc::kRainRows; ++row) {
         reader.store(row, "doba", durations_min[row], numbers::toInteger);
-        for (std::size_t k = 0; k < kFields.size(); ++k) {
-            reader.store(row, kFields[k], intensities_l_s_ha[k][row], numbers::toSingle);
+        for (std::size_t k = 0; k < data::kIntensityFields.size(); ++k) {
+            reader.store(row, data::kIntensityFields[k], intensities_l_s_ha[k][row], numbers::toSingle);
         }
         if (reader.lastFailureWasMissingField()) {
-            reader.store(row, kSubstituteOfLastField, intensities_l_s_ha.back()[row], numbers::toSingle);
+            reader.store(row, data::kSubstituteField, intensities_l_s_ha.back()[row], numbers::toSingle);
         }
     }
 }

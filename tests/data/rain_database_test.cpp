@@ -75,7 +75,7 @@ TEST(RainDatabase, EveryStationIsThere) {
 
 TEST(RainDatabase, TheFileThatShipsIsMarkedAsDemonstration) {
     EXPECT_TRUE(read(MERO_RAIN_DATABASE).table()->demonstration);
-    EXPECT_FALSE(read(MERO_ODD_TABLES, 1).table()->demonstration);
+    EXPECT_FALSE(read(MERO_ODD_TABLES, 5).table()->demonstration);  // without rows
 }
 
 TEST(RainDatabase, FieldsAreFoundInAnyCase) {
@@ -171,10 +171,10 @@ TEST(RainDatabase, WhatIsNoDatabaseCannotBeOpened) {
 enum class Outcome { Came, Refused, Otherwise };
 
 /// Result when an ordinary user reads Brno from the file.
-Outcome readUnprivileged(const std::string& reader, const std::string& path) {
+Outcome readUnprivileged(const std::string& path) {
     return mero::test::unprivileged([&] {
         try {
-            static_cast<void>(MdbRainDatabase(reader).read(84, path));
+            static_cast<void>(MdbRainDatabase().read(84, path));
             return Outcome::Came;
         } catch (const RuntimeError& error) {
             return error.number() == kCannotOpenDatabase ? Outcome::Refused : Outcome::Otherwise;
@@ -186,16 +186,52 @@ TEST(RainDatabase, AnUnreadableFileCannotBeOpened) {
     namespace fs = std::filesystem;
     const TemporaryFolder folder;
     const std::string path = folder.write("mero.mdb", contentOf(MERO_RAIN_DATABASE));
-    // The build may be in a folder that only its owner can read.
-    const std::string reader = folder.file("mero-rain");
-    fs::copy_file(MERO_RAIN_READER, reader);
     fs::permissions(fs::path(path).parent_path(), fs::perms(0755));
-    fs::permissions(reader, fs::perms(0755));
 
     fs::permissions(path, fs::perms(0644));
-    EXPECT_EQ(readUnprivileged(reader, path), Outcome::Came);
+    EXPECT_EQ(readUnprivileged(path), Outcome::Came);
     fs::permissions(path, fs::perms::none);
-    EXPECT_EQ(readUnprivileged(reader, path), Outcome::Refused);
+    EXPECT_EQ(readUnprivileged(path), Outcome::Refused);
+}
+
+/// A table of the durations 5, 10 and 15 min with the intensities of one periodicity.
+StationTable stationOf(std::vector<StationTable::Value> intensities, const std::string& field = "02") {
+    StationTable table;
+    table.columns = {"doba", field};
+    double duration = 0.0;
+    for (const StationTable::Value& intensity : intensities) {
+        table.rows.push_back({duration += 5.0, intensity});
+    }
+    return table;
+}
+
+TEST(RainDatabase, IntensitiesFallWithTheDurationAndAreNotNegative) {
+    EXPECT_TRUE(arePlausible(stationOf({434.1, 319.9, 253.2})));
+    EXPECT_TRUE(arePlausible(stationOf({253.2, 253.2, 253.2}))) << "rounded to the same";
+    EXPECT_TRUE(arePlausible(stationOf({0.0, 0.0, 0.0}))) << "a station without data";
+    EXPECT_FALSE(arePlausible(stationOf({434.1, -319.9, 253.2})));
+    EXPECT_FALSE(arePlausible(stationOf({434.1, 319.9, 320.0})));
+    EXPECT_FALSE(arePlausible(stationOf({434.1, 319.9, 320.0}, "004")));
+    EXPECT_TRUE(arePlausible(stationOf({1.0, 2.0, 3.0}, "rok"))) << "no field of intensities";
+}
+
+TEST(RainDatabase, WhatIsNoNumberIsNotCompared) {
+    EXPECT_TRUE(arePlausible(stationOf({434.1, std::nullopt, 253.2})));
+    EXPECT_FALSE(arePlausible(stationOf({253.2, std::nullopt, 434.1})));
+}
+
+TEST(RainDatabase, AStationWithAFlippedSignEndsTheProgram) {
+    const TemporaryFolder folder;
+    std::string content = contentOf(MERO_RAIN_DATABASE);
+    // Brno's first row: 5 min, then 115.5 as Single.
+    const std::size_t at = content.find(std::string("\x05\x00\x00\x00\xe7\x42", 6));
+    ASSERT_NE(at, std::string::npos);
+    content[at + 5] = '\xc2';
+    const auto outcome = read(folder.write("mero.mdb", content));
+    ASSERT_NE(outcome.error(), nullptr);
+    EXPECT_EQ(outcome.errorNumber(), kReadFailed);
+    EXPECT_TRUE(outcome.error()->endsProgram());
+    EXPECT_THAT(outcome.error()->description(), HasSubstr("intenzity nejsou kladné a klesající"));
 }
 
 TEST(RainDatabase, AFileThatMayOnlyBeReadIsEnough) {

@@ -4,27 +4,29 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "data/rain_database.h"
+#include "data/jet/failure.h"
 #include "data/rain_support.h"
+#include "data/station_file.h"
 
 namespace mero::data {
 namespace {
 
-using test::read;
 using test::valueAt;
 using ::testing::ElementsAre;
 
+StationTable tableOf(std::int16_t station) {
+    const std::string content = test::contentOf(MERO_ODD_TABLES);
+    return stationTable({reinterpret_cast<const std::uint8_t*>(content.data()), content.size()},
+                        tableName(station));
+}
+
 /// The whole numbers of a table's first field.
 std::vector<int> numbersOf(std::int16_t station) {
-    const auto outcome = read(MERO_ODD_TABLES, station);
+    const StationTable table = tableOf(station);
     std::vector<int> numbers;
-    if (outcome.table() == nullptr) {
-        ADD_FAILURE() << outcome.error()->description();
-        return numbers;
-    }
-    for (std::size_t row = 0; row < outcome.table()->rows.size(); ++row) {
-        const double number = valueAt(*outcome.table(), row, "doba").value();
-        EXPECT_EQ(valueAt(*outcome.table(), row, "5"), number + 0.25);
+    for (std::size_t row = 0; row < table.rows.size(); ++row) {
+        const double number = valueAt(table, row, "doba").value();
+        EXPECT_EQ(valueAt(table, row, "5"), number + 0.25);
         numbers.push_back(static_cast<int>(number));
     }
     return numbers;
@@ -49,14 +51,12 @@ TEST(RainOddTables, DeletedRowsAreNotRead) {
 }
 
 TEST(RainOddTables, ATableIsFoundInAnyCaseButNotByPartOfItsName) {
-    EXPECT_EQ(numbersOf(4).size(), 9U);                                  // LIST4
-    EXPECT_EQ(read(MERO_ODD_TABLES, 12).errorNumber(), kTableNotFound);  // List12 (záloha)
+    EXPECT_EQ(numbersOf(4).size(), 9U);                                        // LIST4
+    EXPECT_EQ(test::read(MERO_ODD_TABLES, 12).errorNumber(), kTableNotFound);  // List12 (záloha)
 }
 
 TEST(RainOddTables, EveryTypeOfFieldGivesItsNumber) {
-    const auto outcome = read(MERO_ODD_TABLES, 3);
-    ASSERT_NE(outcome.table(), nullptr) << outcome.error()->description();
-    const StationTable& table = *outcome.table();
+    const StationTable table = tableOf(3);
     EXPECT_THAT(table.columns, ElementsAre("byte", "integer", "long", "single", "double", "currency",
                                            "decimal", "text", "narrow", "date", "yesno", "poznámka"));
     const auto single = [](float value) { return StationTable::Value(static_cast<double>(value)); };

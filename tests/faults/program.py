@@ -74,7 +74,6 @@ class FaultTest(unittest.TestCase):
         """Installs the programs like a package. Returns their folder."""
         prefix = self.scratch / "usr"
         for place, files in (("bin", [BATCH] + ([WINDOW] if WINDOW else [])),
-                             ("libexec/mero", [BATCH.parent / "mero-rain"]),
                              ("share/mero", [ROOT / "data" / "mero.mdb"])):
             (prefix / place).mkdir(parents=True)
             for file in files:

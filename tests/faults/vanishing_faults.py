@@ -1,14 +1,12 @@
 # SPDX-License-Identifier: MIT
 """Files and folders that disappear or become unusable while the program is open."""
 
-import re
-import resource
 import shutil
 import threading
 import unittest
 from pathlib import Path
 
-from program import (REPORT, TYPE, FaultTest, Running, command, environment, messages, on_each_front, ordinary_user, saved)
+from program import (REPORT, TYPE, FaultTest, Running, messages, on_each_front, ordinary_user, saved)
 
 RAIN = ["tab 0", "click cmdEdit(0)", "select frmIntDialog.cboSelPeriod 4",
         "select frmIntDialog.cboSelStanice 4"]
@@ -116,35 +114,6 @@ class WhileOpen(FaultTest):
             self.assertEqual(saved(events), [f"{elsewhere}/a.html"])
             self.assertEqual(messages(events), [])
             self.assertEqual(program.end(), 0)
-
-
-class Reader(FaultTest):
-    @on_each_front
-    def test_a_reader_that_is_missing_or_cannot_be_run_is_told(self, front):
-        programs = self.installed()
-        reader = programs.parent / "libexec/mero/mero-rain"
-        folder = self.folder()
-        script = self.scratch / "s.mero"
-        script.write_text("\n".join(RAIN))
-        for harm in (lambda: reader.chmod(0o644), lambda: reader.write_bytes(b"\0" * 100), reader.unlink,
-                     reader.mkdir):
-            harm()
-            done = self.run_command(command(front, str(script), "--folder", str(folder), programs=programs),
-                                    env=environment())
-            self.assertEqual(done.returncode, 1)
-            self.assertRegex(done.stdout, re.escape("program pro čtení databáze nelze spustit") + '".*"ends": true')
-
-
-    def test_a_machine_that_can_start_no_process_is_told(self):
-        folder = self.folder()
-        script = self.scratch / "s.mero"
-        script.write_text("\n".join(RAIN))
-        # The limit applies only to an ordinary user; leak detection would need a process too.
-        done = self.run_command(command("batch", str(script), "--folder", str(folder)),
-                                preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_NPROC, (0, 0)),
-                                env=environment(ASAN_OPTIONS="detect_leaks=0"), **ordinary_user())
-        self.assertEqual(done.returncode, 1)
-        self.assertRegex(done.stdout, re.escape("program pro čtení databáze nelze spustit") + '".*"ends": true')
 
 
 class TwoPrograms(FaultTest):

@@ -89,7 +89,7 @@ int designProject(const Options& options) {
     project::RainStore rain;
     const int station = project.inputs.rain.station;
     if (station > 0) {
-        data::MdbRainDatabase database(rainReaderProgram());
+        data::MdbRainDatabase database;
         rain.load(station, database, folderOrDefault(options.folder));
         if (rain.rain(station).demonstration) {
             std::cerr << "mero-batch: note: the rain database holds demonstration values, no measurements\n";

@@ -3,8 +3,8 @@
 /// The result depends on its exit status only.
 #include "app/batch/pdf_program.h"
 
+#include "app/batch/run_program.h"
 #include "app/common/program_folder.h"
-#include "data/reader_process.h"
 
 namespace mero::app {
 
@@ -14,13 +14,12 @@ PdfResult makePdfBy(const std::string& program, const std::string& document_path
                     const std::string& target_path, std::chrono::milliseconds time_limit) {
     // The status of a program whose libraries are missing; shells use it for a missing program.
     constexpr int kCannotStart = 127;
-    const data::ReaderResult run =
-        data::runReader({program, "--export-pdf", document_path, target_path}, time_limit);
-    if (run.ending == data::ReaderResult::Ending::NotStarted ||
-        (run.ending == data::ReaderResult::Ending::Exited && run.exit_status == kCannotStart)) {
+    using Kind = ProgramEnd::Kind;
+    const ProgramEnd end = runProgram({program, "--export-pdf", document_path, target_path}, time_limit);
+    if (end.kind == Kind::NotStarted || (end.kind == Kind::Exited && end.exit_status == kCannotStart)) {
         return PdfResult::NoMeans;
     }
-    const bool made = run.ending == data::ReaderResult::Ending::Exited && run.exit_status == 0;
+    const bool made = end.kind == Kind::Exited && end.exit_status == 0;
     return made ? PdfResult::Made : PdfResult::Failed;
 }
 

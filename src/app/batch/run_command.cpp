@@ -46,7 +46,7 @@ int runScript(const RunOptions& options, std::istream& script) {
         clock = std::make_unique<platform::FrozenClock>(*options.frozen_moment);
     }
     platform::ProgramLocale locale;
-    data::MdbRainDatabase rain_database(rainReaderProgram());
+    data::MdbRainDatabase rain_database;
     forms::Program program({desk, *clock, locale, rain_database, folder});
     automation::HeadlessUser user(program);
     automation::ScriptRunner runner(program, user, desk, std::cerr, options.script);

@@ -74,7 +74,7 @@ int showStation(const std::string& name, const std::string& folder) {
     } catch (const std::invalid_argument& reason) {
         throw UsageError(reason.what());
     }
-    data::MdbRainDatabase database(rainReaderProgram());
+    data::MdbRainDatabase database;
     project::RainStore rain;
     rain.load(station, database, folderOrDefault(folder));
     printStation(station, rain.rain(station));

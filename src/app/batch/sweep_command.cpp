@@ -107,7 +107,7 @@ sweep::Variants variantsOf(const Options& options) {
 
 project::RainStore rainOf(const sweep::Variants& variants, const Options& options) {
     project::RainStore rain;
-    data::MdbRainDatabase database(rainReaderProgram());
+    data::MdbRainDatabase database;
     bool demonstration = false;
     const std::vector<int> stations = variants.stations();
     const std::string folder = stations.empty() ? std::string() : folderOrDefault(options.folder);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Finds the program's folder and the rain reader.
+/// Finds the program's folder.
 /// Paths are treated as bytes, independent of the locale.
 #include "app/common/program_folder.h"
 
@@ -18,7 +18,6 @@ namespace fs = std::filesystem;
 
 /// Installed data relative to the executable's folder: PREFIX/bin and PREFIX/share/mero.
 constexpr const char* kInstalledData = "../share/mero";
-constexpr const char* kInstalledReader = "../libexec/mero/mero-rain";
 
 constexpr const char* kRainDatabase = "mero.mdb";
 constexpr const char* kPages = "Webs";
@@ -100,13 +99,6 @@ bool folderExists(const std::string& folder) {
 
 std::string folderMissing(const std::string& folder) {
     return "the program's folder " + folder + " cannot be made: there is no rain database and no report";
-}
-
-std::string rainReaderProgram() {
-    const fs::path folder = executableFolder();
-    const fs::path beside = folder / "mero-rain";
-    std::error_code failure;
-    return fs::exists(beside, failure) ? beside.string() : (folder / kInstalledReader).string();
 }
 
 }  // namespace mero::app

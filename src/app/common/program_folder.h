@@ -25,7 +25,4 @@ namespace mero::app {
 /// The error message for a missing folder.
 [[nodiscard]] std::string folderMissing(const std::string& folder);
 
-/// Path of the rain reader: beside the executable, or in ../libexec/mero of an installed copy.
-[[nodiscard]] std::string rainReaderProgram();
-
 }  // namespace mero::app

@@ -92,7 +92,6 @@ class Mero {
           clock_(options.frozen_moment ? std::unique_ptr<platform::Clock>(
                                              std::make_unique<platform::FrozenClock>(*options.frozen_moment))
                                        : std::make_unique<platform::SystemClock>()),
-          rain_database_(app::rainReaderProgram()),
           program_({desk(), *clock_, locale_, rain_database_, folder_}),
           kit_([this](const std::function<void()>& event) { program_.enter(event); },
                scripted_ ? qt::FocusEvents::RunNothing : qt::FocusEvents::RunHandlers),

@@ -182,11 +182,5 @@ TEST(ProgramFolder, OneThatCannotBeMadeIsNotThere) {
     EXPECT_FALSE(folderExists("/proc/version"));
 }
 
-TEST(ProgramFolder, TheReaderIsBesideTheExecutableOrInTheInstalledPlace) {
-    const std::string reader = rainReaderProgram();
-    EXPECT_TRUE(reader.ends_with("/mero-rain"));
-    EXPECT_EQ(reader.front(), '/');
-}
-
 }  // namespace
 }  // namespace mero::app

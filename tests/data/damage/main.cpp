@@ -51,6 +51,15 @@ std::string judge(const test::Outcome& outcome, const damage::Damaged& damaged, 
     if (table.rows.size() != whole.rows.size() || table.columns.size() != whole.columns.size()) {
         return "rows or fields are missing without a word";
     }
+    if (!table.demonstration) {
+        return "the note that the values are a demonstration is lost";
+    }
+    if (!mero::data::arePlausible(table)) {
+        return "intensities that cannot be";
+    }
+    if (damaged.kind == damage::Kind::Cut) {
+        return "a cut file was read";
+    }
     if (table.rows == whole.rows && table.columns == whole.columns) {
         ++tally.whole;
         return "";
