@@ -36,7 +36,7 @@ for target in "${targets[@]}"; do
     options=(-max_total_time="$2" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$findings/")
     dictionary=$root/fuzz/dictionaries/$target.dict
     [[ ! -f $dictionary ]] || options+=(-dict="$dictionary")
-    # The reader is another process, whose coverage the fuzzer does not see: up to 16 edits from the start.
+    # Up to 16 edits of the shipped file from the start.
     [[ $target != rain_file ]] || options+=(-len_control=0 -max_len=160)
     echo "-- $target"
     log=$root/build/fuzz/$target.log

@@ -69,7 +69,12 @@ class RainDamage : public ::testing::Test {
 };
 
 TEST_F(RainDamage, AFileThatIsCutGivesNothing) {
-    for (std::size_t page = 0; page < file_.size() / kPage; ++page) {
+    const std::size_t pages = file_.size() / kPage;
+    std::vector<std::size_t> kept{pages - 3, pages - 2, pages - 1};
+    for (std::size_t page = 0; page < pages; page += 11) {
+        kept.push_back(page);
+    }
+    for (const std::size_t page : kept) {
         for (const std::size_t extra : {std::size_t{0}, std::size_t{1}, kPage / 2, kPage - 1}) {
             const Outcome outcome = readDamaged(file_.substr(0, page * kPage + extra));
             ASSERT_NE(outcome.error(), nullptr) << "cut after page " << page << " and " << extra;
