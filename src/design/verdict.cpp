@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "calc/swale_trench.h"
-#include "design/verdict_table.h"
 #include "platform/numbers/number_text.h"
 
 namespace mero::design {
@@ -33,14 +32,6 @@ std::pair<std::string, std::string> comparedNumbers(const Verdict& verdict) {
 }
 
 }  // namespace
-
-std::span<const VerdictInfo, kVerdictCount> verdicts() {
-    return table::kVerdicts;
-}
-
-const VerdictInfo& info(VerdictId id) {
-    return table::kVerdicts[index(id)];
-}
 
 std::span<const Subject> subjects(VerdictId id) {
     const auto& about = info(id).about;

@@ -13,7 +13,7 @@
 
 #include "platform/controls/text_box.h"
 #include "platform/numbers/number_text.h"
-#include "project/reference.h"
+#include "project/project.h"
 #include "project/shown_text.h"
 
 namespace mero::project {

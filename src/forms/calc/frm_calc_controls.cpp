@@ -135,9 +135,9 @@ void frmCalcControls::setInitialState() {
     picPretokSkrOdtok.forEach([](int, Panel& panel) { panel.hide(); });
     cmdEdit[SwaleTrench].setEnabled(false);
     cmdEdit[Trench].setEnabled(false);
-    // The first two types are computed while the inputs change: there is nothing to press.
-    cmdCalcul[Surface].hide();
-    cmdCalcul[Swale].hide();
+    for (const FacilityType type : data::kFacilityTypes) {
+        cmdCalcul[type].setVisible(!design::isLive(type));
+    }
     txtVyskaPiskVrstvy.setEnabled(false);
     txtVyskaPiskVrstvy.setGreyed(true);
     wbShowPopisTech.hide();

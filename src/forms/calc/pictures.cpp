@@ -7,7 +7,6 @@
 
 #include "calc/tank.h"
 #include "design/balances.h"
-#include "forms/calc/rain_table.h"
 #include "picture/balance_chart.h"
 #include "picture/facility_sections.h"
 #include "platform/numbers/number_text.h"
@@ -117,12 +116,12 @@ picture::Section facilitySection(const frmCalc& form, FacilityType type) {
 
 picture::Chart balanceChart(const frmCalc& form, FacilityType type) {
     const modPublicVariables& values = form.values();
-    const auto rains = rainTable(values);
+    const auto rains = form.intDialog.rains();
     switch (type) {
         case FacilityType::Surface:
             return picture::surfaceChart({.reduced_area_m2 = values.RedukovanaPlocha,
                                           .filtration_m_s = values.txtSoucFiltrace,
-                                          .picked_rain = pickedRain(values)},
+                                          .picked_rain = form.intDialog.pickedRain()},
                                          rains, form.txtVsakPlocha[FacilityType::Surface].text());
         case FacilityType::Swale:
             return picture::swaleChart(design::swaleBalance(values, values.txtSoucFiltrace), rains,

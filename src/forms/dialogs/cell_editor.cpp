@@ -7,19 +7,13 @@
 
 namespace mero::forms {
 
-void EditKeyCode(platform::Grid& grid, platform::TextBox& editor, platform::Key key) {
-    switch (key) {
-        case platform::Key::Enter:
-        case platform::Key::Escape:
-            editor.hide();
-            grid.setFocus();
-            break;
-    }
-}
-
 CellEditor::CellEditor(platform::Grid& grid, platform::TextBox& editor) : grid_(&grid), editor_(&editor) {
     editor.hide();
-    editor.key_pressed = [this](platform::Key key) { EditKeyCode(*grid_, *editor_, key); };
+    // Both keys, Enter and Escape.
+    editor.key_pressed = [this](platform::Key) {
+        editor_->hide();
+        grid_->setFocus();
+    };
     editor.lost_focus = [this] { close(); };
 }
 

@@ -20,6 +20,7 @@ void Dialog::Show() {
         return;
     }
     loaded_ = true;
+    main_->setEnabled(false);
     try {
         Form_Load();
     } catch (const RuntimeError& error) {
@@ -42,14 +43,10 @@ void Dialog::Unload() {
     if (!loaded_) {
         return;
     }
-    Form_QueryUnload();
+    main_->setEnabled(true);
     loaded_ = false;
     setVisible(false);
     desk_->formClosed(name());
-}
-
-void Dialog::Form_QueryUnload() {
-    main_->setEnabled(true);
 }
 
 }  // namespace mero::forms
