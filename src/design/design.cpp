@@ -25,7 +25,7 @@ void event(DesignResult& result, Action action) {
 
 /// Left after typing, a filtration field shows and stores a positive coefficient with two significant digits.
 float leftFiltration(float typed_m_s) {
-    return typed_m_s > 0.0F ? throughScientificField(typed_m_s) : typed_m_s;
+    return typed_m_s > 0.0F ? throughField(typed_m_s, kScientific) : typed_m_s;
 }
 
 /// Groundwater, design rain, drained areas, filtration coefficient.

@@ -294,55 +294,32 @@ static_assert(std::ranges::adjacent_find(kInputs, std::ranges::greater_equal(), 
                   kInputs.end(),
               "an input is found by its number");
 
+constexpr auto panel(auto... inputs) {
+    return std::array<PanelInput, sizeof...(inputs)>{PanelInput{inputs}...};
+}
+
 template <FacilityType type>
-inline constexpr std::array<PanelInput, 0> kPanel{};
+inline constexpr auto kPanel = panel();
 template <>
-inline constexpr std::array<PanelInput, 1> kPanel<Surface>{{{SafetyFactor}}};
+inline constexpr auto kPanel<Surface> = panel(SafetyFactor);
 template <>
-inline constexpr std::array<PanelInput, 2> kPanel<Swale>{{{Soil}, {SafetyFactor}}};
+inline constexpr auto kPanel<Swale> = panel(Soil, SafetyFactor);
 template <>
-inline constexpr std::array<PanelInput, 10> kPanel<SwaleTrench>{{{Soil, "Typ půdy:"},
-                                                                 {SwaleFiltration},
-                                                                 {SafetyFactor},
-                                                                 {FillPorosity},
-                                                                 {TrenchWidth},
-                                                                 {TrenchHeight},
-                                                                 {OverflowPipeCount},
-                                                                 {OverflowOuterDiameter},
-                                                                 {OverflowInnerDiameter},
-                                                                 {ThrottledOutflow}}};
+inline constexpr auto kPanel<SwaleTrench> = panel(PanelInput{Soil, "Typ půdy:"}, SwaleFiltration,
+                                                  SafetyFactor, FillPorosity, TrenchWidth, TrenchHeight,
+                                                  OverflowPipeCount, OverflowOuterDiameter,
+                                                  OverflowInnerDiameter, ThrottledOutflow);
 template <>
-inline constexpr std::array<PanelInput, 9> kPanel<Trench>{{{SafetyFactor},
-                                                           {FillPorosity, nullptr, true},
-                                                           {TrenchWidth},
-                                                           {TrenchHeight},
-                                                           {DrainPipeCount},
-                                                           {DrainOuterDiameter},
-                                                           {DrainInnerDiameter},
-                                                           {OutletArea},
-                                                           {OutletVelocity}}};
+inline constexpr auto kPanel<Trench> = panel(SafetyFactor, PanelInput{FillPorosity, nullptr, true},
+                                             TrenchWidth, TrenchHeight, DrainPipeCount, DrainOuterDiameter,
+                                             DrainInnerDiameter, OutletArea, OutletVelocity);
 template <>
-inline constexpr std::array<PanelInput, 13> kPanel<Shaft>{{{Shape},
-                                                           {Variant},
-                                                           {CatalogueShaft},
-                                                           {ShaftCount},
-                                                           {InnerDiameter},
-                                                           {InnerWidth},
-                                                           {InnerLength},
-                                                           {WallThickness},
-                                                           {InletDepth},
-                                                           {SeepagePath},
-                                                           {FilterLayer},
-                                                           {SandLayer},
-                                                           {SafetyFactor}}};
+inline constexpr auto kPanel<Shaft> = panel(Shape, Variant, CatalogueShaft, ShaftCount, InnerDiameter,
+                                            InnerWidth, InnerLength, WallThickness, InletDepth, SeepagePath,
+                                            FilterLayer, SandLayer, SafetyFactor);
 template <>
-inline constexpr std::array<PanelInput, 7> kPanel<Tank>{{{BottomLength},
-                                                         {BottomWidth},
-                                                         {TankDepth},
-                                                         {SideSlope},
-                                                         {SpecificInfiltration},
-                                                         {SafetyFactor},
-                                                         {UpstreamSettling}}};
+inline constexpr auto kPanel<Tank> = panel(BottomLength, BottomWidth, TankDepth, SideSlope,
+                                           SpecificInfiltration, SafetyFactor, UpstreamSettling);
 
 }  // namespace table
 

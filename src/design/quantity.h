@@ -91,49 +91,44 @@ namespace table {
 using enum FacilityType;
 using data::DesignNumbers;
 
-inline constexpr std::array<QuantityInfo, kQuantityCount> kQuantities{{
-    {Quantity::ReducedArea, "reduced_area_m2", "Celková odvodňovaná plocha", "m²",
-     &DesignNumbers::RedukovanaPlocha},
-    {Quantity::Filtration, "filtration_used_m_s", kSubsoilFiltration, "m/s", &DesignNumbers::txtSoucFiltrace},
-    {Quantity::Inflow, "inflow_l_s", "Odtok do vsakovacího zařízení", "l/s", &DesignNumbers::txtOdtokDoVsak},
-    {Quantity::CriticalDuration, "critical_duration_min", "Doba trvání rozhodujícího deště", "min",
-     &DesignNumbers::VybranaDoba},
-    {Quantity::CriticalIntensity, "critical_intensity_l_s_ha", "Intenzita rozhodujícího deště", "l/(s.ha)",
-     &DesignNumbers::VybranaIntenzita},
-    {Quantity::InfiltrationArea, "infiltration_area_m2", "Plocha potřebná pro vsakování", "m²",
-     &DesignNumbers::txtVsakPlocha, "Vsakovací plocha", true},
-    {Quantity::StorageVolume, "storage_volume_m3", "Objem akumulace", "m³", &DesignNumbers::txtObjAkum},
-    {Quantity::WaterDepth, "water_depth_m", "Výška vzdutí", "m", &DesignNumbers::txtVyskaVzduti},
-    {Quantity::EmptyingTime, "emptying_time_h", "Doba prázdnění průlehu", "h",
-     &DesignNumbers::txtDobaPrazdneni},
-    {Quantity::TrenchLength, "trench_length_m", "Délka vsakovací rýhy", "m", &DesignNumbers::txtDelkaRyhy},
-    {Quantity::SwaleDepth, "swale_depth_m", "Hloubka průlehu (výška vzdutí)", "m",
-     &DesignNumbers::txtHloubkaPrulehu},
-    {Quantity::SwaleWidth, "swale_width_m", "Šířka průlehu", "m", &DesignNumbers::txtSirkaPrulehu},
-    {Quantity::StorageCoefficient, "storage_coefficient",
-     "Celkový součinitel akumulace vsakovací rýhy (vč. příp. trouby)", "", &DesignNumbers::s_RR},
-    {Quantity::ThrottledOutflow, "throttled_outflow_m3_s", "Škrcený odtok", "m³/s", &DesignNumbers::Q_dr},
-    {Quantity::DrainInflow, "drain_inflow_l_s", "Přítok do rýhy", "l/s", &DesignNumbers::drain_inflow_l_s},
-    {Quantity::DrainOutflow, "drain_outflow_l_s", "Výstupní odtok", "l/s", &DesignNumbers::drain_outflow_l_s},
-    {Quantity::ShaftInnerDiameter, "shaft_inner_diameter_m", "Vnitřní průměr šachty", "m",
-     &DesignNumbers::D_i},
-    {Quantity::ShaftOuterDiameter, "shaft_outer_diameter_m", "Vnější průměr šachty", "m",
-     &DesignNumbers::D_a},
-    {Quantity::ShaftDepth, "shaft_depth_m", "Potřebná hloubka šachty", "m", &DesignNumbers::txtHloubkaSachty},
-    {Quantity::RequiredGroundwaterDepth, "required_groundwater_depth_m", "Min. hloubka hladiny podzemní vody",
-     "m", &DesignNumbers::txtPotrHloubkaZahl, "Min. hloubka podzemní vody", true},
-    {Quantity::RequiredFilterPermeability, "required_filter_permeability_m_s",
-     "Součinitel filtrace náplně filtru", "m/s", &DesignNumbers::txtSoucFiltrPruleh,
-     "Potřebný součinitel filtrace filtru", true},
-    {Quantity::InfiltrationFlow, "infiltration_flow_m3_s", "Vsakovací tok", "m³/s",
-     &DesignNumbers::txtVsakTok},
-    {Quantity::TankVolume, "tank_volume_m3", "Objem dle rozměrů nádrže", "m³",
-     &DesignNumbers::txtVypObjNadrz},
-    {Quantity::TankTopLength, "tank_top_length_m", "Délka nádrže v koruně", "m",
-     &DesignNumbers::tank_top_length_m},
-    {Quantity::TankTopWidth, "tank_top_width_m", "Šířka nádrže v koruně", "m",
-     &DesignNumbers::tank_top_width_m},
-}};
+inline constexpr auto kQuantities = [] {
+    using enum Quantity;
+    return std::array<QuantityInfo, kQuantityCount>{{
+        {ReducedArea, "reduced_area_m2", "Celková odvodňovaná plocha", "m²",
+         &DesignNumbers::RedukovanaPlocha},
+        {Filtration, "filtration_used_m_s", kSubsoilFiltration, "m/s", &DesignNumbers::txtSoucFiltrace},
+        {Inflow, "inflow_l_s", "Odtok do vsakovacího zařízení", "l/s", &DesignNumbers::txtOdtokDoVsak},
+        {CriticalDuration, "critical_duration_min", "Doba trvání rozhodujícího deště", "min",
+         &DesignNumbers::VybranaDoba},
+        {CriticalIntensity, "critical_intensity_l_s_ha", "Intenzita rozhodujícího deště", "l/(s.ha)",
+         &DesignNumbers::VybranaIntenzita},
+        {InfiltrationArea, "infiltration_area_m2", "Plocha potřebná pro vsakování", "m²",
+         &DesignNumbers::txtVsakPlocha, "Vsakovací plocha", true},
+        {StorageVolume, "storage_volume_m3", "Objem akumulace", "m³", &DesignNumbers::txtObjAkum},
+        {WaterDepth, "water_depth_m", "Výška vzdutí", "m", &DesignNumbers::txtVyskaVzduti},
+        {EmptyingTime, "emptying_time_h", "Doba prázdnění průlehu", "h", &DesignNumbers::txtDobaPrazdneni},
+        {TrenchLength, "trench_length_m", "Délka vsakovací rýhy", "m", &DesignNumbers::txtDelkaRyhy},
+        {SwaleDepth, "swale_depth_m", "Hloubka průlehu (výška vzdutí)", "m",
+         &DesignNumbers::txtHloubkaPrulehu},
+        {SwaleWidth, "swale_width_m", "Šířka průlehu", "m", &DesignNumbers::txtSirkaPrulehu},
+        {StorageCoefficient, "storage_coefficient",
+         "Celkový součinitel akumulace vsakovací rýhy (vč. příp. trouby)", "", &DesignNumbers::s_RR},
+        {ThrottledOutflow, "throttled_outflow_m3_s", "Škrcený odtok", "m³/s", &DesignNumbers::Q_dr},
+        {DrainInflow, "drain_inflow_l_s", "Přítok do rýhy", "l/s", &DesignNumbers::drain_inflow_l_s},
+        {DrainOutflow, "drain_outflow_l_s", "Výstupní odtok", "l/s", &DesignNumbers::drain_outflow_l_s},
+        {ShaftInnerDiameter, "shaft_inner_diameter_m", "Vnitřní průměr šachty", "m", &DesignNumbers::D_i},
+        {ShaftOuterDiameter, "shaft_outer_diameter_m", "Vnější průměr šachty", "m", &DesignNumbers::D_a},
+        {ShaftDepth, "shaft_depth_m", "Potřebná hloubka šachty", "m", &DesignNumbers::txtHloubkaSachty},
+        {RequiredGroundwaterDepth, "required_groundwater_depth_m", "Min. hloubka hladiny podzemní vody", "m",
+         &DesignNumbers::txtPotrHloubkaZahl, "Min. hloubka podzemní vody", true},
+        {RequiredFilterPermeability, "required_filter_permeability_m_s", "Součinitel filtrace náplně filtru",
+         "m/s", &DesignNumbers::txtSoucFiltrPruleh, "Potřebný součinitel filtrace filtru", true},
+        {InfiltrationFlow, "infiltration_flow_m3_s", "Vsakovací tok", "m³/s", &DesignNumbers::txtVsakTok},
+        {TankVolume, "tank_volume_m3", "Objem dle rozměrů nádrže", "m³", &DesignNumbers::txtVypObjNadrz},
+        {TankTopLength, "tank_top_length_m", "Délka nádrže v koruně", "m", &DesignNumbers::tank_top_length_m},
+        {TankTopWidth, "tank_top_width_m", "Šířka nádrže v koruně", "m", &DesignNumbers::tank_top_width_m},
+    }};
+}();
 
 static_assert(std::ranges::adjacent_find(kQuantities, std::ranges::greater_equal(),
                                          &QuantityInfo::quantity) == kQuantities.end(),
@@ -195,8 +190,8 @@ inline constexpr std::array<ResultBox, 3> kBoxes<Tank>{{
 /// Results that have no box on the type's panel. Lengths and flows that the command line prints have two
 /// decimals; a flow in m3/s would vanish.
 struct Unshown {
-    Quantity quantity;
-    FacilityType type;
+    Quantity quantity = Quantity::ReducedArea;
+    FacilityType type = FacilityType::None;
     int decimals = 2;
 };
 inline constexpr std::array<Unshown, 9> kUnshown{{

@@ -51,7 +51,6 @@ frmCalcControls::frmCalcControls()
       picTank(panelOf(picResults, SSTab1.page(kTabDesign), Tank)),
       chkPredUsaz(picTank, "chkPredUsaz", info(design::Input::UpstreamSettling).caption) {
     addMembers();
-    addSubPanels();
     addFields();
     setInitialState();
 }
@@ -78,9 +77,6 @@ void frmCalcControls::addMembers() {
     for (const FacilityType type : data::kFacilityTypes) {
         cmdCalcul.add(static_cast<int>(type), picResults[type], "Výpočti");
     }
-}
-
-void frmCalcControls::addSubPanels() {
     for (const FacilityType type : {SwaleTrench, Trench}) {
         const int index = static_cast<int>(type);
         chkSelPretok.add(index, picResults[type],
