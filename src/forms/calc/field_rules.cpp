@@ -40,9 +40,9 @@ void storeNumber(platform::TextBox& box, std::int16_t& stored) {
 }
 
 void storeFiltration(platform::TextBox& box, float& stored) {
-    const std::string text = box.text();
+    const std::string& text = box.text();
     if (text.find('e') == std::string::npos) {
-        storeNumber(box, stored);
+        store(box, stored, numbers::strictSingle);
     } else if (!take(text, stored, numbers::strictSingle)) {
         take(text, stored,
              [](const std::string& typed) { return numbers::toSingle(numbers::leadingNumber(typed)); });
