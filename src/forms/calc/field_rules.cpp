@@ -41,11 +41,15 @@ void storeNumber(platform::TextBox& box, std::int16_t& stored) {
 
 void storeFiltration(platform::TextBox& box, float& stored) {
     const std::string& text = box.text();
-    if (text.find('e') == std::string::npos) {
-        store(box, stored, numbers::strictSingle);
+    if (text.empty()) {
+        stored = 0;
     } else if (!take(text, stored, numbers::strictSingle)) {
-        take(text, stored,
-             [](const std::string& typed) { return numbers::toSingle(numbers::leadingNumber(typed)); });
+        if (text.find('e') == std::string::npos) {
+            box.setText("");
+        } else {
+            take(text, stored,
+                 [](const std::string& typed) { return numbers::toSingle(numbers::leadingNumber(typed)); });
+        }
     }
 }
 
