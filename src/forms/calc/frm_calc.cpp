@@ -61,11 +61,11 @@ void frmCalc::bindTables() {
 void frmCalc::bindHandlers() {
     txtOdvodNepPlocha.changed = [this] { txtOdvodNepPlocha_Change(); };
     txtSelIntDeste.changed = [this] { txtSelIntDeste_Change(); };
-    txtSelDTrvDeste.changed = [this] { RebuildCalc(); };
+    txtSelDTrvDeste.changed = [this] { txtSelDTrvDeste_Change(); };
     txtSoucFiltrace.changed = [this] { txtSoucFiltrace_Change(); };
-    txtSoucFiltrace.lost_focus = [this] { formatFiltration(txtSoucFiltrace, values_->txtSoucFiltrace); };
+    txtSoucFiltrace.lost_focus = [this] { txtSoucFiltrace_LostFocus(); };
     cboSelType.clicked = [this] { cboSelType_Click(); };
-    cboSelType.got_focus = [this] { refusesMissingInputs(); };
+    cboSelType.got_focus = [this] { cboSelType_GotFocus(); };
     cboTypSachty.clicked = [this] { cboTypSachty_Click(); };
     txtSachtyCount.changed = [this] { storeNumber(txtSachtyCount, values_->txtSachtyCount); };
     updSacht.spun = [this](UpDown::Direction direction) { updSacht_Change(direction); };
@@ -81,7 +81,6 @@ void frmCalc::bindHandlers() {
     });
     txtSoucFiltrPruleh.forEach([this](int, TextBox& box) {
         box.changed = [this, &box] { storeFiltration(box, values_->txtSoucFiltrPruleh); };
-        box.lost_focus = [this, &box] { formatFiltration(box, values_->txtSoucFiltrPruleh); };
     });
     SSTab1.changed = [this](int PreviousTab) { SSTab1_Click(PreviousTab); };
     cmdSaveResults.clicked = [this] { cmdSaveResults_Click(); };
@@ -96,11 +95,12 @@ void frmCalc::bindEach(const ControlArray<T>& array, std::type_identity_t<std::f
 }
 
 void frmCalc::bindArrays() {
+    bindEach(txtSoucFiltrPruleh, &TextBox::lost_focus, &frmCalc::txtSoucFiltrPruleh_LostFocus);
     bindEach(cmdEdit, &Button::clicked, &frmCalc::cmdEdit_Click);
     bindEach(lblOdkaz, &Label::clicked, &frmCalc::lblOdkaz_Click);
     bindEach(optSelType, &OptionButton::clicked, &frmCalc::optSelType_Click);
-    bindEach(optSelTypPudy2, &OptionButton::clicked, &frmCalc::chooseSoil);
-    bindEach(optSelTypPudy3, &OptionButton::clicked, &frmCalc::chooseSoil);
+    bindEach(optSelTypPudy2, &OptionButton::clicked, &frmCalc::optSelTypPudy2_Click);
+    bindEach(optSelTypPudy3, &OptionButton::clicked, &frmCalc::optSelTypPudy3_Click);
     bindEach(optSelTypPudy5, &OptionButton::clicked, &frmCalc::optSelTypPudy5_Click);
     bindEach(optSelTypSachty, &OptionButton::clicked, &frmCalc::optSelTypSachty_Click);
     bindEach(chkSelPretok, &CheckBox::clicked, &frmCalc::chkSelPretok_Click);

@@ -51,7 +51,10 @@ class frmCalc : public frmCalcControls {
     // Field rules.
     void txtOdvodNepPlocha_Change();
     void txtSelIntDeste_Change();
+    void txtSelDTrvDeste_Change() { RebuildCalc(); }
     void txtSoucFiltrace_Change();
+    void txtSoucFiltrace_LostFocus();
+    void txtSoucFiltrPruleh_LostFocus(int Index);
     void updSacht_Change(platform::UpDown::Direction direction);
     void cmdEdit_Click(int Index);
     void lblOdkaz_Click(int Index);
@@ -59,8 +62,9 @@ class frmCalc : public frmCalcControls {
     // Choice of the type.
     void optSelType_Click(int Index);
     void cboSelType_Click();
-    /// `optSelTypPudy2` and `optSelTypPudy3`.
-    void chooseSoil(int Index);
+    void cboSelType_GotFocus() { refusesMissingInputs(); }
+    void optSelTypPudy2_Click(int Index);
+    void optSelTypPudy3_Click(int Index) { optSelTypPudy2_Click(Index); }
     void optSelTypPudy5_Click(int Index);
     void optSelTypSachty_Click(int Index);
     void chkSelPretok_Click(int Index);

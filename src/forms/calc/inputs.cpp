@@ -38,6 +38,14 @@ void frmCalc::txtSoucFiltrace_Change() {
     }
 }
 
+void frmCalc::txtSoucFiltrace_LostFocus() {
+    formatFiltration(txtSoucFiltrace, values_->txtSoucFiltrace);
+}
+
+void frmCalc::txtSoucFiltrPruleh_LostFocus(int Index) {
+    formatFiltration(txtSoucFiltrPruleh[Index], values_->txtSoucFiltrPruleh);
+}
+
 void frmCalc::updSacht_Change(platform::UpDown::Direction direction) {
     constexpr int kFewest = 1;
     constexpr int kMost = 100;

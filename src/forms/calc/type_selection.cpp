@@ -76,7 +76,7 @@ void frmCalc::cboSelType_Click() {
     ClearTypeResults();
 }
 
-void frmCalc::chooseSoil(int Index) {
+void frmCalc::optSelTypPudy2_Click(int Index) {
     SoilVariant = Index;
     CalcInfiltArea();
 }

@@ -7,13 +7,16 @@
 
 namespace mero::forms {
 
+void EditKeyCode(platform::Grid& grid, platform::TextBox& editor, platform::Key key) {
+    if (key == platform::Key::Enter || key == platform::Key::Escape) {
+        editor.hide();
+        grid.setFocus();
+    }
+}
+
 CellEditor::CellEditor(platform::Grid& grid, platform::TextBox& editor) : grid_(&grid), editor_(&editor) {
     editor.hide();
-    // Both keys, Enter and Escape.
-    editor.key_pressed = [this](platform::Key) {
-        editor_->hide();
-        grid_->setFocus();
-    };
+    editor.key_pressed = [this](platform::Key key) { EditKeyCode(*grid_, *editor_, key); };
     editor.lost_focus = [this] { close(); };
 }
 

@@ -10,6 +10,9 @@
 
 namespace mero::forms {
 
+/// Enter or Escape hides the editor and gives the focus back to the grid; other keys do nothing.
+void EditKeyCode(platform::Grid& grid, platform::TextBox& editor, platform::Key key);
+
 class CellEditor {
   public:
     /// The editor closes on Enter, Escape, and when it loses the focus. What was typed is stored already, so

@@ -20,7 +20,6 @@ void Dialog::Show() {
         return;
     }
     loaded_ = true;
-    main_->setEnabled(false);
     try {
         Form_Load();
     } catch (const RuntimeError& error) {
@@ -43,10 +42,14 @@ void Dialog::Unload() {
     if (!loaded_) {
         return;
     }
-    main_->setEnabled(true);
+    Form_QueryUnload();
     loaded_ = false;
     setVisible(false);
     desk_->formClosed(name());
+}
+
+void Dialog::Form_QueryUnload() {
+    main_->setEnabled(true);
 }
 
 }  // namespace mero::forms

@@ -25,10 +25,12 @@ class Dialog : public platform::Form {
     /// Fills the controls afresh: nothing of an earlier opening is left.
     virtual void Form_Load() = 0;
 
+    [[nodiscard]] platform::Form& main() const { return *main_; }
     [[nodiscard]] platform::Desk& desk() const { return *desk_; }
 
   private:
     void open();
+    void Form_QueryUnload();
 
     platform::Form* main_;
     platform::Desk* desk_;

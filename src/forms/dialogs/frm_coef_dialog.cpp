@@ -31,6 +31,7 @@ frmCoefDialog::frmCoefDialog(platform::Form& main, platform::Desk& desk, data::m
 }
 
 void frmCoefDialog::Form_Load() {
+    main().setEnabled(false);
     cmdOK.setEnabled(false);
     fgCoefProp.build("typ půdy|<souč. filtrace [m/s]|<Výběr", {0.4, 0.4, 0.2});
     for (std::size_t soil = 0; soil < values_->TypPudy.size(); ++soil) {

@@ -39,6 +39,7 @@ frmDialog::frmDialog(platform::Form& main, platform::Desk& desk, data::modPublic
 }
 
 void frmDialog::Form_Load() {
+    main().setEnabled(false);
     editor_.close();
     coefficient_ = 0;
     description_.clear();
@@ -47,6 +48,11 @@ void frmDialog::Form_Load() {
     txtPlocha.showText("");
     cmdDelete.setEnabled(false);
     fgZapisTab.hide();
+    buildSurfaceTable();
+    RefreshEntryTable();
+}
+
+void frmDialog::buildSurfaceTable() {
     fgSoucPovrchOdtok.build("Typ plochy|<Způsob zpevnění povrchu|<Součinitel|<Výběr", {0.3, 0.5, 0.1, 0.1});
     fgSoucPovrchOdtok.mergeColumn(0);
     for (std::size_t i = 0; i < values_->SoucOdtoku.size(); ++i) {
@@ -55,7 +61,6 @@ void frmDialog::Form_Load() {
     }
     fgSoucPovrchOdtok.alignColumn(kCoefficientColumn, platform::Alignment::Centre);
     fgSoucPovrchOdtok.alignColumn(kChoiceColumn, platform::Alignment::Centre);
-    RefreshEntryTable();
 }
 
 void frmDialog::fgSoucPovrchOdtok_Click() {

@@ -56,8 +56,11 @@ class frmDialog : public Dialog {
     void Form_Load() override;
 
   private:
+    void buildSurfaceTable();
     [[nodiscard]] int entryCount() const { return values_->OdtokovySoucinitel.length() - 1; }
     [[nodiscard]] bool hasEntries() const { return values_->DilciPlocha(1) != 0; }
+    void editArea(platform::GridCell cell, const std::string& text);
+    void editCoefficient(platform::GridCell cell, const std::string& text);
     /// Makes all three lists `length` long.
     void resizeLists(int length);
 

@@ -91,16 +91,10 @@ void frmDialog::txtSChange_Change() {
     const platform::GridCell cell = editor_.cell();
     switch (cell.column) {
         case kAreaColumn:
-            values_->DilciPlocha(cell.row) = areaOf(text);
-            fgZapisTab.setText(cell, numbers::fixed(numbers::leadingNumber(text), 0));
+            editArea(cell, text);
             break;
         case kCoefficientColumn:
-            try {
-                values_->OdtokovySoucinitel(cell.row) = numbers::strictSingle(text);
-            } catch (const RuntimeError&) {
-                // The coefficient keeps its value; the cell still shows what can be read from the text.
-            }
-            fgZapisTab.setText(cell, numbers::fixed(numbers::leadingNumber(text), 2));
+            editCoefficient(cell, text);
             break;
         case kSurfaceColumn:
             values_->TypPovrchu(cell.row) = text;
@@ -110,6 +104,20 @@ void frmDialog::txtSChange_Change() {
             break;
     }
     SumReducedArea();
+}
+
+void frmDialog::editArea(platform::GridCell cell, const std::string& text) {
+    values_->DilciPlocha(cell.row) = areaOf(text);
+    fgZapisTab.setText(cell, numbers::fixed(numbers::leadingNumber(text), 0));
+}
+
+void frmDialog::editCoefficient(platform::GridCell cell, const std::string& text) {
+    try {
+        values_->OdtokovySoucinitel(cell.row) = numbers::strictSingle(text);
+    } catch (const RuntimeError&) {
+        // The coefficient keeps its value; the cell still shows what can be read from the text.
+    }
+    fgZapisTab.setText(cell, numbers::fixed(numbers::leadingNumber(text), 2));
 }
 
 void frmDialog::resizeLists(int length) {
@@ -123,17 +131,21 @@ void frmDialog::cmdDelete_Click() {
     if (count == 0) {
         return;
     }
-    for (int i = row_to_delete_; row_to_delete_ < count && i <= count; ++i) {
-        values_->DilciPlocha(i) = values_->DilciPlocha(i + 1);
-        values_->OdtokovySoucinitel(i) = values_->OdtokovySoucinitel(i + 1);
-        values_->TypPovrchu(i) = values_->TypPovrchu(i + 1);
-    }
-    resizeLists(count);
-    if (count == 1) {
-        values_->DilciPlocha(1) = 0;
-        values_->OdtokovySoucinitel(1) = 0;
-        values_->TypPovrchu(1) = "";
-        txtOdvodNepPlocha.setText("");
+    if (row_to_delete_ >= count) {
+        resizeLists(count);
+        if (count == 1) {
+            values_->DilciPlocha(1) = 0;
+            values_->OdtokovySoucinitel(1) = 0;
+            values_->TypPovrchu(1) = "";
+            txtOdvodNepPlocha.setText("");
+        }
+    } else {
+        for (int i = row_to_delete_; i <= count; ++i) {
+            values_->DilciPlocha(i) = values_->DilciPlocha(i + 1);
+            values_->OdtokovySoucinitel(i) = values_->OdtokovySoucinitel(i + 1);
+            values_->TypPovrchu(i) = values_->TypPovrchu(i + 1);
+        }
+        resizeLists(count);
     }
     RefreshEntryTable();
 }

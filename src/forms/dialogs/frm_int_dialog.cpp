@@ -64,6 +64,7 @@ frmIntDialog::frmIntDialog(platform::Form& main, platform::Desk& desk, data::mod
 }
 
 void frmIntDialog::Form_Load() {
+    main().setEnabled(false);
     cmdOK.setEnabled(false);
     editor_.close();
     cmdCloseHelp_Click();
