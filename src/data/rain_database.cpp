@@ -111,7 +111,7 @@ std::string tableName(std::int16_t station_number) {
 
 bool arePlausible(const StationTable& table) {
     const auto is_intensity = [](std::string_view name) {
-        return name == kSubstituteField ||
+        return name == kSubstituteOfLastField ||
                std::ranges::find(kIntensityFields, name) != kIntensityFields.end();
     };
     for (std::size_t column = 0; column < table.columns.size(); ++column) {

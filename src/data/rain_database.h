@@ -25,7 +25,7 @@ struct StationTable {
 /// Fields of a station's intensities in the order of the periodicities 5, 2, 1, 0.5, 0.2, 0.1, 0.05.
 inline constexpr std::array<std::string_view, 7> kIntensityFields{"5", "2", "1", "05", "02", "01", "005"};
 /// A table without the field "005" has this one, for the periodicity 0.04.
-inline constexpr std::string_view kSubstituteField = "004";
+inline constexpr std::string_view kSubstituteOfLastField = "004";
 
 /// Are the intensities of each periodicity 0 or more and nowhere rising with the duration? Those of a station
 /// without data are 0. Values that are no numbers do not count.

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "design/sink.h"
-#include "design/verdict_table.h"
+#include "design/verdict.h"
 
 namespace mero::design::checks {
 
@@ -47,7 +47,7 @@ inline constexpr std::array kChecks<FacilityType::Tank>{
 /// Does the number that the check speaks of fail it? Vertical sides, slope 0, are allowed.
 template <VerdictId id>
 [[nodiscard]] bool fails(const data::DesignNumbers& numbers) {
-    const float value = numbers.*table::kVerdicts[index(id)].about[0].stored;
+    const float value = numbers.*info(id).about[0].stored;
     return id == VerdictId::SideSlopeNegative ? value < 0.0F : value <= 0.0F;
 }
 

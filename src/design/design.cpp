@@ -4,7 +4,7 @@
 #include "design/design.h"
 
 #include "calc/inflow.h"
-#include "design/input_table.h"
+#include "design/input.h"
 #include "design/record_sink.h"
 #include "design/shaft_inputs.h"
 #include "platform/numbers/runtime_error.h"
@@ -19,13 +19,13 @@ void event(DesignResult& result, Action action) {
     try {
         action();
     } catch (const RuntimeError& error) {
-        result.verdicts.add(table::verdict(verdictOf(error), result.numbers));
+        result.verdicts.add(verdict(verdictOf(error), result.numbers));
     }
 }
 
 /// Left after typing, a filtration field shows and stores a positive coefficient with two significant digits.
 float leftFiltration(float typed_m_s) {
-    return typed_m_s > 0.0F ? throughScientificField(typed_m_s) : typed_m_s;
+    return typed_m_s > 0.0F ? throughField(typed_m_s, kScientific) : typed_m_s;
 }
 
 /// Groundwater, design rain, drained areas, filtration coefficient.
@@ -41,7 +41,7 @@ void enterSite(const Site& site, DesignResult& result) {
     if (!rain_accepted) {
         const bool empty = site.rain_confirmation == RainConfirmation::NoIntensities;
         result.verdicts.add(
-            table::verdict(empty ? VerdictId::RainIntensitiesMissing : VerdictId::ErrorOverflow, numbers));
+            verdict(empty ? VerdictId::RainIntensitiesMissing : VerdictId::ErrorOverflow, numbers));
     }
     numbers.RedukovanaPlocha = site.reduced_area_m2;
     result.show(Quantity::ReducedArea);
@@ -72,7 +72,7 @@ class Panel {
             return;
         }
         enterInputs();
-        enterSafetyFactor();
+        enterNumber(&DesignNumbers::txtSoucBezp, facility_->txtSoucBezp, true);
         enterPipes();
         if constexpr (checks::kChecks<type>.empty()) {
             return;
@@ -80,9 +80,9 @@ class Panel {
         if (checks::pass<type>(sink_, facility_->sand_layer)) {
             enter([this] {
                 if constexpr (type == FacilityType::Shaft) {
-                    shaft::calculate(sink_);
+                    calculateArea(OfType<type>(), sink_);
                 }
-                calculateDesign<type>(sink_);
+                calculateDesign(OfType<type>(), sink_);
             });
         }
     }
@@ -95,15 +95,24 @@ class Panel {
         event(*result_, action);
     }
 
+    /// A number that the user changes; the design of a live one is calculated at once.
+    void enterNumber(float DesignNumbers::*stored, float value, bool live) {
+        const bool changed = numbers().*stored != value;
+        numbers().*stored = value;
+        if (live && changed) {
+            enter([this] { calculateArea(OfType<type>(), sink_); });
+        }
+    }
+
     /// The plain numbers of the panel, or of its sub-panel.
     void enterNumbers(bool of_sub_panel) {
         const auto enter_one = [&]<Input input>() {
-            constexpr const InputInfo& row = table::kInputs[index(input)];
+            constexpr const InputInfo& row = info(input);
             if constexpr (row.stored != nullptr && input != Input::SafetyFactor) {
                 // Without its variant the box of the sand layer is disabled.
                 const bool enabled = input != Input::SandLayer || facility_->sand_layer;
-                if (enabled && table::ofSubPanel(input) == of_sub_panel) {
-                    numbers().*row.stored = row.given(*facility_);
+                if (enabled && isOfSubPanel(input) == of_sub_panel) {
+                    enterNumber(row.stored, row.given(*facility_), isLive(type));
                 }
             }
         };
@@ -117,7 +126,7 @@ class Panel {
         if constexpr (type == FacilityType::Swale || type == FacilityType::SwaleTrench) {
             if (facility_->soil_option != 0) {
                 sink_.selectSoil(facility_->soil_option);
-                enter([this] { calculateArea<type>(sink_); });
+                enter([this] { calculateArea(OfType<type>(), sink_); });
             }
         }
         enterNumbers(false);
@@ -127,14 +136,6 @@ class Panel {
         if constexpr (type == FacilityType::Shaft) {
             numbers().txtSachtyCount = facility_->txtSachtyCount;
             enterShaft();
-        }
-    }
-
-    /// The pages that calculate live do so at once.
-    void enterSafetyFactor() {
-        if (facility_->txtSoucBezp != numbers().txtSoucBezp) {
-            numbers().txtSoucBezp = facility_->txtSoucBezp;
-            enter([this] { calculateArea<type>(sink_); });
         }
     }
 
@@ -150,7 +151,7 @@ class Panel {
                 enter([this] { sink_.clearResults(); });
             }
             enterNumbers(true);
-            enter([this] { confirmPipes<type>(sink_); });
+            enter([this] { confirmPipes(OfType<type>(), sink_); });
         }
     }
 
@@ -212,7 +213,7 @@ DesignResult design(const Site& site, const Facility& facility) {
     enterSite(site, result);
     const auto missing = checks::missingInput(result.numbers);
     if (missing) {
-        result.verdicts.add(table::verdict(*missing, result.numbers));
+        result.verdicts.add(verdict(*missing, result.numbers));
     }
     // Only the tank refuses to go on without the input.
     if (!missing || facility.type != FacilityType::Tank) {

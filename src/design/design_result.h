@@ -11,7 +11,7 @@
 
 #include "calc/rain.h"
 #include "data/design_numbers.h"
-#include "design/quantity_table.h"
+#include "design/quantity.h"
 #include "design/verdict.h"
 
 namespace mero::design {

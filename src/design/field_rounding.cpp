@@ -69,16 +69,6 @@ const TwoDigitTable& twoDigitTable() {
 constexpr std::array<double, kLargestExponent - kSmallestExponent + 2> kPowersOfTen{
     1e-12, 1e-11, 1e-10, 1e-9, 1e-8, 1e-7, 1e-6, 1e-5, 1e-4, 1e-3, 1e-2, 1e-1, 1e0, 1e1, 1e2, 1e3, 1e4};
 
-}  // namespace
-
-float throughField1(float value) {
-    return roundedTo<1>(value);
-}
-
-float throughField2(float value) {
-    return roundedTo<2>(value);
-}
-
 float throughScientificField(float value) {
     const double exact = value;
     if (exact >= kPowersOfTen.front() && exact < kPowersOfTen.back()) {
@@ -101,6 +91,15 @@ float throughScientificField(float value) {
         }
     }
     return numbers::strictSingle(numbers::scientific(value, 1));
+}
+
+}  // namespace
+
+float throughField(float value, int decimals) {
+    if (decimals == kScientific) {
+        return throughScientificField(value);
+    }
+    return decimals == 1 ? roundedTo<1>(value) : roundedTo<2>(value);
 }
 
 }  // namespace mero::design

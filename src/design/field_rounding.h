@@ -7,19 +7,8 @@
 
 namespace mero::design {
 
-/// The Single that a field with one or two decimals stores back: strictSingle(fixed(value, decimals)).
-[[nodiscard]] float throughField1(float value);
-[[nodiscard]] float throughField2(float value);
-
-/// The same for the pattern "0.0E+00": strictSingle(scientific(value, 1)).
-[[nodiscard]] float throughScientificField(float value);
-
-/// What a field stores back that shows 1 or 2 decimals, or the scientific pattern (kScientific).
-[[nodiscard]] inline float throughField(float value, int decimals) {
-    if (decimals == kScientific) {
-        return throughScientificField(value);
-    }
-    return decimals == 1 ? throughField1(value) : throughField2(value);
-}
+/// The Single that a field stores back which shows 1 or 2 decimals: strictSingle(fixed(value, decimals)), or
+/// the pattern "0.0E+00" (kScientific): strictSingle(scientific(value, 1)).
+[[nodiscard]] float throughField(float value, int decimals);
 
 }  // namespace mero::design

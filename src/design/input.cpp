@@ -2,45 +2,19 @@
 /// Looks up inputs in the table.
 #include "design/input.h"
 
-#include "design/input_table.h"
 #include "platform/numbers/number_text.h"
 
 namespace mero::design {
-
-std::span<const InputInfo, kInputCount> inputs() {
-    return table::kInputs;
-}
-
-const InputInfo& info(Input input) {
-    return table::kInputs[index(input)];
-}
 
 std::span<const PanelInput> panelInputs(FacilityType type) {
     return data::withType(type,
                           []<FacilityType of>() -> std::span<const PanelInput> { return table::kPanel<of>; });
 }
 
-bool isOfSubPanel(Input input) {
-    return table::ofSubPanel(input);
-}
-
 std::string openingText(const PanelInput& input) {
     const InputInfo& row = info(input.input);
     const float opening = row.given == nullptr || input.opens_empty ? 0.0F : row.given(Facility());
     return opening == 0.0F ? "" : numbers::general(opening);
-}
-
-std::string_view captionOf(Input input) {
-    std::string_view caption = info(input).caption;
-    if (caption.ends_with(':')) {
-        caption.remove_suffix(1);
-    }
-    return caption;
-}
-
-std::string_view reportLabel(Input input) {
-    const char* reported = info(input).reported;
-    return reported == nullptr ? captionOf(input) : reported;
 }
 
 }  // namespace mero::design

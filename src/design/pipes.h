@@ -6,7 +6,7 @@
 #include "calc/drain.h"
 #include "design/sink.h"
 
-namespace mero::design::pipes {
+namespace mero::design {
 
 /// The storage coefficient of the fill with its pipes. @throws RuntimeError DivisionByZero, Overflow
 template <Sink S>
@@ -20,38 +20,27 @@ void showStorageCoefficient(S& sink) {
                                         numbers.txtPorVyplne, numbers.txtSirkaRyhy, numbers.txtVyskaRyhy));
 }
 
-template <Sink S>
-void keep(S& sink, bool accepted) {
-    if (accepted) {
-        sink.closePipes();
-    } else {
-        sink.untickPipes();
-    }
-}
-
 /// Combined object: without a throttled outflow, or without a storage coefficient, there is no overflow.
 /// @throws RuntimeError DivisionByZero when the trench has no porosity or no section, Overflow
 template <Sink S>
-void confirmOverflow(S& sink) {
+void confirmPipes(OfType<FacilityType::SwaleTrench> /*type*/, S& sink) {
     const data::DesignNumbers& numbers = sink.numbers();
     sink.clearResults();
     sink.show(Quantity::ThrottledOutflow,
               calc::drain::throttledOutflow(numbers.RedukovanaPlocha, numbers.txtSpecDrenOdtok));
-    if (numbers.Q_dr == 0.0F) {
-        sink.untickPipes();
-        return;
+    if (numbers.Q_dr != 0.0F) {
+        showStorageCoefficient(sink);
     }
-    showStorageCoefficient(sink);
-    keep(sink, numbers.s_RR != 0.0F);
+    sink.closePipes(numbers.Q_dr != 0.0F && numbers.s_RR != 0.0F);
 }
 
 /// Trench: pipes without a diameter are no drain, but their storage coefficient stays.
 /// @throws RuntimeError DivisionByZero when the trench has no porosity or no section, Overflow
 template <Sink S>
-void confirmDrain(S& sink) {
+void confirmPipes(OfType<FacilityType::Trench> /*type*/, S& sink) {
     const data::DesignNumbers& numbers = sink.numbers();
     showStorageCoefficient(sink);
-    keep(sink, numbers.txtPrumTroubVnej != 0.0F && numbers.txtPrumTroubVnit != 0.0F);
+    sink.closePipes(numbers.txtPrumTroubVnej != 0.0F && numbers.txtPrumTroubVnit != 0.0F);
 }
 
-}  // namespace mero::design::pipes
+}  // namespace mero::design

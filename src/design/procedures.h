@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// The procedures of all types by their type; data::withType() gives it while the program runs.
+/// The procedures of all types, and what a type does that lacks one; data::withType() gives it while the
+/// program runs.
 #pragma once
 
 #include "design/checks.h"
@@ -15,47 +16,17 @@ namespace mero::design {
 
 /// The first size of the facility, as far as the type has one before its design.
 template <FacilityType type, Sink S>
-void calculateArea(S& sink) {
+void calculateArea(OfType<type> /*type*/, S& sink) {
     if constexpr (type == FacilityType::None) {
         sink.numbers().txtVsakPlocha = 0.0F;
-    } else if constexpr (type == FacilityType::Surface) {
-        surface::calculate(sink);
-    } else if constexpr (type == FacilityType::Swale) {
-        swale::calculate(sink);
-    } else if constexpr (type == FacilityType::SwaleTrench) {
-        swale_trench::calculateArea(sink);
-    } else if constexpr (type == FacilityType::Trench) {
-        trench::calculateArea(sink);
-    } else if constexpr (type == FacilityType::Shaft) {
-        shaft::calculate(sink);
     }
 }
-
 /// Sizes and judges the facility. Surface infiltration is finished by calculateArea().
 template <FacilityType type, Sink S>
-void calculateDesign(S& sink) {
-    if constexpr (type == FacilityType::Swale) {
-        swale::design(sink);
-    } else if constexpr (type == FacilityType::SwaleTrench) {
-        swale_trench::design(sink);
-    } else if constexpr (type == FacilityType::Trench) {
-        trench::design(sink);
-    } else if constexpr (type == FacilityType::Shaft) {
-        shaft::design(sink);
-    } else if constexpr (type == FacilityType::Tank) {
-        tank::design(sink);
-    }
-}
-
+void calculateDesign(OfType<type> /*type*/, S& /*sink*/) {}
 /// The confirmation of the pipes' sub-panel; other types have none.
 template <FacilityType type, Sink S>
-void confirmPipes(S& sink) {
-    if constexpr (type == FacilityType::SwaleTrench) {
-        pipes::confirmOverflow(sink);
-    } else if constexpr (type == FacilityType::Trench) {
-        pipes::confirmDrain(sink);
-    }
-}
+void confirmPipes(OfType<type> /*type*/, S& /*sink*/) {}
 
 /// Empties the boxes of a type that was chosen, before it is calculated anew.
 template <FacilityType type, Sink S>

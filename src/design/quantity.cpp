@@ -2,24 +2,9 @@
 /// Looks up results in the table, and writes their numbers as the boxes do.
 #include "design/quantity.h"
 
-#include <algorithm>
-
-#include "design/quantity_table.h"
 #include "platform/numbers/number_text.h"
 
 namespace mero::design {
-
-std::span<const QuantityInfo, kQuantityCount> quantities() {
-    return table::kQuantities;
-}
-
-const QuantityInfo& info(Quantity quantity) {
-    return table::kQuantities[index(quantity)];
-}
-
-std::span<const ResultBox> resultBoxes(FacilityType type) {
-    return table::boxesOf(type);
-}
 
 const ResultBox* resultBox(Quantity quantity, FacilityType type) {
     const auto boxes = resultBoxes(type);
@@ -34,10 +19,6 @@ std::string controlName(std::string_view box, FacilityType type) {
         name.replace(at, 1, numbers::general(static_cast<int>(type)));
     }
     return name;
-}
-
-bool belongsTo(Quantity quantity, FacilityType type) {
-    return (table::kResultsOfTypes[data::index(type)] & table::bit(quantity)) != 0;
 }
 
 const char* captionOf(Quantity quantity, FacilityType type) {
@@ -57,6 +38,7 @@ const char* reportLabel(Quantity quantity, FacilityType type) {
 std::string boxText(Quantity quantity, FacilityType type, float value) {
     switch (const int decimals = table::kDecimals[data::index(type)][index(quantity)]) {
         case kGeneral:
+        case kNoResult:
             return numbers::general(value);
         case kScientific:
             return numbers::scientific(value, 1);

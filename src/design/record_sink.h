@@ -25,7 +25,7 @@ class RecordSink {
     [[nodiscard]] bool pipesTicked() const { return result_->pipes; }
 
     float show(Quantity quantity, float value) {
-        const QuantityInfo& row = table::kQuantities[index(quantity)];
+        const QuantityInfo& row = info(quantity);
         float& stored = result_->numbers.*row.stored;
         if (!row.stores_back) {
             stored = value;
@@ -37,13 +37,13 @@ class RecordSink {
         return stored;
     }
     void clear(Quantity quantity) {
-        const QuantityInfo& row = table::kQuantities[index(quantity)];
+        const QuantityInfo& row = info(quantity);
         result_->clear(quantity);
         if (row.stores_back) {
             result_->numbers.*row.stored = 0.0F;
         }
     }
-    void tell(VerdictId id) { result_->verdicts.add(table::verdict(id, result_->numbers)); }
+    void tell(VerdictId id) { result_->verdicts.add(verdict(id, result_->numbers)); }
     void tellTogether(std::span<const VerdictId> ids) {
         for (const VerdictId id : ids) {
             tell(id);
@@ -55,13 +55,14 @@ class RecordSink {
         clearBoxes<type>(*this);
         if constexpr (type == FacilityType::Surface || type == FacilityType::Swale ||
                       type == FacilityType::SwaleTrench) {
-            calculateArea<type>(*this);
+            calculateArea(OfType<type>(), *this);
         }
     }
-    void closePipes() {}
-    void untickPipes() {
-        result_->pipes = false;
-        clearResults();
+    void closePipes(bool kept) {
+        if (!kept) {
+            result_->pipes = false;
+            clearResults();
+        }
     }
     void abandonType() { result_->type_chosen = false; }
     void complete() { result_->completed = true; }

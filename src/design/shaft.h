@@ -6,12 +6,12 @@
 #include "design/sink.h"
 #include "platform/numbers/checked.h"
 
-namespace mero::design::shaft {
+namespace mero::design {
 
 /// Water level, infiltration area, depth of the shaft and of the groundwater that it needs.
 /// @throws RuntimeError DivisionByZero when the shaft has no section, Overflow
 template <Sink S>
-void calculate(S& sink) {
+void calculateArea(OfType<FacilityType::Shaft> /*type*/, S& sink) {
     data::DesignNumbers& numbers = sink.numbers();
     const auto rains = sink.rains();
     const calc::shaft::Balance balance = shaftBalance(numbers);
@@ -28,10 +28,10 @@ void calculate(S& sink) {
               calc::shaft::requiredEmbedding(numbers.txtNezamrzHlPritok, level_m, numbers.txtMinPrusakDraha));
 }
 
-/// Volume and filter, after calculate(). A groundwater check that fails ends it.
+/// Volume and filter, after calculateArea(). A groundwater check that fails ends it.
 /// @throws RuntimeError DivisionByZero when the shaft has no inner diameter, Overflow
 template <Sink S>
-void design(S& sink) {
+void calculateDesign(OfType<FacilityType::Shaft> /*type*/, S& sink) {
     data::DesignNumbers& numbers = sink.numbers();
     const calc::shaft::Balance balance = shaftBalance(numbers);
     sink.show(Quantity::StorageVolume,
@@ -52,15 +52,10 @@ void design(S& sink) {
         sink.tell(VerdictId::ShaftBottomTooClose);
         return;
     }
-    switch (calc::shaft::judgeFilter(permeability_m_s)) {
-        case calc::shaft::FilterVerdict::Sufficient:
-            sink.tell(VerdictId::ShaftFilterSufficient);
-            break;
-        case calc::shaft::FilterVerdict::TooPermeable:
-            sink.tell(VerdictId::ShaftFilterTooPermeable);
-            break;
-    }
+    const bool sufficient =
+        calc::shaft::judgeFilter(permeability_m_s) == calc::shaft::FilterVerdict::Sufficient;
+    sink.tell(sufficient ? VerdictId::ShaftFilterSufficient : VerdictId::ShaftFilterTooPermeable);
     sink.complete();
 }
 
-}  // namespace mero::design::shaft
+}  // namespace mero::design

@@ -5,12 +5,17 @@
 #pragma once
 
 #include <concepts>
+#include <type_traits>
 
 #include "calc/critical_rain.h"
 #include "design/quantity.h"
 #include "design/verdict.h"
 
 namespace mero::design {
+
+/// Names the type whose procedure is meant: `calculateDesign(OfType<FacilityType::Tank>(), sink)`.
+template <FacilityType type>
+using OfType = std::integral_constant<FacilityType, type>;
 
 template <typename T>
 concept Sink = requires(T sink, const T asked, Quantity quantity, float value, VerdictId id,
@@ -35,9 +40,8 @@ concept Sink = requires(T sink, const T asked, Quantity quantity, float value, V
 
     /// Clears the results of the chosen type as choosing it does.
     sink.clearResults();
-    /// The sub-panel of the pipes is confirmed, or its check box unticked, which clears the results.
-    sink.closePipes();
-    sink.untickPipes();
+    /// The sub-panel of the pipes is confirmed; or its check box is unticked, which clears the results.
+    sink.closePipes(bool());
     /// Without a design rain no type stays chosen.
     sink.abandonType();
     /// The design came to its end.

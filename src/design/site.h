@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "calc/rain.h"
+#include "platform/numbers/checked.h"
 
 namespace mero::design {
 
@@ -27,7 +28,18 @@ struct Site {
     float groundwater_depth_m = 0.0F;
 };
 
-/// Judges the intensities as the rain dialog does when it is confirmed.
-[[nodiscard]] RainConfirmation confirmRain(calc::RainTable rains);
+/// Judges the intensities as the rain dialog does when it is confirmed. Its running total is a 16-bit
+/// Integer, so intensities below 0.5 never add up.
+[[nodiscard]] inline RainConfirmation confirmRain(calc::RainTable rains) {
+    std::int16_t sum = 0;
+    try {
+        for (const calc::Rain& rain : rains) {
+            sum = numbers::toInteger(static_cast<double>(sum) + static_cast<double>(rain.intensity_l_s_ha));
+        }
+    } catch (const RuntimeError&) {
+        return RainConfirmation::Overflow;
+    }
+    return sum == 0 ? RainConfirmation::NoIntensities : RainConfirmation::Accepted;
+}
 
 }  // namespace mero::design

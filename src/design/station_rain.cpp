@@ -4,27 +4,23 @@
 #include "design/station_rain.h"
 
 #include <optional>
+#include <string_view>
 
 #include "platform/numbers/checked.h"
 
 namespace mero::design {
-namespace {
 
-/// Reads fields of a table and remembers why the last one that failed did. A success does not clear that,
-/// nor does the next row.
-class FieldReader {
-  public:
-    explicit FieldReader(const data::StationTable& table) : table_(&table) {}
+using data::kIntensityFields;
+static_assert(kIntensityFields.size() == data::kPeriodicityCount);
 
-    /// Stores the field's number as Single or Integer; the slot keeps its value when there is none.
-    template <typename T>
-    void store(std::size_t row, std::string_view field, T& slot, T (*convert)(double)) {
-        const auto column = data::columnIndex(*table_, field);
-        if (!column) {
-            field_missing_ = true;
-            return;
-        }
-        const std::optional<double> value = table_->rows[row][*column];
+void readStation(const data::StationTable& table, StationIntensities& intensities_l_s_ha,
+                 StationDurations& durations_min) {
+    // Why the last field without a number had none; a success does not clear that, nor does the next row.
+    bool field_missing = false;
+    const auto store = [&]<typename T>(std::size_t row, std::string_view field, T& slot,
+                                       T (*convert)(double)) {
+        const auto column = data::columnIndex(table, field);
+        const std::optional<double> value = column ? table.rows[row][*column] : std::nullopt;
         try {
             if (value) {
                 slot = convert(*value);
@@ -33,28 +29,15 @@ class FieldReader {
         } catch (const RuntimeError&) {
             // Too large: treated as a bad value.
         }
-        field_missing_ = false;
-    }
-
-    [[nodiscard]] bool lastFailureWasMissingField() const { return field_missing_; }
-
-  private:
-    const data::StationTable* table_;
-    bool field_missing_ = false;
-};
-
-}  // namespace
-
-void readStation(const data::StationTable& table, StationIntensities& intensities_l_s_ha,
-                 StationDurations& durations_min) {
-    FieldReader reader(table);
+        field_missing = !column;
+    };
     for (std::size_t row = 0; row < table.rows.size() && row < calc::kRainRows; ++row) {
-        reader.store(row, "doba", durations_min[row], numbers::toInteger);
-        for (std::size_t k = 0; k < data::kIntensityFields.size(); ++k) {
-            reader.store(row, data::kIntensityFields[k], intensities_l_s_ha[k][row], numbers::toSingle);
+        store(row, "doba", durations_min[row], numbers::toInteger);
+        for (std::size_t k = 0; k < kIntensityFields.size(); ++k) {
+            store(row, kIntensityFields[k], intensities_l_s_ha[k][row], numbers::toSingle);
         }
-        if (reader.lastFailureWasMissingField()) {
-            reader.store(row, data::kSubstituteField, intensities_l_s_ha.back()[row], numbers::toSingle);
+        if (field_missing) {
+            store(row, data::kSubstituteOfLastField, intensities_l_s_ha.back()[row], numbers::toSingle);
         }
     }
 }

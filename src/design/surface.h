@@ -5,12 +5,12 @@
 #include "calc/surface_infiltration.h"
 #include "design/sink.h"
 
-namespace mero::design::surface {
+namespace mero::design {
 
 /// The required area. Without a design rain the area is 0 and no type stays chosen.
 /// @throws RuntimeError DivisionByZero when the soil takes exactly what the rain brings, Overflow
 template <Sink S>
-void calculate(S& sink) {
+void calculateArea(OfType<FacilityType::Surface> /*type*/, S& sink) {
     data::DesignNumbers& numbers = sink.numbers();
     if (numbers.VybranaIntenzita <= 0.0F) {
         sink.tell(VerdictId::DesignRainMissing);
@@ -24,4 +24,4 @@ void calculate(S& sink) {
     sink.complete();
 }
 
-}  // namespace mero::design::surface
+}  // namespace mero::design

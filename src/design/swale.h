@@ -6,7 +6,7 @@
 #include "design/sink.h"
 #include "platform/numbers/checked.h"
 
-namespace mero::design::swale {
+namespace mero::design {
 
 /// Stores the infiltration area [m2] that the soil suggests; a combined object starts with the same.
 /// @return false without a drained area: then nothing changes. @throws RuntimeError Overflow
@@ -24,7 +24,7 @@ template <Sink S>
 /// Storage volume, ponding depth, emptying time.
 /// @throws RuntimeError DivisionByZero when there is no infiltration area, Overflow
 template <Sink S>
-void design(S& sink) {
+void calculateDesign(OfType<FacilityType::Swale> /*type*/, S& sink) {
     data::DesignNumbers& numbers = sink.numbers();
     const auto rains = sink.rains();
     const calc::CriticalRain volume =
@@ -41,13 +41,13 @@ void design(S& sink) {
 
 /// The starting area, then the design. Without a drained area nothing changes.
 template <Sink S>
-void calculate(S& sink) {
+void calculateArea(OfType<FacilityType::Swale> type, S& sink) {
     if (!storeStartingArea(sink)) {
         return;
     }
     sink.clear(Quantity::StorageVolume);
     sink.show(Quantity::InfiltrationArea, sink.numbers().txtVsakPlocha);
-    design(sink);
+    calculateDesign(type, sink);
 }
 
-}  // namespace mero::design::swale
+}  // namespace mero::design

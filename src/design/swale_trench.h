@@ -8,12 +8,12 @@
 #include "design/swale.h"
 #include "platform/numbers/checked.h"
 
-namespace mero::design::swale_trench {
+namespace mero::design {
 
 /// The starting area; the other results are cleared. Without a drained area nothing changes.
 template <Sink S>
-void calculateArea(S& sink) {
-    if (!swale::storeStartingArea(sink)) {
+void calculateArea(OfType<FacilityType::SwaleTrench> /*type*/, S& sink) {
+    if (!storeStartingArea(sink)) {
         return;
     }
     sink.clear(Quantity::StorageVolume);
@@ -24,26 +24,10 @@ void calculateArea(S& sink) {
     sink.show(Quantity::InfiltrationArea, sink.numbers().txtVsakPlocha);
 }
 
-/// Does the trench fit into the area of the swale?
-template <Sink S>
-void judgeArea(S& sink) {
-    const data::DesignNumbers& numbers = sink.numbers();
-    const double designed_m2 =
-        calc::swale_trench::designedArea(numbers.txtDelkaRyhy, numbers.txtSirkaPrulehu);
-    switch (calc::swale_trench::judgeArea(designed_m2, numbers.txtVsakPlocha)) {
-        case calc::swale_trench::AreaVerdict::Sufficient:
-            sink.tell(VerdictId::SwaleTrenchAreaSufficient);
-            break;
-        case calc::swale_trench::AreaVerdict::Insufficient:
-            sink.tell(VerdictId::SwaleTrenchAreaInsufficient);
-            break;
-    }
-}
-
 /// The swale's volume first, then the trench that takes what the swale does not hold.
 /// @throws RuntimeError DivisionByZero when the trench takes nothing or has no width, Overflow
 template <Sink S>
-void design(S& sink) {
+void calculateDesign(OfType<FacilityType::SwaleTrench> /*type*/, S& sink) {
     data::DesignNumbers& numbers = sink.numbers();
     const auto rains = sink.rains();
     if (!sink.pipesTicked()) {
@@ -70,11 +54,15 @@ void design(S& sink) {
                   calc::swale_trench::swaleDepth(numbers.txtObjAkum, numbers.txtDelkaRyhy,
                                                  numbers.txtSirkaPrulehu));
         sink.show(Quantity::SwaleWidth, numbers.txtSirkaPrulehu);
-        judgeArea(sink);
+        const double designed_m2 =
+            calc::swale_trench::designedArea(numbers.txtDelkaRyhy, numbers.txtSirkaPrulehu);
+        const bool fits = calc::swale_trench::judgeArea(designed_m2, numbers.txtVsakPlocha) ==
+                          calc::swale_trench::AreaVerdict::Sufficient;
+        sink.tell(fits ? VerdictId::SwaleTrenchAreaSufficient : VerdictId::SwaleTrenchAreaInsufficient);
     }
     sink.show(Quantity::EmptyingTime,
               calc::swale::emptyingTimeHours(numbers.txtHloubkaPrulehu, numbers.txtSoucFiltrPruleh));
     sink.complete();
 }
 
-}  // namespace mero::design::swale_trench
+}  // namespace mero::design

@@ -7,29 +7,12 @@
 #include "design/sink.h"
 #include "platform/numbers/checked.h"
 
-namespace mero::design::tank {
-
-/// Is the assumed infiltration flow reached?
-template <Sink S>
-void judgeInfiltration(S& sink, const calc::tank::Shape& shape) {
-    const data::DesignNumbers& numbers = sink.numbers();
-    const double filtration_m_s =
-        calc::tank::effectiveFiltration(numbers.txtSoucFiltrace, sink.upstreamSettling());
-    const double mean_flow_m3_s = calc::tank::meanInfiltrationFlow(shape, filtration_m_s);
-    switch (calc::tank::judgeInfiltration(mean_flow_m3_s, numbers.txtVsakTok)) {
-        case calc::tank::InfiltrationVerdict::Proven:
-            sink.tell(VerdictId::TankInfiltrationProven);
-            break;
-        case calc::tank::InfiltrationVerdict::Exceeded:
-            sink.tell(VerdictId::TankInfiltrationExceeded);
-            break;
-    }
-}
+namespace mero::design {
 
 /// The boxes are written when all numbers are known. A tank that is too small ends the design.
 /// @throws RuntimeError InvalidCall when the sides cut each other below the bottom, Overflow
 template <Sink S>
-void design(S& sink) {
+void calculateDesign(OfType<FacilityType::Tank> /*type*/, S& sink) {
     data::DesignNumbers& numbers = sink.numbers();
     const auto rains = sink.rains();
     numbers.txtVsakTok = calc::tank::infiltrationFlow(numbers.txtSpecMeroIntenz, numbers.RedukovanaPlocha);
@@ -58,8 +41,12 @@ void design(S& sink) {
         return;
     }
     sink.tell(VerdictId::TankVolumeSufficient);
-    judgeInfiltration(sink, shape);
+    const double mean_flow_m3_s = calc::tank::meanInfiltrationFlow(
+        shape, calc::tank::effectiveFiltration(numbers.txtSoucFiltrace, sink.upstreamSettling()));
+    const bool proven = calc::tank::judgeInfiltration(mean_flow_m3_s, numbers.txtVsakTok) ==
+                        calc::tank::InfiltrationVerdict::Proven;
+    sink.tell(proven ? VerdictId::TankInfiltrationProven : VerdictId::TankInfiltrationExceeded);
     sink.complete();
 }
 
-}  // namespace mero::design::tank
+}  // namespace mero::design

@@ -7,34 +7,20 @@
 #include "design/sink.h"
 #include "platform/numbers/checked.h"
 
-namespace mero::design::trench {
+namespace mero::design {
 
 /// The infiltration area of a trench as long as is stored. @throws RuntimeError Overflow
 template <Sink S>
-void calculateArea(S& sink) {
+void calculateArea(OfType<FacilityType::Trench> /*type*/, S& sink) {
     const data::DesignNumbers& numbers = sink.numbers();
     sink.show(
         Quantity::InfiltrationArea,
         calc::trench::infiltrationArea(numbers.txtVyskaRyhy, numbers.txtSirkaRyhy, numbers.txtDelkaRyhy));
 }
 
-/// Does the drain let out what flows in?
-template <Sink S>
-void judgeDrainOutflow(S& sink) {
-    const data::DesignNumbers& numbers = sink.numbers();
-    switch (calc::trench::judgeOutflow(numbers.drain_outflow_l_s, numbers.drain_inflow_l_s)) {
-        case calc::trench::OutflowVerdict::NotMet:
-            sink.tell(VerdictId::DrainOutflowNotMet);
-            break;
-        case calc::trench::OutflowVerdict::Met:
-            sink.tell(VerdictId::DrainOutflowMet);
-            break;
-    }
-}
-
 /// @throws RuntimeError DivisionByZero when a metre of trench takes nothing, Overflow
 template <Sink S>
-void design(S& sink) {
+void calculateDesign(OfType<FacilityType::Trench> type, S& sink) {
     data::DesignNumbers& numbers = sink.numbers();
     const auto rains = sink.rains();
     sink.show(Quantity::StorageCoefficient, sink.pipesTicked() ? numbers.s_RR : numbers.txtPorVyplne);
@@ -51,11 +37,13 @@ void design(S& sink) {
                                                                   .pipe_count = numbers.txtPocetPotrubi,
                                                                   .velocity_m_s = numbers.txtVystupRychlost},
                                                                  numbers.txtDelkaRyhy));
-    calculateArea(sink);
+    calculateArea(type, sink);
     if (sink.pipesTicked()) {
-        judgeDrainOutflow(sink);
+        const bool met = calc::trench::judgeOutflow(numbers.drain_outflow_l_s, numbers.drain_inflow_l_s) ==
+                         calc::trench::OutflowVerdict::Met;
+        sink.tell(met ? VerdictId::DrainOutflowMet : VerdictId::DrainOutflowNotMet);
     }
     sink.complete();
 }
 
-}  // namespace mero::design::trench
+}  // namespace mero::design

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "calc/swale_trench.h"
-#include "design/verdict_table.h"
 #include "platform/numbers/number_text.h"
 
 namespace mero::design {
@@ -32,15 +31,16 @@ std::pair<std::string, std::string> comparedNumbers(const Verdict& verdict) {
     return {numbers::fixed(first, kDecimals), numbers::fixed(second, kDecimals)};
 }
 
+struct ErrorRow {
+    VerdictId id;
+    ErrorNumber number;
+};
+constexpr std::array<ErrorRow, 4> kErrors{{{VerdictId::ErrorInvalidCall, ErrorNumber::InvalidCall},
+                                           {VerdictId::ErrorOverflow, ErrorNumber::Overflow},
+                                           {VerdictId::ErrorSubscript, ErrorNumber::SubscriptOutOfRange},
+                                           {VerdictId::ErrorDivisionByZero, ErrorNumber::DivisionByZero}}};
+
 }  // namespace
-
-std::span<const VerdictInfo, kVerdictCount> verdicts() {
-    return table::kVerdicts;
-}
-
-const VerdictInfo& info(VerdictId id) {
-    return table::kVerdicts[index(id)];
-}
 
 std::span<const Subject> subjects(VerdictId id) {
     const auto& about = info(id).about;
@@ -60,27 +60,14 @@ std::string text(const Verdict& verdict) {
 }
 
 ErrorNumber errorNumber(VerdictId id) {
-    switch (id) {
-        case VerdictId::ErrorOverflow:
-            return ErrorNumber::Overflow;
-        case VerdictId::ErrorSubscript:
-            return ErrorNumber::SubscriptOutOfRange;
-        case VerdictId::ErrorDivisionByZero:
-            return ErrorNumber::DivisionByZero;
-        default:
-            return ErrorNumber::InvalidCall;
-    }
+    const auto* found = std::ranges::find(kErrors, id, &ErrorRow::id);
+    return found == kErrors.end() ? ErrorNumber::InvalidCall : found->number;
 }
 
 VerdictId verdictOf(const RuntimeError& error) {
-    if (error.is(ErrorNumber::Overflow)) {
-        return VerdictId::ErrorOverflow;
-    }
-    if (error.is(ErrorNumber::DivisionByZero)) {
-        return VerdictId::ErrorDivisionByZero;
-    }
-    return error.is(ErrorNumber::SubscriptOutOfRange) ? VerdictId::ErrorSubscript
-                                                      : VerdictId::ErrorInvalidCall;
+    const auto* found =
+        std::ranges::find_if(kErrors, [&](const ErrorRow& row) { return error.is(row.number); });
+    return found == kErrors.end() ? VerdictId::ErrorInvalidCall : found->id;
 }
 
 }  // namespace mero::design

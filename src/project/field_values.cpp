@@ -8,8 +8,8 @@
 #include "data/mod_public_variables.h"
 #include "platform/numbers/number_text.h"
 #include "platform/numbers/runtime_error.h"
+#include "project/project.h"
 #include "project/read_project.h"
-#include "project/reference.h"
 #include "project/shown_text.h"
 
 namespace mero::project {
@@ -23,11 +23,11 @@ std::string joined(std::span<const std::string> words) {
     return text;
 }
 
-float withinLimits(float number) {
-    if (!(std::fabs(number) <= static_cast<float>(kLargestNumber))) {
+/// @throws std::invalid_argument
+void checkLimits(double number) {
+    if (!(std::fabs(number) <= kLargestNumber)) {
         throw std::invalid_argument("expected a number from -1e12 to 1e12");
     }
-    return number;
 }
 
 [[noreturn]] void refuse(const std::string& expectation, std::string_view text,
@@ -48,7 +48,8 @@ float numberOf(const std::string& expectation, std::string_view text) {
     } catch (const RuntimeError&) {
         refuse(expectation, text);
     }
-    return withinLimits(number);
+    checkLimits(number);
+    return number;
 }
 
 std::string expectedNumber(std::string_view unit) {
@@ -103,9 +104,7 @@ float numberValue(std::string_view unit, std::string_view text) {
 }
 
 float singleOf(double number) {
-    if (!(std::fabs(number) <= kLargestNumber)) {
-        throw std::invalid_argument("expected a number from -1e12 to 1e12");
-    }
+    checkLimits(number);
     // Through its text, so that it is rounded once, as a typed number is; -0 becomes 0.
     return numbers::strictSingle(numbers::general(number));
 }

@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
+#include <numeric>
+#include <utility>
 
 #include "design/shaft_catalogue.h"
 
@@ -33,30 +36,16 @@ constexpr auto kOtherPaths = std::to_array<std::string_view>({
 
 /// The last name of a path when it lies right in that object, else nothing.
 std::string_view nameIn(std::string_view object_path, std::string_view path) {
-    if (!object_path.empty()) {
-        if (!path.starts_with(object_path) || path.size() <= object_path.size() ||
-            path[object_path.size()] != '.') {
-            return {};
-        }
-        path.remove_prefix(object_path.size() + 1);
-    }
-    return path.find('.') == std::string_view::npos ? path : std::string_view();
-}
-
-std::vector<std::string> ringDesignations() {
-    std::vector<std::string> names;
-    for (const design::CatalogueShaft& shaft : design::shaftCatalogue()) {
-        names.push_back(shaft.designation);
-    }
-    return names;
+    const std::size_t dot = path.rfind('.');
+    const bool nested = dot != std::string_view::npos;
+    return path.substr(0, nested ? dot : 0) == object_path ? path.substr(nested ? dot + 1 : 0)
+                                                           : std::string_view();
 }
 
 /// Number of single-character changes that turn one word into the other.
 std::size_t editDistance(std::string_view from, std::string_view to) {
     std::vector<std::size_t> row(to.size() + 1);
-    for (std::size_t j = 0; j < row.size(); ++j) {
-        row[j] = j;
-    }
+    std::iota(row.begin(), row.end(), std::size_t{0});
     for (std::size_t i = 1; i <= from.size(); ++i) {
         std::size_t diagonal = row[0];
         row[0] = i;
@@ -109,42 +98,24 @@ std::span<const std::string> choices(const Field& field) {
                 of_field.emplace_back(choice.word);
             }
         }
-        words[index(Input::CatalogueShaft)] = ringDesignations();
+        for (const design::CatalogueShaft& shaft : design::shaftCatalogue()) {
+            words[index(Input::CatalogueShaft)].push_back(shaft.designation);
+        }
         return words;
     }();
     return kWords[index(field.input)];
 }
 
-bool isReplacedByRing(const Field& field) {
-    switch (field.need) {
-        case Need::WithoutRing:
-        case Need::RoundWithoutRing:
-        case Need::RectangularWithoutRing:
-            return true;
-        case Need::Optional:
-        case Need::Always:
-        case Need::WithSandLayer:
-            break;
-    }
-    return false;
-}
-
 std::vector<std::string> namesIn(std::string_view object_path) {
+    std::vector<std::string_view> paths(kOtherPaths.begin(), kOtherPaths.end());
+    std::ranges::transform(design::textInputs(), std::back_inserter(paths), &design::TextInputInfo::path);
+    std::ranges::transform(design::inputs(), std::back_inserter(paths), &Field::path);
     std::vector<std::string> names;
-    const auto add = [&](std::string_view path) {
+    for (const std::string_view path : paths) {
         const std::string_view name = nameIn(object_path, path);
         if (!name.empty()) {
             names.emplace_back(name);
         }
-    };
-    for (const std::string_view path : kOtherPaths) {
-        add(path);
-    }
-    for (const design::TextInputInfo& field : design::textInputs()) {
-        add(field.path);
-    }
-    for (const Field& field : design::inputs()) {
-        add(field.path);
     }
     return names;
 }
@@ -173,30 +144,16 @@ std::string nearestName(std::string_view name, std::span<const std::string> name
 std::string missingValue(const design::Facility& facility, std::span<const std::string> given) {
     const bool ring = facility.catalogue_row >= 0;
     const bool round = facility.shape == design::ShaftShape::Round;
-    const auto needed = [&](Need need) {
-        switch (need) {
-            case Need::Optional:
-                return false;
-            case Need::Always:
-                return true;
-            case Need::WithSandLayer:
-                return facility.sand_layer;
-            case Need::WithoutRing:
-                return !ring;
-            case Need::RoundWithoutRing:
-                return !ring && round;
-            case Need::RectangularWithoutRing:
-                return !ring && !round;
-        }
-        return false;
-    };
+    const std::array<std::pair<Need, bool>, 5> needs{{{Need::Always, true},
+                                                      {Need::WithSandLayer, facility.sand_layer},
+                                                      {Need::WithoutRing, !ring},
+                                                      {Need::RoundWithoutRing, !ring && round},
+                                                      {Need::RectangularWithoutRing, !ring && !round}}};
     const auto panel = design::panelInputs(facility.type);
-    for (const Need need : {Need::Always, Need::WithSandLayer, Need::WithoutRing, Need::RoundWithoutRing,
-                            Need::RectangularWithoutRing}) {
+    for (const auto& [need, holds] : needs) {
         for (const Field& field : design::inputs()) {
-            const bool on_panel =
-                std::ranges::find(panel, field.input, &design::PanelInput::input) != panel.end();
-            if (on_panel && field.need == need && needed(need) &&
+            if (holds && field.need == need &&
+                std::ranges::find(panel, field.input, &design::PanelInput::input) != panel.end() &&
                 std::ranges::find(given, std::string_view(field.path)) == given.end()) {
                 return field.path;
             }

@@ -25,7 +25,9 @@ void store(const Field& field, Inputs& inputs, float value);
 [[nodiscard]] std::span<const std::string> choices(const Field& field);
 
 /// Does a shaft of the catalogue take its place?
-[[nodiscard]] bool isReplacedByRing(const Field& field);
+[[nodiscard]] constexpr bool isReplacedByRing(const Field& field) {
+    return field.need >= design::Need::WithoutRing;
+}
 
 /// Names that may stand in the object at that path ("" for the document), for checks and suggestions.
 [[nodiscard]] std::vector<std::string> namesIn(std::string_view object_path);

@@ -3,11 +3,19 @@
 /// The limits of a project file's numbers keep the reduced area within a Single.
 #include "project/prepare_site.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "calc/drained_area.h"
 
 namespace mero::project {
+
+void RainStore::load(int station, data::RainDatabase& database, const std::string& folder) {
+    auto& slot = stations_[static_cast<std::size_t>(station)];
+    if (!slot) {
+        slot = design::stationRain(database.read(reference().StaniceCislo(station), folder + "/mero.mdb"));
+    }
+}
 
 design::Site prepareSite(const Inputs& inputs, const RainStore& store) {
     design::Site site;
@@ -24,12 +32,9 @@ design::Site prepareSite(const Inputs& inputs, const RainStore& store) {
     for (std::size_t k = 0; k < site.rains.size(); ++k) {
         site.rains[k] = {.duration_min = rain.durations_min[k], .intensity_l_s_ha = intensities[k]};
     }
-    if (rain.picks_row) {
-        for (std::size_t k = 0; k < site.rains.size() && site.picked_row < 0; ++k) {
-            if (site.rains[k].duration_min == rain.design_duration_min) {
-                site.picked_row = static_cast<int>(k);
-            }
-        }
+    const auto picked = std::ranges::find(rain.durations_min, rain.design_duration_min);
+    if (rain.picks_row && picked != rain.durations_min.end()) {
+        site.picked_row = static_cast<int>(picked - rain.durations_min.begin());
     }
     site.rain_confirmation = design::confirmRain(site.rains);
     site.filtration_m_s = inputs.filtration_m_s;

@@ -45,6 +45,10 @@ struct Texts : data::ProjectTexts {
     std::vector<std::string> surfaces;  ///< one for each partial area
 };
 
+/// The tables that projects are read against: stations, periodicities, durations. Filled once; nobody changes
+/// them, so all threads read them.
+[[nodiscard]] const data::ReferenceTables& reference();
+
 struct Project {
     Texts texts;
     Inputs inputs;

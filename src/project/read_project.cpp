@@ -13,7 +13,7 @@
 
 #include "platform/controls/text_box.h"
 #include "platform/numbers/number_text.h"
-#include "project/reference.h"
+#include "project/project.h"
 #include "project/shown_text.h"
 
 namespace mero::project {
@@ -186,7 +186,9 @@ class Reader {
             readRow(value, path, project_.inputs.rain.intensities_l_s_ha);
         } else if (path == "$schema") {
             static_cast<void>(textOf(value, path, false));
-        } else if (const design::TextInputInfo* text = findText(path)) {
+        } else if (const auto text =
+                       std::ranges::find(design::textInputs(), path, &design::TextInputInfo::path);
+                   text != design::textInputs().end()) {
             project_.texts.*(text->stored) = textOf(value, path, text->several_lines);
         } else {
             readObject(value, path);
@@ -194,15 +196,6 @@ class Reader {
             project_.inputs.facility.drain.given |= path == "facility.drain";
         }
         project_.given.push_back(path);
-    }
-
-    static const design::TextInputInfo* findText(const std::string& path) {
-        for (const design::TextInputInfo& field : design::textInputs()) {
-            if (path == field.path) {
-                return &field;
-            }
-        }
-        return nullptr;
     }
 
     void readField(const Field& field, const json& value) {

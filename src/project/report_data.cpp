@@ -7,7 +7,7 @@
 #include "design/input.h"
 #include "design/shaft_catalogue.h"
 #include "platform/numbers/number_text.h"
-#include "project/reference.h"
+#include "project/project.h"
 
 namespace mero::project {
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "project/rain_store.h"
+#include "project/prepare_site.h"
 #include "sweep/variants.h"
 
 namespace mero::sweep {

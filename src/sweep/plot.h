@@ -7,7 +7,7 @@
 #include <string>
 
 #include "picture/line_chart.h"
-#include "project/rain_store.h"
+#include "project/prepare_site.h"
 #include "sweep/variants.h"
 
 namespace mero::sweep {

@@ -8,8 +8,8 @@
 
 #include "design/design_result.h"
 #include "design/site.h"
+#include "project/prepare_site.h"
 #include "project/project.h"
-#include "project/rain_store.h"
 #include "sweep/variation.h"
 
 namespace mero::sweep {

@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "platform/numbers/number_text.h"
+#include "project/project.h"
 #include "project/read_project.h"
-#include "project/reference.h"
 #include "sweep/value_lists.h"
 
 namespace mero::sweep {

@@ -110,11 +110,16 @@ struct EnteredWindow::Parts {
         enter(form.txtPrumTroubVnej[type], pipes.txtPrumTroubVnej);
         enter(form.txtPrumTroubVnit[type], pipes.txtPrumTroubVnit);
     }
-    void enterTrench(const Facility& facility, int type) {
-        forms::frmCalc& form = window();
-        enter(form.txtPorVyplne[type], facility.txtPorVyplne);
-        enter(form.txtSirkaRyhy[type], facility.txtSirkaRyhy);
-        enter(form.txtVyskaRyhy[type], facility.txtVyskaRyhy);
+    /// The plain numbers of the panel, by the table, except the safety factor.
+    void enterNumbers(const Facility& facility) {
+        for (const PanelInput& row : panelInputs(facility.type)) {
+            const InputInfo& input = info(row.input);
+            if (input.stored != nullptr && !isOfSubPanel(row.input) && row.input != Input::SafetyFactor) {
+                platform::TextBox& box = window().textBox(controlName(input.box, facility.type));
+                enter(box, input.given(facility));
+                leave(box);
+            }
+        }
     }
     void enterShaft(const Facility& facility);
     void enterTank(const Facility& facility);
@@ -216,11 +221,7 @@ void EnteredWindow::Parts::enterShaft(const Facility& facility) {
 
 void EnteredWindow::Parts::enterTank(const Facility& facility) {
     forms::frmCalc& form = window();
-    enter(form.txtSpecMeroIntenz, facility.txtSpecMeroIntenz);
-    enter(form.txtDelkaDnaNadrz, facility.txtDelkaDnaNadrz);
-    enter(form.txtSirkaDnaNadrz, facility.txtSirkaDnaNadrz);
-    enter(form.txtHloubkaNadrz, facility.txtHloubkaNadrz);
-    enter(form.txtSklonSvahuNadrz, facility.txtSklonSvahuNadrz);
+    enterNumbers(facility);
     if (facility.upstream_settling) {
         click(form.chkPredUsaz);
     }
@@ -234,21 +235,21 @@ void EnteredWindow::Parts::enterFacility(const Facility& facility) {
         case FacilityType::None:
             break;
         case FacilityType::Surface:
+            enterNumbers(facility);
             enterSafetyFactor(facility);
             break;
         case FacilityType::Swale:
             if (facility.soil_option == 1) {
                 click(form.optSelTypPudy2[1]);
             }
+            enterNumbers(facility);
             enterSafetyFactor(facility);
             break;
         case FacilityType::SwaleTrench:
             if (facility.soil_option == 1) {
                 click(form.optSelTypPudy3[1]);
             }
-            enter(form.txtSoucFiltrPruleh[3], facility.txtSoucFiltrPruleh);
-            leave(form.txtSoucFiltrPruleh[3]);
-            enterTrench(facility, 3);
+            enterNumbers(facility);
             enterSafetyFactor(facility);
             if (facility.overflow.given) {
                 enterPipes(facility.overflow, 3);
@@ -258,7 +259,7 @@ void EnteredWindow::Parts::enterFacility(const Facility& facility) {
             click(form.cmdCalcul[3]);
             break;
         case FacilityType::Trench:
-            enterTrench(facility, 4);
+            enterNumbers(facility);
             enterSafetyFactor(facility);
             if (facility.drain.given) {
                 enterPipes(facility.drain, 4);

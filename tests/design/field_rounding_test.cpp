@@ -17,26 +17,27 @@ namespace {
 
 void expectEqualToText(float value) {
     const auto bits = [](float number) { return std::bit_cast<std::uint32_t>(number); };
-    ASSERT_EQ(bits(throughField1(value)), bits(numbers::strictSingle(numbers::fixed(value, 1)))) << value;
-    ASSERT_EQ(bits(throughField2(value)), bits(numbers::strictSingle(numbers::fixed(value, 2)))) << value;
-    ASSERT_EQ(bits(throughScientificField(value)), bits(numbers::strictSingle(numbers::scientific(value, 1))))
+    ASSERT_EQ(bits(throughField(value, 1)), bits(numbers::strictSingle(numbers::fixed(value, 1)))) << value;
+    ASSERT_EQ(bits(throughField(value, 2)), bits(numbers::strictSingle(numbers::fixed(value, 2)))) << value;
+    ASSERT_EQ(bits(throughField(value, kScientific)),
+              bits(numbers::strictSingle(numbers::scientific(value, 1))))
         << value;
 }
 
 TEST(FieldRounding, RoundsAsOnPaper) {
-    EXPECT_EQ(throughField1(428.5714F), 428.6F);
-    EXPECT_EQ(throughField1(0.25F), 0.3F);
-    EXPECT_EQ(throughField1(-0.25F), -0.3F);
-    EXPECT_EQ(throughField2(2.675F), 2.68F);  // the Single lies below 2.675
-    EXPECT_EQ(throughField2(1.005F), 1.01F);
-    EXPECT_EQ(throughScientificField(1.25e-4F), 1.3e-4F);
-    EXPECT_EQ(throughScientificField(9.96e-5F), 1.0e-4F);
+    EXPECT_EQ(throughField(428.5714F, 1), 428.6F);
+    EXPECT_EQ(throughField(0.25F, 1), 0.3F);
+    EXPECT_EQ(throughField(-0.25F, 1), -0.3F);
+    EXPECT_EQ(throughField(2.675F, 2), 2.68F);  // the Single lies below 2.675
+    EXPECT_EQ(throughField(1.005F, 2), 1.01F);
+    EXPECT_EQ(throughField(1.25e-4F, kScientific), 1.3e-4F);
+    EXPECT_EQ(throughField(9.96e-5F, kScientific), 1.0e-4F);
 }
 
 TEST(FieldRounding, NothingIsLeftOfTheSignOfZero) {
-    EXPECT_FALSE(std::signbit(throughField1(-0.04F)));
-    EXPECT_FALSE(std::signbit(throughField2(-0.0F)));
-    EXPECT_EQ(throughScientificField(0.0F), 0.0F);
+    EXPECT_FALSE(std::signbit(throughField(-0.04F, 1)));
+    EXPECT_FALSE(std::signbit(throughField(-0.0F, 2)));
+    EXPECT_EQ(throughField(0.0F, kScientific), 0.0F);
 }
 
 TEST(FieldRounding, EqualsTheTextAtEveryTie) {

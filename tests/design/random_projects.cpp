@@ -7,8 +7,8 @@
 #include <string>
 
 #include "design/shaft_catalogue.h"
+#include "project/project.h"
 #include "project/read_project.h"
-#include "project/reference.h"
 
 namespace mero::design::test {
 

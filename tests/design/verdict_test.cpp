@@ -8,7 +8,7 @@
 #include <set>
 #include <string>
 
-#include "design/verdict_table.h"
+#include "design/verdict.h"
 
 namespace mero::design {
 namespace {
@@ -55,7 +55,7 @@ TEST(Verdicts, AVerdictHasTheNumbersThatItSpeaksOf) {
     data::DesignNumbers numbers;
     numbers.txtVypObjNadrz = 12.0F;
     numbers.txtObjAkum = 15.5F;
-    const Verdict verdict = table::verdict(VerdictId::TankVolumeTooSmall, numbers);
+    const Verdict verdict = design::verdict(VerdictId::TankVolumeTooSmall, numbers);
     ASSERT_EQ(subjects(verdict.id).size(), 2U);
     EXPECT_STREQ(subjects(verdict.id)[0].name, "tank_volume_m3");
     EXPECT_STREQ(subjects(verdict.id)[1].name, "storage_volume_m3");

@@ -8,7 +8,7 @@
 #include "design/quantity.h"
 #include "design/text_input.h"
 #include "design/verdict.h"
-#include "project/reference.h"
+#include "project/project.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 
 #include "platform/numbers/number_text.h"
 #include "project/fields.h"
-#include "project/reference.h"
+#include "project/project.h"
 
 namespace mero::project {
 namespace {

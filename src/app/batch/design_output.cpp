@@ -9,7 +9,7 @@
 #include "automation/json_line.h"
 #include "design/messages.h"
 #include "project/fields.h"
-#include "project/reference.h"
+#include "project/project.h"
 
 namespace mero::app {
 namespace {

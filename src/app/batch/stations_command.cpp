@@ -10,9 +10,9 @@
 #include "app/common/command_line.h"
 #include "app/common/program_folder.h"
 #include "platform/numbers/number_text.h"
-#include "project/rain_store.h"
+#include "project/prepare_site.h"
+#include "project/project.h"
 #include "project/read_project.h"
-#include "project/reference.h"
 
 namespace mero::app {
 namespace {

@@ -39,12 +39,14 @@ void frmCalc::ClearTypeResults() {
 
 void frmCalc::CalcInfiltArea() {
     WindowSink sink(*this, SelectedType);
-    data::withType(SelectedType, [&]<FacilityType type>() { design::calculateArea<type>(sink); });
+    data::withType(SelectedType,
+                   [&]<FacilityType type>() { design::calculateArea(design::OfType<type>(), sink); });
 }
 
 void frmCalc::CalcDesign() {
     WindowSink sink(*this, SelectedType);
-    data::withType(SelectedType, [&]<FacilityType type>() { design::calculateDesign<type>(sink); });
+    data::withType(SelectedType,
+                   [&]<FacilityType type>() { design::calculateDesign(design::OfType<type>(), sink); });
 }
 
 void frmCalc::cmdCalcul_Click(int Index) {
@@ -66,7 +68,7 @@ void frmCalc::cmdCalcul_Click(int Index) {
 void frmCalc::cmdOK_Click(int Index) {
     const auto index = static_cast<FacilityType>(Index);
     WindowSink sink(*this, index);
-    data::withType(index, [&]<FacilityType type>() { design::confirmPipes<type>(sink); });
+    data::withType(index, [&]<FacilityType type>() { design::confirmPipes(design::OfType<type>(), sink); });
 }
 
 }  // namespace mero::forms

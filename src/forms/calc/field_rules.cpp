@@ -3,37 +3,28 @@
 /// The trap covers the conversion only; what a changed text starts is outside of it.
 #include "forms/calc/field_rules.h"
 
-#include <optional>
-
 #include "platform/numbers/checked.h"
 #include "platform/numbers/number_text.h"
 
 namespace mero::forms {
 namespace {
 
-/// Converts and stores; the number of the trapped error when that fails.
+/// Converts and stores. False when the text is no number; a number out of range changes nothing.
 template <typename T, typename Convert>
-std::optional<int> trapConversion(const std::string& text, T& stored, Convert convert) {
+bool take(const std::string& text, T& stored, Convert convert) {
     try {
         stored = convert(text);
-        return std::nullopt;
+        return true;
     } catch (const RuntimeError& error) {
-        return error.number();
+        return !error.is(ErrorNumber::TypeMismatch);
     }
-}
-
-bool isMismatch(std::optional<int> error) {
-    return error == static_cast<int>(ErrorNumber::TypeMismatch);
 }
 
 template <typename T, typename Convert>
 void store(platform::TextBox& box, T& stored, Convert convert) {
-    const std::string text = box.text();
-    if (text.empty()) {
+    if (box.text().empty()) {
         stored = 0;
-        return;
-    }
-    if (isMismatch(trapConversion(text, stored, convert))) {
+    } else if (!take(box.text(), stored, convert)) {
         box.setText("");
     }
 }
@@ -49,25 +40,17 @@ void storeNumber(platform::TextBox& box, std::int16_t& stored) {
 }
 
 void storeFiltration(platform::TextBox& box, float& stored) {
-    const std::string text = box.text();
+    const std::string& text = box.text();
     if (text.empty()) {
         stored = 0;
-        return;
+    } else if (!take(text, stored, numbers::strictSingle)) {
+        if (text.find('e') == std::string::npos) {
+            box.setText("");
+        } else {
+            take(text, stored,
+                 [](const std::string& typed) { return numbers::toSingle(numbers::leadingNumber(typed)); });
+        }
     }
-    if (!isMismatch(trapConversion(text, stored, numbers::strictSingle))) {
-        return;
-    }
-    if (text.find('e') == std::string::npos) {
-        box.setText("");
-        return;
-    }
-    trapConversion(text, stored,
-                   [](const std::string& typed) { return numbers::toSingle(numbers::leadingNumber(typed)); });
-}
-
-bool storeDimension(platform::TextBox& box, float& stored) {
-    storeNumber(box, stored);
-    return box.text().empty();
 }
 
 void formatFiltration(platform::TextBox& box, const float& stored) {

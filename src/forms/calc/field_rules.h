@@ -20,11 +20,6 @@ void storeNumber(platform::TextBox& box, std::int16_t& stored);
 /// typed and stores its leading number ("1e-" on the way to "1e-5").
 void storeFiltration(platform::TextBox& box, float& stored);
 
-/// Shaft dimension: as a number, but it says whether the box was emptied (or its text refused, which counts
-/// as emptying); then the stored value is 0.
-/// @return true when the box is empty afterwards
-bool storeDimension(platform::TextBox& box, float& stored);
-
 /// Leaving a filtration coefficient: a text above 0 becomes the stored value as "0.0E+00".
 void formatFiltration(platform::TextBox& box, const float& stored);
 

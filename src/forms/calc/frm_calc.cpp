@@ -6,6 +6,7 @@
 #include "design/input.h"
 #include "design/text_input.h"
 #include "forms/calc/field_rules.h"
+#include "platform/numbers/number_text.h"
 
 namespace mero::forms {
 
@@ -21,99 +22,90 @@ frmCalc::frmCalc(data::modPublicVariables& values, const Surroundings& surroundi
       clock_(&surroundings.clock),
       folder_(surroundings.folder),
       reg_settings_(surroundings.locale, surroundings.desk) {
-    bindInputs();
-    bindFacilityInputs();
-    bindTypeChoice();
-    bindShaft();
-    bindResults();
+    bindTables();
+    bindHandlers();
+    bindArrays();
 }
 
-void frmCalc::bindInputs() {
+void frmCalc::bindTables() {
     for (const design::TextInputInfo& row : design::textInputs()) {
         TextBox& box = textBox(row.box);
         box.changed = [&box, &stored = values_->*row.stored] { stored = box.text(); };
     }
-    bindNumber(txtHPV, &data::DesignNumbers::txtHPV);
+    const auto bind = [this](const std::string& name, float data::DesignNumbers::*stored, bool live = false) {
+        TextBox& box = textBox(name);
+        box.changed = [this, &box, stored, live] {
+            const bool empty = box.text().empty();
+            storeNumber(box, values_->*stored);
+            if (live && !empty) {
+                CalcInfiltArea();
+            }
+        };
+    };
+    bind(info(design::Input::Groundwater).box, info(design::Input::Groundwater).stored);
+    for (const FacilityType type : data::kFacilityTypes) {
+        for (const design::PanelInput& row : design::panelInputs(type)) {
+            if (const auto stored = info(row.input).stored) {
+                bind(design::controlName(info(row.input).box, type), stored,
+                     design::isLive(type) || row.input == design::Input::SafetyFactor);
+            }
+        }
+        for (const design::ResultBox& row : design::resultBoxes(type)) {
+            if (info(row.quantity).stores_back) {
+                bind(design::controlName(row.box, type), info(row.quantity).stored);
+            }
+        }
+    }
+}
+
+void frmCalc::bindHandlers() {
     txtOdvodNepPlocha.changed = [this] { txtOdvodNepPlocha_Change(); };
     txtSelIntDeste.changed = [this] { txtSelIntDeste_Change(); };
     txtSelDTrvDeste.changed = [this] { txtSelDTrvDeste_Change(); };
     txtSoucFiltrace.changed = [this] { txtSoucFiltrace_Change(); };
     txtSoucFiltrace.lost_focus = [this] { txtSoucFiltrace_LostFocus(); };
-    cmdEdit.forEach(
-        [this](int Index, Button& button) { button.clicked = [this, Index] { cmdEdit_Click(Index); }; });
-    lblOdkaz.forEach(
-        [this](int Index, Label& label) { label.clicked = [this, Index] { lblOdkaz_Click(Index); }; });
-}
-
-void frmCalc::bindNumber(TextBox& box, float data::DesignNumbers::*stored) {
-    box.changed = [&box, &value = values_->*stored] { storeNumber(box, value); };
-}
-
-void frmCalc::bindFacilityInputs() {
-    for (const FacilityType type : data::kFacilityTypes) {
-        for (const design::PanelInput& row : design::panelInputs(type)) {
-            const design::InputInfo& input = info(row.input);
-            if (input.stored != nullptr) {
-                bindNumber(textBox(design::controlName(input.box, type)), input.stored);
-            }
-        }
-        for (const design::ResultBox& row : design::resultBoxes(type)) {
-            if (info(row.quantity).stores_back) {
-                bindNumber(textBox(design::controlName(row.box, type)), info(row.quantity).stored);
-            }
-        }
-    }
-
-    // Those with a handler of their own.
-    txtSoucFiltrPruleh.forEach([this](int Index, TextBox& box) {
-        box.changed = [this, Index] { txtSoucFiltrPruleh_Change(Index); };
-        box.lost_focus = [this, Index] { txtSoucFiltrPruleh_LostFocus(Index); };
-    });
-    txtSoucBezp.forEach(
-        [this](int Index, TextBox& box) { box.changed = [this, Index] { txtSoucBezp_Change(Index); }; });
-    txtPocetPotrubi.forEach(
-        [this](int Index, TextBox& box) { box.changed = [this, Index] { txtPocetPotrubi_Change(Index); }; });
-    txtPotrHloubkaZahl.changed = [this] { txtPotrHloubkaZahl_Change(); };
-    txtSachtyCount.changed = [this] { txtSachtyCount_Change(); };
-    updSacht.spun = [this](UpDown::Direction direction) { updSacht_Change(direction); };
-}
-
-void frmCalc::bindTypeChoice() {
-    optSelType.forEach([this](int Index, OptionButton& option) {
-        option.clicked = [this, Index] { optSelType_Click(Index); };
-    });
     cboSelType.clicked = [this] { cboSelType_Click(); };
     cboSelType.got_focus = [this] { cboSelType_GotFocus(); };
-    optSelTypPudy2.forEach([this](int Index, OptionButton& option) {
-        option.clicked = [this, Index] { optSelTypPudy2_Click(Index); };
-    });
-    optSelTypPudy3.forEach([this](int Index, OptionButton& option) {
-        option.clicked = [this, Index] { optSelTypPudy3_Click(Index); };
-    });
-    chkSelPretok.forEach(
-        [this](int Index, CheckBox& box) { box.clicked = [this, Index] { chkSelPretok_Click(Index); }; });
-    cmdOK.forEach(
-        [this](int Index, Button& button) { button.clicked = [this, Index] { cmdOK_Click(Index); }; });
-    cmdCalcul.forEach(
-        [this](int Index, Button& button) { button.clicked = [this, Index] { cmdCalcul_Click(Index); }; });
-}
-
-void frmCalc::bindShaft() {
-    optSelTypPudy5.forEach([this](int Index, OptionButton& option) {
-        option.clicked = [this, Index] { optSelTypPudy5_Click(Index); };
-    });
-    optSelTypSachty.forEach(
-        [this](int, OptionButton& option) { option.clicked = [this] { optSelTypSachty_Click(); }; });
     cboTypSachty.clicked = [this] { cboTypSachty_Click(); };
+    txtSachtyCount.changed = [this] { storeNumber(txtSachtyCount, values_->txtSachtyCount); };
+    updSacht.spun = [this](UpDown::Direction direction) { updSacht_Change(direction); };
     txtPrumerSachtyVnit.changed = [this] { txtPrumerSachtyVnit_Change(); };
     txtPrumerSachtyVnej.changed = [this] { txtPrumerSachtyVnej_Change(); };
     txtTloustkaSteny.changed = [this] { txtTloustkaSteny_Change(); };
-}
-
-void frmCalc::bindResults() {
+    // These two trap no error: a text that is no number is reported.
+    txtPotrHloubkaZahl.changed = [this] {
+        values_->txtPotrHloubkaZahl = numbers::strictSingle(txtPotrHloubkaZahl.text());
+    };
+    txtPocetPotrubi.forEach([this](int, TextBox& box) {
+        box.changed = [this, &box] { values_->txtPocetPotrubi = numbers::strictSingle(box.text()); };
+    });
+    txtSoucFiltrPruleh.forEach([this](int, TextBox& box) {
+        box.changed = [this, &box] { storeFiltration(box, values_->txtSoucFiltrPruleh); };
+    });
     SSTab1.changed = [this](int PreviousTab) { SSTab1_Click(PreviousTab); };
     cmdSaveResults.clicked = [this] { cmdSaveResults_Click(); };
     cmdPrint.clicked = [this] { cmdPrint_Click(); };
+}
+
+template <typename T>
+void frmCalc::bindEach(const ControlArray<T>& array, std::type_identity_t<std::function<void()> T::*> event,
+                       void (frmCalc::*handler)(int)) {
+    array.forEach(
+        [=, this](int Index, T& member) { member.*event = [=, this] { (this->*handler)(Index); }; });
+}
+
+void frmCalc::bindArrays() {
+    bindEach(txtSoucFiltrPruleh, &TextBox::lost_focus, &frmCalc::txtSoucFiltrPruleh_LostFocus);
+    bindEach(cmdEdit, &Button::clicked, &frmCalc::cmdEdit_Click);
+    bindEach(lblOdkaz, &Label::clicked, &frmCalc::lblOdkaz_Click);
+    bindEach(optSelType, &OptionButton::clicked, &frmCalc::optSelType_Click);
+    bindEach(optSelTypPudy2, &OptionButton::clicked, &frmCalc::optSelTypPudy2_Click);
+    bindEach(optSelTypPudy3, &OptionButton::clicked, &frmCalc::optSelTypPudy3_Click);
+    bindEach(optSelTypPudy5, &OptionButton::clicked, &frmCalc::optSelTypPudy5_Click);
+    bindEach(optSelTypSachty, &OptionButton::clicked, &frmCalc::optSelTypSachty_Click);
+    bindEach(chkSelPretok, &CheckBox::clicked, &frmCalc::chkSelPretok_Click);
+    bindEach(cmdOK, &Button::clicked, &frmCalc::cmdOK_Click);
+    bindEach(cmdCalcul, &Button::clicked, &frmCalc::cmdCalcul_Click);
 }
 
 void frmCalc::error(const std::string& text) {

@@ -3,8 +3,9 @@
 /// Handlers run at once and nest; the results come out right only in this order.
 #pragma once
 
-#include <cstdint>
+#include <functional>
 #include <string>
+#include <type_traits>
 
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
@@ -50,15 +51,10 @@ class frmCalc : public frmCalcControls {
     // Field rules.
     void txtOdvodNepPlocha_Change();
     void txtSelIntDeste_Change();
-    void txtSelDTrvDeste_Change();
+    void txtSelDTrvDeste_Change() { RebuildCalc(); }
     void txtSoucFiltrace_Change();
     void txtSoucFiltrace_LostFocus();
-    void txtSoucFiltrPruleh_Change(int Index);
     void txtSoucFiltrPruleh_LostFocus(int Index);
-    void txtSoucBezp_Change(int Index);
-    void txtSachtyCount_Change();
-    void txtPocetPotrubi_Change(int Index);
-    void txtPotrHloubkaZahl_Change();
     void updSacht_Change(platform::UpDown::Direction direction);
     void cmdEdit_Click(int Index);
     void lblOdkaz_Click(int Index);
@@ -66,11 +62,11 @@ class frmCalc : public frmCalcControls {
     // Choice of the type.
     void optSelType_Click(int Index);
     void cboSelType_Click();
-    void cboSelType_GotFocus();
+    void cboSelType_GotFocus() { refusesMissingInputs(); }
     void optSelTypPudy2_Click(int Index);
-    void optSelTypPudy3_Click(int Index);
+    void optSelTypPudy3_Click(int Index) { optSelTypPudy2_Click(Index); }
     void optSelTypPudy5_Click(int Index);
-    void optSelTypSachty_Click();
+    void optSelTypSachty_Click(int Index);
     void chkSelPretok_Click(int Index);
 
     // Shaft geometry.
@@ -100,21 +96,20 @@ class frmCalc : public frmCalcControls {
     /// The design procedures write the window through it.
     friend class WindowSink;
 
-    // Binding of the handlers, by concern.
-    void bindInputs();
-    void bindFacilityInputs();
-    void bindTypeChoice();
-    void bindShaft();
-    void bindResults();
+    /// Fields that only store a text or a number, by the tables; the controls with a handler of their own.
+    void bindTables();
+    void bindHandlers();
+    void bindArrays();
+    /// Binds the event of each member of an array to the handler that takes its index.
+    template <typename T>
+    void bindEach(const ControlArray<T>& array, std::type_identity_t<std::function<void()> T::*> event,
+                  void (frmCalc::*handler)(int));
 
     void showInflow();
-    void bindNumber(TextBox& box, float data::DesignNumbers::*stored);
     void error(const std::string& text);
     void hideResultPanels();
     /// Tells the user of a missing drained area or filtration coefficient; true when one is missing.
     bool refusesMissingInputs();
-
-    void fillShaftList();
 
     void enterTechnologyTab(int previous_tab);
     void enterResultsTab(int previous_tab);

@@ -51,7 +51,6 @@ frmCalcControls::frmCalcControls()
       picTank(panelOf(picResults, SSTab1.page(kTabDesign), Tank)),
       chkPredUsaz(picTank, "chkPredUsaz", info(design::Input::UpstreamSettling).caption) {
     addMembers();
-    addSubPanels();
     addFields();
     setInitialState();
 }
@@ -78,9 +77,6 @@ void frmCalcControls::addMembers() {
     for (const FacilityType type : data::kFacilityTypes) {
         cmdCalcul.add(static_cast<int>(type), picResults[type], "Výpočti");
     }
-}
-
-void frmCalcControls::addSubPanels() {
     for (const FacilityType type : {SwaleTrench, Trench}) {
         const int index = static_cast<int>(type);
         chkSelPretok.add(index, picResults[type],
@@ -135,9 +131,9 @@ void frmCalcControls::setInitialState() {
     picPretokSkrOdtok.forEach([](int, Panel& panel) { panel.hide(); });
     cmdEdit[SwaleTrench].setEnabled(false);
     cmdEdit[Trench].setEnabled(false);
-    // The first two types are computed while the inputs change: there is nothing to press.
-    cmdCalcul[Surface].hide();
-    cmdCalcul[Swale].hide();
+    for (const FacilityType type : data::kFacilityTypes) {
+        cmdCalcul[type].setVisible(!design::isLive(type));
+    }
     txtVyskaPiskVrstvy.setEnabled(false);
     txtVyskaPiskVrstvy.setGreyed(true);
     wbShowPopisTech.hide();

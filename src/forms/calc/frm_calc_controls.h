@@ -136,7 +136,6 @@ struct frmCalcControls : platform::Form {
 
   private:
     void addMembers();
-    void addSubPanels();
     void addFields();
     void addField(std::string_view name, FacilityType type, platform::Control& container,
                   const std::string& text);

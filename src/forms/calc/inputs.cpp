@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The main window's field rules that do more than store a number.
-/// The derived inflow, the filtration coefficients, the two unguarded fields, the counters.
+/// The derived inflow, the filtration coefficient, the counter.
 #include <algorithm>
 
 #include "calc/inflow.h"
@@ -30,10 +30,6 @@ void frmCalc::txtSelIntDeste_Change() {
     RebuildCalc();
 }
 
-void frmCalc::txtSelDTrvDeste_Change() {
-    RebuildCalc();
-}
-
 void frmCalc::txtSoucFiltrace_Change() {
     const bool empty = txtSoucFiltrace.text().empty();
     storeFiltration(txtSoucFiltrace, values_->txtSoucFiltrace);
@@ -46,32 +42,8 @@ void frmCalc::txtSoucFiltrace_LostFocus() {
     formatFiltration(txtSoucFiltrace, values_->txtSoucFiltrace);
 }
 
-void frmCalc::txtSoucFiltrPruleh_Change(int Index) {
-    storeFiltration(txtSoucFiltrPruleh[Index], values_->txtSoucFiltrPruleh);
-}
-
 void frmCalc::txtSoucFiltrPruleh_LostFocus(int Index) {
     formatFiltration(txtSoucFiltrPruleh[Index], values_->txtSoucFiltrPruleh);
-}
-
-void frmCalc::txtSoucBezp_Change(int Index) {
-    const bool empty = txtSoucBezp[Index].text().empty();
-    storeNumber(txtSoucBezp[Index], values_->txtSoucBezp);
-    if (!empty) {
-        CalcInfiltArea();
-    }
-}
-
-void frmCalc::txtSachtyCount_Change() {
-    storeNumber(txtSachtyCount, values_->txtSachtyCount);
-}
-
-void frmCalc::txtPocetPotrubi_Change(int Index) {
-    values_->txtPocetPotrubi = numbers::strictSingle(txtPocetPotrubi[Index].text());
-}
-
-void frmCalc::txtPotrHloubkaZahl_Change() {
-    values_->txtPotrHloubkaZahl = numbers::strictSingle(txtPotrHloubkaZahl.text());
 }
 
 void frmCalc::updSacht_Change(platform::UpDown::Direction direction) {

@@ -7,7 +7,6 @@
 
 #include "calc/tank.h"
 #include "design/balances.h"
-#include "forms/calc/rain_table.h"
 #include "picture/balance_chart.h"
 #include "picture/facility_sections.h"
 #include "platform/numbers/number_text.h"
@@ -17,6 +16,7 @@ namespace {
 
 using data::modPublicVariables;
 using platform::TextBox;
+using enum FacilityType;
 
 std::optional<float> shownResult(const TextBox& box) {
     if (box.text().empty()) {
@@ -61,7 +61,7 @@ picture::ShaftValues shaft(const frmCalc& form) {
             .inlet_depth_m = values.txtNezamrzHlPritok,
             .filter_layer_m = values.txtVyskaFiltrVrstvy,
             .sand_layer_m = has_sand_layer ? values.txtVyskaPiskVrstvy : 0.0F,
-            .water_level_m = shownResult(form.txtVyskaVzduti[FacilityType::Shaft]),
+            .water_level_m = shownResult(form.txtVyskaVzduti[Shaft]),
             .depth_m = shownResult(form.txtHloubkaSachty),
             .required_embedding_m = shownResult(form.txtPotrHloubkaZahl),
             .groundwater_depth_m = values.txtHPV};
@@ -73,7 +73,7 @@ picture::TankValues tank(const frmCalc& form) {
             .bottom_width_m = values.txtSirkaDnaNadrz,
             .depth_m = values.txtHloubkaNadrz,
             .slope = values.txtSklonSvahuNadrz,
-            .required_storage_m3 = shownResult(form.txtObjAkum[FacilityType::Tank]),
+            .required_storage_m3 = shownResult(form.txtObjAkum[Tank]),
             .volume_m3 = shownResult(form.txtVypObjNadrz),
             .groundwater_depth_m = values.txtHPV};
 }
@@ -92,24 +92,24 @@ float tankFlow(const modPublicVariables& values) {
 picture::Section facilitySection(const frmCalc& form, FacilityType type) {
     const float groundwater = form.values().txtHPV;
     switch (type) {
-        case FacilityType::Surface:
-            return picture::surfaceSection({.area_m2 = shownResult(form.txtVsakPlocha[FacilityType::Surface]),
-                                            .groundwater_depth_m = groundwater});
-        case FacilityType::Swale:
-            return picture::swaleSection({.area_m2 = shownResult(form.txtVsakPlocha[FacilityType::Swale]),
-                                          .ponding_m = shownResult(form.txtVyskaVzduti[FacilityType::Swale]),
+        case Surface:
+            return picture::surfaceSection(
+                {.area_m2 = shownResult(form.txtVsakPlocha[Surface]), .groundwater_depth_m = groundwater});
+        case Swale:
+            return picture::swaleSection({.area_m2 = shownResult(form.txtVsakPlocha[Swale]),
+                                          .ponding_m = shownResult(form.txtVyskaVzduti[Swale]),
                                           .groundwater_depth_m = groundwater});
-        case FacilityType::SwaleTrench:
+        case SwaleTrench:
             return picture::swaleTrenchSection(
-                {.trench = trench(form, FacilityType::SwaleTrench),
-                 .swale_depth_m = shownResult(form.txtHloubkaPrulehu[FacilityType::SwaleTrench])});
-        case FacilityType::Trench:
-            return picture::trenchSection(trench(form, FacilityType::Trench));
-        case FacilityType::Shaft:
+                {.trench = trench(form, SwaleTrench),
+                 .swale_depth_m = shownResult(form.txtHloubkaPrulehu[SwaleTrench])});
+        case Trench:
+            return picture::trenchSection(trench(form, Trench));
+        case Shaft:
             return picture::shaftSection(shaft(form));
-        case FacilityType::Tank:
+        case Tank:
             return picture::tankSection(tank(form));
-        case FacilityType::None:
+        case None:
             break;
     }
     return {};
@@ -117,32 +117,31 @@ picture::Section facilitySection(const frmCalc& form, FacilityType type) {
 
 picture::Chart balanceChart(const frmCalc& form, FacilityType type) {
     const modPublicVariables& values = form.values();
-    const auto rains = rainTable(values);
+    const auto rains = form.intDialog.rains();
     switch (type) {
-        case FacilityType::Surface:
+        case Surface:
             return picture::surfaceChart({.reduced_area_m2 = values.RedukovanaPlocha,
                                           .filtration_m_s = values.txtSoucFiltrace,
-                                          .picked_rain = pickedRain(values)},
-                                         rains, form.txtVsakPlocha[FacilityType::Surface].text());
-        case FacilityType::Swale:
+                                          .picked_rain = form.intDialog.pickedRain()},
+                                         rains, form.txtVsakPlocha[Surface].text());
+        case Swale:
             return picture::swaleChart(design::swaleBalance(values, values.txtSoucFiltrace), rains,
-                                       form.txtObjAkum[FacilityType::Swale].text());
-        case FacilityType::SwaleTrench:
+                                       form.txtObjAkum[Swale].text());
+        case SwaleTrench:
             return picture::swaleTrenchChart(
                 {.swale = design::swaleBalance(values, values.txtSoucFiltrPruleh),
                  .trench = design::swaleTrenchBalance(values)},
-                rains, form.txtObjAkum[FacilityType::SwaleTrench].text(),
-                form.txtDelkaRyhy[FacilityType::SwaleTrench].text());
-        case FacilityType::Trench:
+                rains, form.txtObjAkum[SwaleTrench].text(), form.txtDelkaRyhy[SwaleTrench].text());
+        case Trench:
             return picture::trenchChart(design::trenchBalance(values), rains,
-                                        form.txtDelkaRyhy[FacilityType::Trench].text());
-        case FacilityType::Shaft:
+                                        form.txtDelkaRyhy[Trench].text());
+        case Shaft:
             return picture::shaftChart(design::shaftBalance(values), rains,
-                                       form.txtVyskaVzduti[FacilityType::Shaft].text());
-        case FacilityType::Tank:
+                                       form.txtVyskaVzduti[Shaft].text());
+        case Tank:
             return picture::tankChart(design::tankBalance(values, tankFlow(values)), rains,
-                                      form.txtObjAkum[FacilityType::Tank].text());
-        case FacilityType::None:
+                                      form.txtObjAkum[Tank].text());
+        case None:
             break;
     }
     return {};

@@ -3,6 +3,8 @@
 /// Whatever ends it, the same clean-up runs: separators restored, report file deleted.
 #include "forms/calc/program.h"
 
+#include <algorithm>
+
 namespace mero::forms {
 
 Program::Program(const Surroundings& surroundings)
@@ -53,12 +55,9 @@ void Program::end(int exit_status) {
 }
 
 platform::Form* Program::form(std::string_view name) {
-    for (platform::Form* form : forms()) {
-        if (form->name() == name) {
-            return form;
-        }
-    }
-    return nullptr;
+    const auto all = forms();
+    const auto found = std::ranges::find(all, name, &platform::Form::name);
+    return found == all.end() ? nullptr : *found;
 }
 
 std::vector<platform::Form*> Program::forms() {

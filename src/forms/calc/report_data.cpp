@@ -3,7 +3,6 @@
 #include "forms/calc/report_data.h"
 
 #include "forms/calc/frm_calc.h"
-#include "forms/calc/rain_table.h"
 
 namespace mero::forms {
 namespace {
@@ -38,7 +37,7 @@ report::ReportData reportData(const frmCalc& window, const platform::DateTime& n
             .type_name = values.TypyZasakovani[index(window.SelectedType)],
             .rain = {.station = values.VybranaStanice,
                      .periodicity = values.VybranaPeriodicita,
-                     .rows = rainTable(values)},
+                     .rows = window.intDialog.rains()},
             .partial_areas = partialAreasOf(values),
             .numbers = static_cast<const data::DesignNumbers&>(values),
             .options = optionsOf(window),

@@ -8,13 +8,15 @@
 
 namespace mero::forms {
 
-void frmCalc::optSelTypSachty_Click() {
+void frmCalc::optSelTypSachty_Click(int Index) {
     txtPrumerSachtyVnej.setText("");
     txtPrumerSachtyVnit.setText("");
     txtTloustkaSteny.setText("");
-    ShaftShape = optSelTypSachty[data::ShaftShape::Rectangular].selected() ? data::ShaftShape::Rectangular
-                                                                           : data::ShaftShape::Round;
-    fillShaftList();
+    ShaftShape = static_cast<data::ShaftShape>(Index);
+    cboTypSachty.clear();
+    for (const design::CatalogueShaft& shaft : design::shaftCatalogue(ShaftShape)) {
+        cboTypSachty.add(shaft.designation);
+    }
     const bool round = ShaftShape == data::ShaftShape::Round;
     if (round) {
         // The equivalent diameter of a rectangular shaft that was chosen before does not outlive it.
@@ -23,13 +25,6 @@ void frmCalc::optSelTypSachty_Click() {
     // A round shaft's outer diameter follows from its ring: nothing to type there.
     txtPrumerSachtyVnej.setEnabled(!round);
     txtPrumerSachtyVnej.setGreyed(round);
-}
-
-void frmCalc::fillShaftList() {
-    cboTypSachty.clear();
-    for (const design::CatalogueShaft& shaft : design::shaftCatalogue(ShaftShape)) {
-        cboTypSachty.add(shaft.designation);
-    }
 }
 
 void frmCalc::cboTypSachty_Click() {
@@ -49,19 +44,21 @@ void frmCalc::cboTypSachty_Click() {
     txtTloustkaSteny.setText(numbers::fixed(row.wall_m, 2));
 }
 
+// A text that is refused empties its box, which counts as emptied.
+
 void frmCalc::txtPrumerSachtyVnit_Change() {
-    const bool emptied = storeDimension(txtPrumerSachtyVnit, values_->txtPrumerSachtyVnit);
-    design::shaft::innerSideStored(*values_, ShaftShape, emptied);
+    storeNumber(txtPrumerSachtyVnit, values_->txtPrumerSachtyVnit);
+    design::shaft::innerSideStored(*values_, ShaftShape, txtPrumerSachtyVnit.text().empty());
 }
 
 void frmCalc::txtPrumerSachtyVnej_Change() {
-    const bool emptied = storeDimension(txtPrumerSachtyVnej, values_->txtPrumerSachtyVnej);
-    design::shaft::secondSideStored(*values_, emptied);
+    storeNumber(txtPrumerSachtyVnej, values_->txtPrumerSachtyVnej);
+    design::shaft::secondSideStored(*values_, txtPrumerSachtyVnej.text().empty());
 }
 
 void frmCalc::txtTloustkaSteny_Change() {
-    const bool emptied = storeDimension(txtTloustkaSteny, values_->txtTloustkaSteny);
-    design::shaft::wallStored(*values_, ShaftShape, emptied);
+    storeNumber(txtTloustkaSteny, values_->txtTloustkaSteny);
+    design::shaft::wallStored(*values_, ShaftShape, txtTloustkaSteny.text().empty());
 }
 
 }  // namespace mero::forms

@@ -76,16 +76,7 @@ void frmCalc::cboSelType_Click() {
     ClearTypeResults();
 }
 
-void frmCalc::cboSelType_GotFocus() {
-    refusesMissingInputs();
-}
-
 void frmCalc::optSelTypPudy2_Click(int Index) {
-    SoilVariant = Index;
-    CalcInfiltArea();
-}
-
-void frmCalc::optSelTypPudy3_Click(int Index) {
     SoilVariant = Index;
     CalcInfiltArea();
 }

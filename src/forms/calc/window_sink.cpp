@@ -5,9 +5,8 @@
 #include <vector>
 
 #include "design/messages.h"
-#include "design/verdict_table.h"
+#include "design/verdict.h"
 #include "forms/calc/frm_calc.h"
-#include "forms/calc/rain_table.h"
 
 namespace mero::forms {
 namespace {
@@ -36,7 +35,7 @@ data::DesignNumbers& WindowSink::numbers() {
 }
 
 std::array<calc::Rain, calc::kRainRows> WindowSink::rains() const {
-    return rainTable(*form_->values_);
+    return form_->intDialog.rains();
 }
 
 int WindowSink::soilOption() const {
@@ -78,7 +77,7 @@ void WindowSink::tell(design::VerdictId id) {
 void WindowSink::tellTogether(std::span<const design::VerdictId> ids) {
     std::vector<design::Verdict> verdicts;
     for (const design::VerdictId id : ids) {
-        verdicts.push_back(design::table::verdict(id, numbers()));
+        verdicts.push_back(design::verdict(id, numbers()));
     }
     for (const design::Message& message : design::messages(verdicts)) {
         form_->desk_->showMessage(design::box(message));
@@ -89,12 +88,12 @@ void WindowSink::clearResults() {
     form_->ClearTypeResults();
 }
 
-void WindowSink::closePipes() {
-    form_->picPretokSkrOdtok[type_].hide();
-}
-
-void WindowSink::untickPipes() {
-    form_->chkSelPretok[type_].setChecked(false);
+void WindowSink::closePipes(bool kept) {
+    if (kept) {
+        form_->picPretokSkrOdtok[type_].hide();
+    } else {
+        form_->chkSelPretok[type_].setChecked(false);
+    }
 }
 
 void WindowSink::abandonType() {

@@ -43,8 +43,7 @@ class WindowSink {
     void tell(design::VerdictId id);
     void tellTogether(std::span<const design::VerdictId> ids);
     void clearResults();
-    void closePipes();
-    void untickPipes();
+    void closePipes(bool kept);
     void abandonType();
     void complete();
 

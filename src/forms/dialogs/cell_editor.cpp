@@ -8,12 +8,9 @@
 namespace mero::forms {
 
 void EditKeyCode(platform::Grid& grid, platform::TextBox& editor, platform::Key key) {
-    switch (key) {
-        case platform::Key::Enter:
-        case platform::Key::Escape:
-            editor.hide();
-            grid.setFocus();
-            break;
+    if (key == platform::Key::Enter || key == platform::Key::Escape) {
+        editor.hide();
+        grid.setFocus();
     }
 }
 

@@ -11,12 +11,12 @@
 namespace mero::forms {
 
 /// Enter or Escape hides the editor and gives the focus back to the grid; other keys do nothing.
-/// What was typed is stored already, so Escape undoes nothing.
 void EditKeyCode(platform::Grid& grid, platform::TextBox& editor, platform::Key key);
 
 class CellEditor {
   public:
-    /// The editor closes on Enter, Escape, and when it loses the focus.
+    /// The editor closes on Enter, Escape, and when it loses the focus. What was typed is stored already, so
+    /// Escape undoes nothing.
     CellEditor(platform::Grid& grid, platform::TextBox& editor);
 
     /// Lays the editor over the grid's current cell with `text` in it, all selected, and gives it the focus.

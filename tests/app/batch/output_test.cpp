@@ -9,7 +9,7 @@
 
 #include <stdexcept>
 #include <string>
-#include "design/verdict_table.h"
+#include "design/verdict.h"
 
 #include "app/batch/design_output.h"
 #include "app/batch/row_file.h"
@@ -39,7 +39,7 @@ design::DesignResult shaftResult() {
     result.numbers.txtNezamrzHlPritok = -0.5F;
     for (const VerdictId id : {VerdictId::InletDepthNotPositive, VerdictId::FilterLayerNotPositive,
                                VerdictId::ErrorDivisionByZero}) {
-        result.verdicts.add(design::table::verdict(id, result.numbers));
+        result.verdicts.add(design::verdict(id, result.numbers));
     }
     return result;
 }

@@ -212,17 +212,5 @@ TEST_F(FiltrationFieldTest, LeavingAsksTheTextNotTheStoredValue) {
     EXPECT_EQ(box.text(), "0.0E+00") << "above zero, but never stored";
 }
 
-TEST(DimensionField, TellsWhetherTheBoxWasEmptied) {
-    platform::Form form{"frm", "Form"};
-    platform::TextBox box{form, "txt"};
-    float stored = 1;
-    box.showText("0.12");
-    EXPECT_FALSE(storeDimension(box, stored));
-    EXPECT_EQ(stored, 0.12F);
-    box.showText("");
-    EXPECT_TRUE(storeDimension(box, stored));
-    EXPECT_EQ(stored, 0.0F);
-}
-
 }  // namespace
 }  // namespace mero::forms
