@@ -32,7 +32,7 @@ class Fields : public testing::Test {
         return *new QLabel(&place);
     }
     void show() {
-        window.resize(700, 200);
+        window.resize(1000, 200);
         QApplication::processEvents();
     }
 };
