@@ -13,9 +13,8 @@ namespace {
 
 enum Column { kCaption, kField, kUnit, kBeside, kRest };
 
-constexpr int kNumberCharacters = 14;
-/// In the larger font of results; a longer one widens its field.
-constexpr int kResultCharacters = 11;
+/// Room for a number of a result's larger font, too.
+constexpr int kNumberCharacters = 15;
 constexpr int kLongestCaptionLine = 36;
 constexpr int kLeastAreaLines = 3;
 /// A text area takes the free space before the empty end of the grid does.
@@ -109,7 +108,6 @@ QLineEdit& FieldGrid::input(platform::TextBox& box, const QString& text, const Q
 QLineEdit& FieldGrid::result(platform::TextBox& box, const QString& text, const QString& unit) {
     QLineEdit& line = field(box, text, unit);
     showAsResult(line);
-    line.setFixedWidth(textWidth(line, kResultCharacters));
     growWithText(line);
     return line;
 }

@@ -8,7 +8,6 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
-#include <iterator>
 #include <numeric>
 #include <utility>
 
@@ -72,7 +71,11 @@ void GridView::layOut() {
     if (std::exchange(laying_out_, true)) {
         return;
     }
-    const std::vector<int> widths = columnWidths(viewport()->width());
+    // Where all rows fit into the whole width, there is no scroll bar that would make them higher.
+    const int whole = width() - 2 * frameWidth();
+    const int room = height() - 2 * frameWidth() - horizontalHeader()->height();
+    const bool fits = rowsHeight(whole, model_.rowCount()) <= room;
+    const std::vector<int> widths = columnWidths(fits ? whole : viewport()->width());
     for (int column = 0; column < model_.columnCount(); ++column) {
         setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
     }
@@ -90,6 +93,10 @@ void GridView::layOut() {
         }
     }
     laying_out_ = false;
+    if (isVisible()) {
+        // The rows' height depends on the width that the view was given.
+        updateGeometry();
+    }
     if (cells_moved) {
         cells_moved();
     }
@@ -182,12 +189,16 @@ void GridView::reveal(GridCell cell) {
     }
 }
 
+int GridView::rowsHeight(int available, int rows) const {
+    const std::vector<int> heights = rowHeights(columnWidths(available));
+    return std::accumulate(heights.begin(), heights.begin() + qMin(rows, model_.rowCount()), 0);
+}
+
 QSize GridView::sizeHint() const {
-    const int width = textWidth(*this, room_.characters);
-    const std::vector<int> heights = rowHeights(columnWidths(width - 2 * frameWidth()));
-    const auto visible = qMin<std::ptrdiff_t>(room_.rows, std::ssize(heights));
-    return {width, horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
-                       std::accumulate(heights.begin(), heights.begin() + visible, 0)};
+    const int wanted = textWidth(*this, room_.characters);
+    const int given = isVisible() ? width() : wanted;
+    return {wanted, horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
+                        rowsHeight(given - 2 * frameWidth(), room_.rows)};
 }
 
 std::optional<GridCell> GridView::cellAt(QPoint position) const {

@@ -63,6 +63,8 @@ class GridView : public QTableView {
     void layOut();
     [[nodiscard]] std::vector<int> columnWidths(int available) const;
     [[nodiscard]] std::vector<int> rowHeights(const std::vector<int>& widths) const;
+    /// Height of the first rows, all columns together being that wide.
+    [[nodiscard]] int rowsHeight(int available, int rows) const;
     /// The row after the last one that is merged with `first` in this column.
     [[nodiscard]] int endOfMerged(int first, int column) const;
     [[nodiscard]] bool merges(int column) const;

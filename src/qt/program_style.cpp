@@ -147,7 +147,8 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     if (hint == SH_Table_GridLineColor && option != nullptr) {
         return static_cast<int>(dividerColour(option->palette).rgba());
     }
-    return QProxyStyle::styleHint(hint, option, widget, data);
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0
+                                                       : QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

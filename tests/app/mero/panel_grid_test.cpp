@@ -93,6 +93,10 @@ TEST_F(PanelGrid, TheAreasDialogShowsAllSurfacesWhereTheScreenHasRoom) {
     QApplication::processEvents();
     auto& surfaces = dynamic_cast<QTableView&>(*kit.find(program.window().areaDialog.fgSoucPovrchOdtok));
     ASSERT_EQ(surfaces.model()->rowCount(), 19);
+    run({"cell frmDialog.fgSoucPovrchOdtok 8 3", "type frmDialog.txtPlocha 800",
+         "key frmDialog.txtPlocha Enter"});
+    QApplication::processEvents();
+    EXPECT_EQ(surfaces.verticalScrollBar()->maximum(), 0) << "narrower than wanted, texts take more lines";
     surfaces.window()->resize(900, 1000);
     QApplication::processEvents();
     EXPECT_EQ(surfaces.verticalScrollBar()->maximum(), 0);

@@ -17,8 +17,8 @@ namespace {
 constexpr int kSurfaceChoiceColumn = 3;
 constexpr int kEntryChoiceColumn = 4;
 /// All surfaces, where the screen is high enough for them.
-constexpr qt::GridRoom kSurfaceRoom{.characters = 134, .rows = 19};
-constexpr qt::GridRoom kEntryRoom{.characters = 134, .rows = 4};
+constexpr qt::GridRoom kSurfaceRoom{.characters = 140, .rows = 19};
+constexpr qt::GridRoom kEntryRoom{.characters = 140, .rows = 4};
 constexpr int kNumberCharacters = 14;
 
 QLabel& caption(const QString& text, QWidget& parent) {
