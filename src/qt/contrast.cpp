@@ -13,7 +13,7 @@ namespace {
 
 /// A little more than demanded, because colours are rounded to 8 bits and edges are smoothed.
 constexpr double kSpare = 1.1;
-constexpr double kStep = 0.02;
+constexpr int kSteps = 50;
 constexpr double kCardShare = 0.65;
 constexpr double kStripTint = 0.13;
 constexpr double kDividerShare = 0.18;
@@ -40,8 +40,8 @@ QColor outlineColour(const QPalette& palette) {
     const std::array grounds{palette.color(QPalette::Active, QPalette::Window),
                              palette.color(QPalette::Active, QPalette::Base),
                              palette.color(QPalette::Active, QPalette::Button), cardColour(palette)};
-    for (double share = 0; share < 1; share += kStep) {
-        const QColor grey = mixed(grounds.front(), ink, share);
+    for (int step = 0; step < kSteps; ++step) {
+        const QColor grey = mixed(grounds.front(), ink, static_cast<double>(step) / kSteps);
         const bool seen = std::ranges::all_of(grounds, [&grey](const QColor& ground) {
             return contrast(grey, ground) >= kOutlineContrast * kSpare;
         });
@@ -74,11 +74,12 @@ QColor primaryColour(const QPalette& palette) {
     const QColor text = palette.color(QPalette::Active, QPalette::HighlightedText);
     const QColor fill = palette.color(QPalette::Active, QPalette::Highlight);
     const QColor away = contrast(text, Qt::black) > contrast(text, Qt::white) ? Qt::black : Qt::white;
-    double share = 0;
-    while (share < 1 && contrast(mixed(fill, away, share), text) < kTextContrast) {
-        share += kStep;
+    int step = 0;
+    const auto stronger = [&] { return mixed(fill, away, static_cast<double>(step) / kSteps); };
+    while (step < kSteps && contrast(stronger(), text) < kTextContrast) {
+        ++step;
     }
-    return mixed(fill, away, share);
+    return stronger();
 }
 
 QColor dividerColour(const QPalette& palette) {

@@ -164,7 +164,9 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
 }
 
 void useProgramStyle() {
-    QApplication::setStyle(new ProgramStyle);
+    auto* style = new ProgramStyle;
+    style->setParent(qApp);
+    QApplication::setStyle(style);
 }
 
 }  // namespace mero::qt

@@ -2,6 +2,7 @@
 /// Draws the title and its line.
 #include "qt/section_title.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QPainter>
 #include <utility>
