@@ -6,6 +6,8 @@
 #include <QAbstractTextDocumentLayout>
 #include <QPageRanges>
 #include <QPainter>
+#include <QTextBlock>
+#include <QTextTable>
 #include <algorithm>
 #include <vector>
 
@@ -20,6 +22,8 @@ constexpr qreal kPixelsPerInch = 96;
 constexpr qreal kLeastWidthPx = 660;
 constexpr qreal kFootHeightPx = 30;
 constexpr qreal kFootPoints = 8;
+/// A document that is a little too long for one page is reduced to it, down to this factor.
+constexpr qreal kLeastReduction = 0.85;
 
 /// The area of a page for the document, in device pixels, and the factor by which the document is reduced.
 struct PageRoom {
@@ -52,13 +56,51 @@ void paintContent(QPainter& painter, const LocalDocument& document, const PageRo
     painter.restore();
 }
 
-void paintFoot(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& text) {
+/// What the document is about: the value beside the label in its first row, for a report the project's name.
+QString subjectOf(const LocalDocument& document) {
+    for (QTextFrame* frame : document.rootFrame()->childFrames()) {
+        if (const auto* table = dynamic_cast<const QTextTable*>(frame)) {
+            return table->columns() < 2 ? QString()
+                                        : table->cellAt(0, 1).firstCursorPosition().block().text();
+        }
+    }
+    return {};
+}
+
+/// Reduces the document to one page if that takes no more than kLeastReduction, and finds its pages.
+std::vector<qreal> layOut(LocalDocument& document, PageRoom& room) {
+    const auto breaksAt = [&](qreal scale) {
+        room.scale = scale;
+        document.setTextWidth(room.forDocument().width());
+        return pageBreaks(document, room.forDocument().height());
+    };
+    const qreal whole = room.scale;
+    std::vector<qreal> breaks = breaksAt(whole);
+    const qreal needed = room.forDocument().height() / breaks.back();
+    if (breaks.size() > 2 && needed >= kLeastReduction) {
+        breaks = breaksAt(whole * needed);
+        if (breaks.size() > 2) {
+            breaks = breaksAt(whole);
+        }
+    }
+    return breaks;
+}
+
+/// The number of the page on the right; on the left what the document is about.
+void paintFoot(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& number,
+               const QString& subject) {
     QFont font = document.defaultFont();
     font.setPointSizeF(kFootPoints);
     painter.setFont(QFont(font, painter.device()));
     painter.setPen(Qt::black);
     const QRectF foot(0, room.paper.height() - room.foot_height, room.paper.width(), room.foot_height);
-    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom, text);
+    const QRectF numbered =
+        painter.boundingRect(foot, static_cast<int>(Qt::AlignRight | Qt::AlignBottom), number);
+    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom, number);
+    const QRectF left = foot.adjusted(0, 0, -numbered.width() * 2, 0);
+    painter.drawText(
+        left, Qt::AlignLeft | Qt::AlignBottom,
+        painter.fontMetrics().elidedText(subject, Qt::ElideRight, static_cast<int>(left.width())));
 }
 
 }  // namespace
@@ -69,11 +111,10 @@ QPageLayout paperLayout() {
 }
 
 int paintPages(LocalDocument& document, QPagedPaintDevice& device) {
-    const PageRoom room = roomOn(device);
+    PageRoom room = roomOn(device);
     document.documentLayout()->setPaintDevice(&device);
     document.setDocumentMargin(0);
-    document.setTextWidth(room.forDocument().width());
-    const std::vector<qreal> breaks = pageBreaks(document, room.forDocument().height());
+    const std::vector<qreal> breaks = layOut(document, room);
     const int pages = static_cast<int>(breaks.size()) - 1;
     QPainter painter;
     if (!painter.begin(&device)) {
@@ -91,7 +132,9 @@ int paintPages(LocalDocument& document, QPagedPaintDevice& device) {
         first = false;
         const auto at = static_cast<std::size_t>(page);
         paintContent(painter, document, room, breaks[at - 1], breaks[at]);
-        paintFoot(painter, document, room, QStringLiteral("%1 / %2").arg(page).arg(pages));
+        // The first page begins with it.
+        paintFoot(painter, document, room, QStringLiteral("%1 / %2").arg(page).arg(pages),
+                  page == 1 ? QString() : subjectOf(document));
     }
     return pages;
 }

@@ -3,10 +3,10 @@
 /// Only `activated` is observed: it is emitted for the user's choice, not for filling and selecting by code.
 #include "qt/drop_list_box.h"
 
-#include <QProxyStyle>
 #include <QSignalBlocker>
 
 #include "qt/field_keys.h"
+#include "qt/program_style.h"
 #include "qt/texts.h"
 
 namespace mero::qt {
@@ -18,11 +18,11 @@ using platform::DropList;
 constexpr int kVisibleEntries = 20;
 
 /// Opens the list below its box with a limited number of entries, instead of over the whole screen.
-class ListStyle : public QProxyStyle {
+class ListStyle : public ProgramStyle {
   public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
-        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+        return hint == SH_ComboBox_Popup ? 0 : ProgramStyle::styleHint(hint, option, widget, data);
     }
 };
 

@@ -6,16 +6,17 @@
 #include <QRadioButton>
 
 #include "qt/look.h"
+#include "qt/section_title.h"
 
 namespace mero::qt {
 namespace {
 
 enum Column { kCaption, kField, kUnit, kBeside, kRest };
 
-constexpr int kNumberCharacters = 14;
+/// Room for a number of a result's larger font, too.
+constexpr int kNumberCharacters = 15;
 constexpr int kLongestCaptionLine = 36;
 constexpr int kLeastAreaLines = 3;
-constexpr int kMostAreaLines = 14;
 /// A text area takes the free space before the empty end of the grid does.
 constexpr int kAreaStretch = 1000;
 
@@ -57,7 +58,24 @@ FieldGrid::FieldGrid(WidgetKit& kit, QWidget& parent)
     : kit_(&kit), parent_(&parent), grid_(new QGridLayout(&parent)) {
     grid_->setColumnStretch(kRest, 1);
     grid_->setHorizontalSpacing(gap(parent));
-    grid_->setVerticalSpacing(gap(parent) / 2 + 1);
+    grid_->setVerticalSpacing(gap(parent) * 3 / 4);
+}
+
+int FieldGrid::captionWidth(const QWidget& widget, const QString& caption) {
+    return widget.fontMetrics().size(Qt::TextShowMnemonic, broken(caption)).width();
+}
+
+void FieldGrid::align(const FieldColumns& least) {
+    grid_->setColumnMinimumWidth(kCaption, least.caption);
+    grid_->setColumnMinimumWidth(kField, least.field);
+    grid_->setColumnMinimumWidth(kUnit, least.unit);
+}
+
+void FieldGrid::section(const QString& title) {
+    if (row_ > 0) {
+        space();
+    }
+    wide(*new SectionTitle(title, *parent_));
 }
 
 QLabel& FieldGrid::caption(const QString& text) {
@@ -111,7 +129,6 @@ QPlainTextEdit& FieldGrid::area(platform::TextBox& box, const QString& text) {
     describe(edit, text);
     const int line = edit.fontMetrics().lineSpacing();
     edit.setMinimumHeight(line * kLeastAreaLines + 2 * gap(edit));
-    edit.setMaximumHeight(line * kMostAreaLines + 2 * gap(edit));
     grid_->setAlignment(&label, Qt::AlignLeft | Qt::AlignTop);
     grid_->addWidget(&edit, row_, kField, 1, kRest - kField + 1);
     grid_->setRowStretch(row_, kAreaStretch);

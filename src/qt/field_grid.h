@@ -11,11 +11,25 @@
 
 namespace mero::qt {
 
+/// Least widths of the columns, so that the grids of a window stand in line [px].
+struct FieldColumns {
+    int caption = 0;
+    int field = 0;
+    int unit = 0;
+};
+
 class FieldGrid {
   public:
     /// Sets the layout of `parent`.
     FieldGrid(WidgetKit& kit, QWidget& parent);
 
+    /// Width that the caption takes in the font of `widget`.
+    [[nodiscard]] static int captionWidth(const QWidget& widget, const QString& caption);
+    /// Widens the columns.
+    void align(const FieldColumns& least);
+
+    /// A title above the following rows.
+    void section(const QString& title);
     /// A field for a number.
     QLineEdit& input(platform::TextBox& box, const QString& caption, const QString& unit = {});
     /// A read-only field, filled by the program.

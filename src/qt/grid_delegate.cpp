@@ -3,29 +3,18 @@
 /// The pictures are drawn, not stored, so they are sharp at any scale and follow the palette.
 #include "qt/grid_delegate.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
-#include <QPainterPath>
 
+#include "qt/contrast.h"
 #include "qt/focus_ring.h"
 #include "qt/look.h"
+#include "qt/style_painter.h"
 
 namespace mero::qt {
 namespace {
 
 constexpr double kPickedTint = 0.16;
-/// A clickable cell without a picture shows a hint, fainter than the unmarked picture.
-constexpr double kHintStrength = 0.35;
-constexpr double kBoxStrength = 0.75;
-
-void paintTick(QPainter& painter, const QRectF& box, const QColor& colour) {
-    QPainterPath tick;
-    tick.moveTo(box.left() + 0.22 * box.width(), box.top() + 0.52 * box.height());
-    tick.lineTo(box.left() + 0.43 * box.width(), box.top() + 0.73 * box.height());
-    tick.lineTo(box.left() + 0.79 * box.width(), box.top() + 0.29 * box.height());
-    painter.setPen(QPen(colour, 0.13 * box.width(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPath(tick);
-}
 
 }  // namespace
 
@@ -38,6 +27,22 @@ int GridDelegate::textHeight(const QString& text, int column_width, const QFont&
     const QRect bounds =
         metrics.boundingRect(QRect(0, 0, width, 1 << 20), Qt::TextWordWrap | Qt::AlignLeft, text);
     return qMax(metrics.height(), bounds.height()) + 2 * padding(metrics);
+}
+
+QRect GridDelegate::textPlace(const QStyleOptionViewItem& option, const QString& text) {
+    const auto* view = dynamic_cast<const QAbstractItemView*>(option.widget);
+    const int needed = textHeight(text, option.rect.width(), option.font);
+    if (view == nullptr || option.rect.height() <= needed) {
+        return option.rect;
+    }
+    // In the part of a merged cell that is not scrolled away, but never beyond the cell.
+    QRect visible = option.rect & view->viewport()->rect();
+    if (visible.height() < needed) {
+        const bool cut_above = option.rect.top() < visible.top();
+        visible.setTop(cut_above ? visible.bottom() + 1 - needed : visible.top());
+        visible.setHeight(needed);
+    }
+    return visible;
 }
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -55,8 +60,9 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setPen(palette.color(group, QPalette::Text));
     painter->setFont(option.font);
     const auto alignment = index.data(Qt::TextAlignmentRole).toInt();
-    painter->drawText(option.rect.adjusted(padded, 0, -padded, 0), alignment | Qt::TextWordWrap,
-                      index.data(Qt::DisplayRole).toString());
+    const QString text = index.data(Qt::DisplayRole).toString();
+    painter->drawText(textPlace(option, text).adjusted(padded, 0, -padded, 0), alignment | Qt::TextWordWrap,
+                      text);
     if (option.state & QStyle::State_HasFocus) {
         paintRing(*painter, option.rect, palette);
     }
@@ -64,23 +70,22 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 void GridDelegate::paintPicture(QPainter& painter, const QStyleOptionViewItem& option,
                                 const QModelIndex& index) const {
-    const auto mark = model_->mark(index);
-    const QColor base = option.palette.color(QPalette::Base);
-    const QColor ink = option.palette.color(QPalette::Text);
+    // A cell that was never marked and one that is not marked any more mean the same.
+    const bool marked = model_->mark(index).value_or(false);
     const double size = option.fontMetrics.ascent();
     QRectF box(0, 0, size, size);
     box.moveCenter(QRectF(option.rect).center());
 
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    if (mark.value_or(false)) {
+    if (marked) {
         const QColor fill = option.palette.color(QPalette::Highlight);
         painter.setPen(Qt::NoPen);
         painter.setBrush(fill);
         painter.drawRoundedRect(box, size / 6, size / 6);
         paintTick(painter, box, option.palette.color(QPalette::HighlightedText));
     } else {
-        painter.setPen(QPen(mixed(base, ink, mark.has_value() ? kBoxStrength : kHintStrength), 1.2));
+        painter.setPen(QPen(outlineColour(option.palette), 1.2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(box, size / 6, size / 6);
     }

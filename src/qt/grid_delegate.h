@@ -20,6 +20,9 @@ class GridDelegate : public QStyledItemDelegate {
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
+    /// Where a text stands: in the visible part of a cell that is partly scrolled away.
+    [[nodiscard]] static QRect textPlace(const QStyleOptionViewItem& option, const QString& text);
+
   private:
     void paintPicture(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
 

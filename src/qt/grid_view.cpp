@@ -8,8 +8,8 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <numeric>
 #include <utility>
-#include <vector>
 
 #include "qt/focus_ring.h"
 #include "qt/grid_delegate.h"
@@ -71,9 +71,32 @@ void GridView::layOut() {
     if (std::exchange(laying_out_, true)) {
         return;
     }
-    layOutColumns();
-    layOutRows();
+    // Where all rows fit into the whole width, there is no scroll bar that would make them higher.
+    const int whole = width() - 2 * frameWidth();
+    const int room = height() - 2 * frameWidth() - horizontalHeader()->height();
+    const bool fits = rowsHeight(whole, model_.rowCount()) <= room;
+    const std::vector<int> widths = columnWidths(fits ? whole : viewport()->width());
+    for (int column = 0; column < model_.columnCount(); ++column) {
+        setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    }
+    const std::vector<int> heights = rowHeights(widths);
+    for (int row = 0; row < model_.rowCount(); ++row) {
+        setRowHeight(row, heights[static_cast<std::size_t>(row)]);
+    }
+    clearSpans();
+    for (int column = 0; column < model_.columnCount(); ++column) {
+        for (int first = 0, end = 0; merges(column) && first < model_.rowCount(); first = end) {
+            end = endOfMerged(first, column);
+            if (end - first > 1) {
+                setSpan(first, column, end - first, 1);
+            }
+        }
+    }
     laying_out_ = false;
+    if (isVisible()) {
+        // The rows' height depends on the width that the view was given.
+        updateGeometry();
+    }
     if (cells_moved) {
         cells_moved();
     }
@@ -84,9 +107,21 @@ int GridView::headingWidth(int column) const {
     return horizontalHeader()->fontMetrics().horizontalAdvance(heading) + 2 * gap(*this);
 }
 
-void GridView::layOutColumns() {
+bool GridView::merges(int column) const {
+    return grid_->columns()[static_cast<std::size_t>(column)].merges_equal_neighbours;
+}
+
+int GridView::endOfMerged(int first, int column) const {
+    const auto text = [&](int row) { return model_.index(row, column).data(Qt::DisplayRole); };
+    int end = first + 1;
+    while (end < model_.rowCount() && text(end) == text(first)) {
+        ++end;
+    }
+    return end;
+}
+
+std::vector<int> GridView::columnWidths(int available) const {
     const int columns = model_.columnCount();
-    const int available = viewport()->width();
     std::vector<int> widths;
     int excess = -available;
     for (int column = 0; column < columns; ++column) {
@@ -105,47 +140,31 @@ void GridView::layOutColumns() {
     if (excess < 0 && columns > 0) {
         widths.back() -= excess;
     }
-    for (int column = 0; column < columns; ++column) {
-        setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
-    }
+    return widths;
 }
 
-void GridView::layOutRows() {
-    clearSpans();
+std::vector<int> GridView::rowHeights(const std::vector<int>& widths) const {
     const int rows = model_.rowCount();
     const int columns = model_.columnCount();
-    const auto text_height = [this](int row, int column) {
+    const auto text_height = [&](int row, int column) {
         const QString text = model_.index(row, column).data(Qt::DisplayRole).toString();
-        return GridDelegate::textHeight(text, columnWidth(column), font());
+        return GridDelegate::textHeight(text, widths[static_cast<std::size_t>(column)], font());
     };
+    std::vector<int> heights(static_cast<std::size_t>(rows), 0);
     for (int row = 0; row < rows; ++row) {
-        int height = 0;
+        int& height = heights[static_cast<std::size_t>(row)];
         for (int column = 0; column < columns; ++column) {
-            if (!grid_->columns()[static_cast<std::size_t>(column)].merges_equal_neighbours) {
-                height = qMax(height, text_height(row, column));
-            }
+            height = merges(column) ? height : qMax(height, text_height(row, column));
         }
-        setRowHeight(row, height);
     }
     for (int column = 0; column < columns; ++column) {
-        if (!grid_->columns()[static_cast<std::size_t>(column)].merges_equal_neighbours) {
-            continue;
-        }
-        for (int first = 0, end = 0; first < rows; first = end) {
-            const auto text = [&](int row) { return model_.index(row, column).data(Qt::DisplayRole); };
-            int height = 0;
-            for (end = first; end < rows && text(end) == text(first); ++end) {
-                height += rowHeight(end);
-            }
-            const int missing = text_height(first, column) - height;
-            if (missing > 0) {
-                setRowHeight(end - 1, rowHeight(end - 1) + missing);
-            }
-            if (end - first > 1) {
-                setSpan(first, column, end - first, 1);
-            }
+        for (int first = 0, end = 0; merges(column) && first < rows; first = end) {
+            end = endOfMerged(first, column);
+            const int height = std::accumulate(heights.begin() + first, heights.begin() + end, 0);
+            heights[static_cast<std::size_t>(end - 1)] += qMax(0, text_height(first, column) - height);
         }
     }
+    return heights;
 }
 
 QRect GridView::cellRect(GridCell cell) const {
@@ -170,10 +189,16 @@ void GridView::reveal(GridCell cell) {
     }
 }
 
+int GridView::rowsHeight(int available, int rows) const {
+    const std::vector<int> heights = rowHeights(columnWidths(available));
+    return std::accumulate(heights.begin(), heights.begin() + qMin(rows, model_.rowCount()), 0);
+}
+
 QSize GridView::sizeHint() const {
-    const QSize room = {textWidth(*this, room_.characters), GridDelegate::textHeight({}, width(), font())};
-    return {room.width(), horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
-                              room.height() * qMin(room_.rows, model_.rowCount())};
+    const int wanted = textWidth(*this, room_.characters);
+    const int given = isVisible() ? width() : wanted;
+    return {wanted, horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
+                        rowsHeight(given - 2 * frameWidth(), room_.rows)};
 }
 
 std::optional<GridCell> GridView::cellAt(QPoint position) const {
@@ -269,6 +294,8 @@ void GridView::changeEvent(QEvent* event) {
 
 void GridView::scrollContentsBy(int dx, int dy) {
     QTableView::scrollContentsBy(dx, dy);
+    // The text of a merged cell moves within it, so that it stays visible.
+    viewport()->update();
     if (cells_moved) {
         cells_moved();
     }

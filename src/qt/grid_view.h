@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QTableView>
 #include <optional>
+#include <vector>
 
 #include "platform/controls/grid.h"
 #include "qt/grid_model.h"
@@ -60,8 +61,13 @@ class GridView : public QTableView {
     bool typeIntoCell(QKeyEvent& event);
     void refreshLater();
     void layOut();
-    void layOutColumns();
-    void layOutRows();
+    [[nodiscard]] std::vector<int> columnWidths(int available) const;
+    [[nodiscard]] std::vector<int> rowHeights(const std::vector<int>& widths) const;
+    /// Height of the first rows, all columns together being that wide.
+    [[nodiscard]] int rowsHeight(int available, int rows) const;
+    /// The row after the last one that is merged with `first` in this column.
+    [[nodiscard]] int endOfMerged(int first, int column) const;
+    [[nodiscard]] bool merges(int column) const;
     [[nodiscard]] int headingWidth(int column) const;
 
     WidgetKit* kit_;

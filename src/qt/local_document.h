@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Loads and decodes a local HTML document with its pictures. It loads nothing from the network.
-/// Text without a font size has 12 pt, as in browsers, on the screen and on paper.
+/// Text without a font size is about as wide as in browsers, on the screen and on paper.
 #pragma once
 
 #include <QTextDocument>

@@ -15,7 +15,11 @@ namespace {
 
 constexpr const char* kResultProperty = "mero_result";
 constexpr const char* kGreyedProperty = "mero_greyed";
+constexpr const char* kPrimaryProperty = "mero_primary";
 constexpr double kResultTint = 0.12;
+/// A result is read from a distance, a title found at a glance.
+constexpr double kResultSize = 1.3;
+constexpr double kTitleSize = 1.1;
 constexpr int kDarkBelow = 128;
 constexpr QRgb kWarningOnLight = 0xffb3261e;
 constexpr QRgb kWarningOnDark = 0xffff9a7a;
@@ -50,6 +54,16 @@ void colourField(QWidget& field) {
 void colourWarning(QWidget& label) {
     const bool dark = isDark(QApplication::palette());
     setColour(label, QPalette::WindowText, QColor(dark ? kWarningOnDark : kWarningOnLight));
+}
+
+/// A button filled with the colour of selections has the text of selections.
+void colourPrimary(QWidget& button) {
+    QPalette palette;
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::ButtonText,
+                         QApplication::palette().color(QPalette::Active, QPalette::HighlightedText));
+    }
+    button.setPalette(palette);
 }
 
 /// Colours a widget now and whenever the program's palette changes.
@@ -108,9 +122,28 @@ void showAsResult(QLineEdit& field) {
     field.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QFont font = field.font();
     font.setBold(true);
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * kResultSize);
     field.setFont(font);
     field.setAccessibleDescription(QStringLiteral("výsledek"));
     keepColoured(field);
+}
+
+void showAsPrimary(QWidget& button) {
+    button.setProperty(kPrimaryProperty, true);
+    QFont font = button.font();
+    font.setBold(true);
+    button.setFont(font);
+    new Colouring(button, colourPrimary);
+}
+
+bool isPrimary(const QWidget& button) {
+    return button.property(kPrimaryProperty).toBool();
+}
+
+QFont titleFont(QFont font) {
+    font.setBold(true);
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * kTitleSize);
+    return font;
 }
 
 void showAsWarning(QLabel& label) {

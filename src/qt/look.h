@@ -12,6 +12,13 @@ namespace mero::qt {
 /// Shows the field as a result: read-only, but its text can be copied.
 void showAsResult(QLineEdit& field);
 
+/// Shows the button as the one that its page is about.
+void showAsPrimary(QWidget& button);
+[[nodiscard]] bool isPrimary(const QWidget& button);
+
+/// The font of titles beside texts in `font`.
+[[nodiscard]] QFont titleFont(QFont font);
+
 /// Shows the label as a permanent warning.
 void showAsWarning(QLabel& label);
 

@@ -61,6 +61,8 @@ class Stretches {
 
     void addTable(const QTextTable& table) {
         const qreal frame = table.format().cellPadding() + table.format().border() + 1;
+        Stretch whole{std::numeric_limits<qreal>::max(), 0};
+        const bool beside_text = next_ != Next::MayBeApart;
         for (int row = 0; row < table.rows(); ++row) {
             Stretch stretch{std::numeric_limits<qreal>::max(), 0};
             for (int column = 0; column < table.columns(); ++column) {
@@ -69,7 +71,13 @@ class Stretches {
                     extend(stretch, cell, frame);
                 }
             }
-            add(stretch, row == 0 && next_ != Next::MayBeApart);
+            add(stretch, row == 0 && beside_text);
+            whole.top = std::min(whole.top, all_.back().top);
+            whole.bottom = std::max(whole.bottom, stretch.bottom);
+        }
+        // Values without rules are read as one; a ruled table may be long.
+        if (table.format().border() == 0) {
+            add(whole, false);
         }
         next_ = Next::MayBeApart;
     }
@@ -86,11 +94,13 @@ class Stretches {
     Next next_ = Next::MayBeApart;
 };
 
-/// The last position at or before `limit` outside every span; `limit` itself when a span fills the page.
+/// The last position at or before `limit` outside every span that fits a page; `limit` itself when a span
+/// fills the page.
 qreal cutBefore(qreal limit, qreal begin, const std::vector<Stretch>& stretches) {
     qreal cut = limit;
     for (auto it = stretches.rbegin(); it != stretches.rend(); ++it) {
-        if (it->top < cut && it->bottom > cut && it->top > begin) {
+        const bool fits = it->bottom - it->top <= limit - begin;
+        if (fits && it->top < cut && it->bottom > cut && it->top > begin) {
             cut = it->top;
         }
     }

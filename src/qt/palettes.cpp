@@ -4,7 +4,9 @@
 #include "qt/palettes.h"
 
 #include <QApplication>
-#include <QStyleFactory>
+#include <QStyle>
+
+#include "qt/look.h"
 
 namespace mero::qt {
 namespace {
@@ -29,15 +31,15 @@ struct Colours {
     QRgb shadow;
 };
 
-constexpr Colours kLight{.window = 0xfff0f1f2,
+constexpr Colours kLight{.window = 0xffe9eef4,
                          .base = 0xffffffff,
-                         .alternate_base = 0xfff6f7f8,
-                         .button = 0xffe6e8ea,
+                         .alternate_base = 0xfff4f7fa,
+                         .button = 0xffe3eaf1,
                          .text = 0xff16191c,
-                         .disabled_text = 0xff63686d,
-                         .highlight = 0xff1f6cb0,
+                         .disabled_text = 0xff5b6268,
+                         .highlight = 0xff145ca8,
                          .disabled_highlight = 0xff8d959c,
-                         .link = 0xff0b57a4,
+                         .link = 0xff145ca8,
                          .visited_link = 0xff6b3fa0,
                          .tip = 0xfffffbe6,
                          .light = 0xffffffff,
@@ -46,10 +48,10 @@ constexpr Colours kLight{.window = 0xfff0f1f2,
                          .dark = 0xff979da3,
                          .shadow = 0xff6c7278};
 
-constexpr Colours kDark{.window = 0xff2e3134,
-                        .base = 0xff191b1d,
-                        .alternate_base = 0xff212427,
-                        .button = 0xff40444a,
+constexpr Colours kDark{.window = 0xff272b30,
+                        .base = 0xff17191c,
+                        .alternate_base = 0xff202429,
+                        .button = 0xff3d434b,
                         .text = 0xffe8eaec,
                         .disabled_text = 0xffb4b9be,
                         .highlight = 0xff3578b6,
@@ -103,9 +105,15 @@ QPalette darkPalette() {
     return paletteOf(kDark);
 }
 
-void usePalette(const QPalette& palette) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(palette);
+void useOwnColoursWhereDesktopHasNone() {
+    const QPalette given = QApplication::style()->standardPalette();
+    const QPalette used = QApplication::palette();
+    const bool untouched = used.color(QPalette::Window) == given.color(QPalette::Window) &&
+                           used.color(QPalette::Base) == given.color(QPalette::Base) &&
+                           used.color(QPalette::Highlight) == given.color(QPalette::Highlight);
+    if (untouched) {
+        QApplication::setPalette(isDark(given) ? darkPalette() : lightPalette());
+    }
 }
 
 }  // namespace mero::qt

@@ -9,7 +9,7 @@ namespace mero::qt {
 [[nodiscard]] QPalette lightPalette();
 [[nodiscard]] QPalette darkPalette();
 
-/// Applies the palette to the whole program. It also sets a style that uses only the palette's colours.
-void usePalette(const QPalette& palette);
+/// On a desktop that sets no colours the program has its own instead of the style's greys.
+void useOwnColoursWhereDesktopHasNone();
 
 }  // namespace mero::qt

@@ -25,7 +25,10 @@ struct ColumnWidth {
 };
 constexpr std::array kProjectColumns{ColumnWidth{"200", "148"}, ColumnWidth{"450", "288"},
                                      ColumnWidth{"210", "202"}};
-constexpr std::array kValueColumns{ColumnWidth{"200", "198"}, ColumnWidth{"250", "248"}};
+/// A label has a part of the room of its value, which ends where it does in a browser: the view's face is
+/// wider, and a label that is broken there need not be broken here.
+constexpr std::array kLabelColumns{ColumnWidth{"200", "219"}, ColumnWidth{"250", "248"}};
+constexpr std::array kValueColumns{ColumnWidth{"200", "177"}, ColumnWidth{"250", "248"}};
 /// A browser adds padding and rule to the given width.
 constexpr std::array kRuledColumns{ColumnWidth{"150", "153"}, ColumnWidth{"200", "203"},
                                    ColumnWidth{"250", "253"}};
@@ -37,6 +40,8 @@ constexpr std::string_view kRuledTableStyle =
 /// The report's block; only rules and the description are as wide as it.
 constexpr std::string_view kBlockBegin = "<table width=650 border=0 cellspacing=0 cellpadding=0><tr><td>";
 constexpr std::string_view kBlockEnd = "</td></tr></table>";
+constexpr std::string_view kRainUnit = " (l/s.ha)";
+constexpr std::string_view kRainUnitBelow = "<br>(l/s.ha)";
 constexpr std::string_view kParagraphGap = "margin-top:16px;";
 
 constexpr std::array<std::string_view, 8> kTextTags{"u", "b", "i", "font", "sub", "sup", "a", "img"};
@@ -74,6 +79,13 @@ class Arranger {
         if (text.front() == '<') {
             out_ += "&lt;";
             text.remove_prefix(1);
+        }
+        if (ruled_ && in_table_ && text.ends_with(kRainUnit)) {
+            // The view would break the line within the unit.
+            text.remove_suffix(kRainUnit.size());
+            out_ += text;
+            out_ += kRainUnitBelow;
+            return;
         }
         out_ += text;
     }
@@ -128,13 +140,14 @@ class Arranger {
         if (tag.attribute("valign").empty()) {
             cell += " valign=middle";
         }
-        replaceWidth(cell, tag.attribute("width"));
+        replaceWidth(cell, tag);
         // The logo is higher than the rows beside it: spanning all of them, it does not stretch any.
         replace(cell, "rowspan=4", "rowspan=5");
         out_ += cell + ">";
     }
 
-    void replaceWidth(std::string& cell, std::string_view asked) const {
+    void replaceWidth(std::string& cell, const HtmlTag& tag) const {
+        const std::string_view asked = tag.attribute("width");
         const auto fit = [&](const auto& columns) {
             for (const ColumnWidth& column : columns) {
                 if (column.asked == asked) {
@@ -148,7 +161,7 @@ class Arranger {
         } else if (ruled_) {
             fit(kRuledColumns);
         } else {
-            fit(kValueColumns);
+            fit(tag.name() == "td" ? kLabelColumns : kValueColumns);
         }
     }
 

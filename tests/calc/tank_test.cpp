@@ -67,6 +67,16 @@ TEST(TankShape, VolumeIsAFrustumOfAPyramid) {
     expectClose(volume(kSloped), 213.2055435);
 }
 
+TEST(TankShape, VolumeIsLessThanThatOfABasinWithEqualSlopes) {
+    // Depth h, run of the slopes d: h * (L * B + d * (L + B) + 4 / 3 * d^2) with h = 1.5 and d = 3.
+    // Bottom 30 x 10: 1.5 * (300 + 120 + 12) = 648; the formula 1.5 / 3 * (36 * 16 + 300 + sqrt(172800)).
+    expectClose(volume({30.0F, 10.0F, 36.0F, 16.0F, 1.5F}), 645.8460969);
+    EXPECT_NEAR(648.0 / 645.8460969, 1.003, 0.0005);
+    // Bottom 100 x 1: 1.5 * (100 + 303 + 12) = 622.5; the formula 1.5 / 3 * (106 * 7 + 100 + sqrt(74200)).
+    expectClose(volume({100.0F, 1.0F, 106.0F, 7.0F, 1.5F}), 557.1983846);
+    EXPECT_NEAR(622.5 / 557.1983846, 1.12, 0.005);
+}
+
 TEST(TankShape, VerticalSidesHoldTheBox) {
     EXPECT_EQ(volume({10.0F, 5.0F, 10.0F, 5.0F, 2.0F}), 100.0F);
     EXPECT_EQ(volume({12.5F, 7.25F, 12.5F, 7.25F, 1.5F}), 135.9375F);

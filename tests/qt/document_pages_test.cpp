@@ -82,6 +82,62 @@ TEST_F(Pages, ATextStaysWithTheTableThatItIsAbout) {
     EXPECT_LE(breaks[1], heading.top());
 }
 
+TEST_F(Pages, ATableOfValuesIsNotDivided) {
+    load("<html><body>" + QByteArray("<p style='margin:0'>x</p>").repeated(20) +
+         "<p style='margin:0'>Výsledky</p><table border=0>" + QByteArray("<tr><td>a</td></tr>").repeated(10) +
+         "</table></body></html>");
+    document.setTextWidth(600);
+    const auto* layout = document.documentLayout();
+    const qreal heading = layout->blockBoundingRect(document.findBlockByNumber(20)).top();
+    const qreal end = layout->documentSize().height();
+    const std::vector<qreal> breaks = pageBreaks(document, (heading + end) / 2);
+    ASSERT_EQ(breaks.size(), 3U);
+    EXPECT_LE(breaks[1], heading) << "with its heading it begins the next page";
+}
+
+TEST_F(Pages, ATableOfValuesHigherThanAPageIsDividedBetweenRows) {
+    load("<html><body><table border=0>" + QByteArray("<tr><td>a</td></tr>").repeated(60) +
+         "</table></body></html>");
+    document.setTextWidth(600);
+    const std::vector<qreal> breaks = pageBreaks(document, 400);
+    EXPECT_GT(breaks.size(), 3U);
+    EXPECT_GT(breaks[1], 350) << "the page is used";
+}
+
+class PageFit : public testing::Test {
+  protected:
+    /// Pages of a document with that many lines.
+    static int pagesOf(int lines) {
+        LocalDocument document{plain};
+        fill(document, lines);
+        QBuffer pdf;
+        pdf.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&pdf);
+        writer.setPageLayout(paperLayout());
+        return paintPages(document, writer);
+    }
+    /// The lines that fit a page without a reduction: A4 less the margins and the foot of 30 px.
+    static int linesOfAPage() {
+        LocalDocument document{plain};
+        fill(document, 1);
+        constexpr qreal kRoomPx = (297 - 2 * 15) / 25.4 * 96 - 30;
+        const qreal line_px = document.documentLayout()->blockBoundingRect(document.begin()).height();
+        return static_cast<int>(kRoomPx / line_px);
+    }
+
+  private:
+    static void fill(LocalDocument& document, int lines) {
+        document.setHtml(QStringLiteral("<p style='margin:0'>x</p>").repeated(lines));
+    }
+};
+
+TEST_F(PageFit, WhatIsALittleLongerThanAPageIsReducedToOne) {
+    const int lines = linesOfAPage();
+    EXPECT_EQ(pagesOf(lines), 1);
+    EXPECT_EQ(pagesOf(lines * 110 / 100), 1);
+    EXPECT_EQ(pagesOf(lines * 130 / 100), 2) << "texts stay large enough to be read";
+}
+
 TEST_F(Pages, ARowHigherThanAPageIsCut) {
     load("<html><body><table><tr><td>" + QByteArray("x<br>").repeated(300) +
          "</td></tr></table></body></html>");

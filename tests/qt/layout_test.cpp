@@ -32,7 +32,7 @@ class Fields : public testing::Test {
         return *new QLabel(&place);
     }
     void show() {
-        window.resize(700, 200);
+        window.resize(1000, 200);
         QApplication::processEvents();
     }
 };
@@ -68,8 +68,10 @@ TEST_F(Fields, AResultIsReadOnlyBoldAndOnTheRight) {
 }
 
 TEST_F(Fields, TheirWidthComesFromTheFont) {
+    platform::TextBox other(bench.form, "txtVsakTok");
     const QLineEdit& line = grid.input(box, "a");
-    EXPECT_EQ(line.width(), textWidth(line, 14));
+    EXPECT_EQ(line.width(), textWidth(line, 15));
+    EXPECT_EQ(grid.result(other, "b").width(), line.width()) << "whatever their font is";
 }
 
 TEST_F(Fields, AResultGrowsRatherThanLoseItsFirstDigits) {

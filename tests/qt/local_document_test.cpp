@@ -31,8 +31,8 @@ class DocumentText : public testing::Test {
     LocalDocument document{[](std::string_view bytes) { return std::string(bytes); }};
 };
 
-TEST_F(DocumentText, StandsInTwelvePoints) {
-    EXPECT_EQ(document.defaultFont().pointSizeF(), 12);
+TEST_F(DocumentText, IsAsWideAsTheNarrowerFaceOfABrowser) {
+    EXPECT_EQ(document.defaultFont().pointSizeF(), 10);
     EXPECT_EQ(document.documentMargin(), 8);
 }
 

@@ -4,27 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-
+#include "qt/contrast.h"
 #include "qt/look.h"
 
 namespace mero::qt {
 namespace {
-
-/// Relative luminance of a colour, 0 for black and 1 for white.
-double luminance(const QColor& colour) {
-    const auto linear = [](double share) {
-        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other) {
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 class Palettes : public testing::TestWithParam<bool> {
   protected:
@@ -32,8 +16,10 @@ class Palettes : public testing::TestWithParam<bool> {
 };
 
 TEST_P(Palettes, AreAsDarkAsTheySay) {
-    EXPECT_EQ(luminance(palette.color(QPalette::Window)) < 0.2, GetParam());
-    EXPECT_EQ(luminance(palette.color(QPalette::Base)) < 0.2, GetParam());
+    for (const auto role : {QPalette::Window, QPalette::Base}) {
+        EXPECT_EQ(contrast(palette.color(role), Qt::black) < contrast(palette.color(role), Qt::white),
+                  GetParam());
+    }
 }
 
 TEST_P(Palettes, TextsCanBeReadAlsoWhereDisabled) {

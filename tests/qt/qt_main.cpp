@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include "platform/numbers/numeric_locale.h"
+#include "qt/program_style.h"
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
@@ -13,5 +14,6 @@ int main(int argc, char** argv) {
     }
     const QApplication application(argc, argv);
     mero::numbers::useNumericCLocale();
+    mero::qt::useProgramStyle();
     return RUN_ALL_TESTS();
 }

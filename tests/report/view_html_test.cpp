@@ -53,6 +53,20 @@ TEST(ArrangedForView, TheDescriptionIsAsWideAsTheReport) {
                   kRule);
 }
 
+TEST(ArrangedForView, ALabelTakesRoomFromItsValueWhichEndsWhereItDid) {
+    const std::string html = arranged(
+        "<table></table><table border=0><TR><TD valign=bottom width=200>Investor</TD>"
+        "<TH valign=bottom align=right width=200>1</TH><TH width=250>m</TH></TR></table>");
+    EXPECT_THAT(html, HasSubstr("<TD valign=bottom width=219>Investor"));
+    // 219 + 177 are the 198 + 198 that a browser gives.
+    EXPECT_THAT(html, HasSubstr("<TH valign=bottom align=right width=177>1"));
+}
+
+TEST(ArrangedForView, AUnitInAHeadingStandsBelowItsWords) {
+    EXPECT_THAT(arranged("<table border=1><tr><th width=150>Intenzita deště (l/s.ha)</th></tr></table>"),
+                HasSubstr("Intenzita deště<br>(l/s.ha)</th>"));
+}
+
 TEST(ArrangedForView, RuledTablesHaveThinBlackLines) {
     EXPECT_THAT(
         arranged("<table border=1 style=border-collapse:collapse><tr><td width=150>5</td></tr></table>"),

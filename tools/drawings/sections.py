@@ -226,9 +226,11 @@ def tank():
     c.level(x1 + edge, x4 - edge, level, 400)
     c.text(100, 182, "Předsazené usazování", "centre", backed=True)
     c.text(12, 24, "Řez", bold=True)
-    c.across(x1, x4, 74, "šířka v koruně $B_h$", reach=(ground, ground))
+    c.across(x1 + edge, x4 - edge, 74, "šířka při maximální hladině $B_h$", reach=(level, level))
     c.across(x2, x3, 226, "Šířka dna nádrže $B_d$", reach=(bottom, bottom), below=True)
-    c.down(600, ground, bottom, "Hloubka\nnádrže $H_n$", reach=(x4, x3), side="left", at=176)
+    c.down(600, level, bottom, "Hloubka\nnádrže $H_n$", reach=(x4 - edge, x3), side="left", at=176)
+    c.down(600, ground, level, "", reach=(x4, x4 - edge), backed=False)
+    c.text(WIDTH - 8, 96, "převýšení", "right", backed=False)
     c.text(268, 178, "1 : $m$", "centre", backed=True)
     c.text(268, 215, "Sklon svahů nádrže", "centre", backed=True)
     c.text(400, 168, "objem $V_n$", "centre")
@@ -237,15 +239,15 @@ def tank():
     # plan
     c.text(12, 330, "Půdorys", bold=True)
     px1, px2, py1, py2, inset = 170, 520, 360, 510, 40
-    c.rectangle(px1, py1, px2, py2, WHITE, INK, 1.8)
+    c.rectangle(px1, py1, px2, py2, WATER, INK, 1.8)
     c.polygon([(px1 + inset, py1 + inset), (px2 - inset, py1 + inset), (px2 - inset, py2 - inset),
                (px1 + inset, py2 - inset)], WATER, INK, 1.4)
     for a, b in (((px1, py1), (px1 + inset, py1 + inset)), ((px2, py1), (px2 - inset, py1 + inset)),
                  ((px1, py2), (px1 + inset, py2 - inset)), ((px2, py2), (px2 - inset, py2 - inset))):
         c.line(a, b, width=1)
     c.across(px1 + inset, px2 - inset, 440, "Délka dna nádrže $L_d$", backed=False)
-    c.across(px1, px2, 534, "délka v koruně $L_h$", reach=(py2, py2), below=True)
-    c.down(150, py1, py2, "šířka v koruně $B_h$", reach=(px1, px1), side="left")
+    c.across(px1, px2, 534, "délka při maximální hladině $L_h$", reach=(py2, py2), below=True)
+    c.down(150, py1, py2, "šířka při max.\nhladině $B_h$", reach=(px1, px1), side="left")
     c.down(540, py1 + inset, py2 - inset, "Šířka dna\nnádrže $B_d$", reach=(px2 - inset, px2 - inset))
     return c
 

@@ -31,6 +31,7 @@
 #include "platform/locale_settings.h"
 #include "platform/numbers/numeric_locale.h"
 #include "qt/palettes.h"
+#include "qt/program_style.h"
 #include "report/view_html.h"
 
 namespace {
@@ -201,8 +202,12 @@ int main(int argc, char** argv) {
         }
         QApplication application(window_system_arguments, argv);
         numbers::useNumericCLocale();
-        if (options.palette != app::Palette::System) {
-            qt::usePalette(options.palette == app::Palette::Dark ? qt::darkPalette() : qt::lightPalette());
+        qt::useProgramStyle();
+        if (options.palette == app::Palette::System) {
+            qt::useOwnColoursWhereDesktopHasNone();
+        } else {
+            QApplication::setPalette(options.palette == app::Palette::Dark ? qt::darkPalette()
+                                                                           : qt::lightPalette());
         }
         if (!QFontMetrics(QApplication::font()).inFont(QLatin1Char('A'))) {
             std::cerr

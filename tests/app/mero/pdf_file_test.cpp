@@ -18,14 +18,17 @@ namespace mero::app {
 namespace {
 
 using platform::PdfResult;
+using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Not;
 
 class PdfFile : public testing::Test {
   protected:
     PdfResult make(int type, const std::string& target) const {
-        EXPECT_EQ(report::writeReport(folder.file("Mero_Test"),
-                                      report::htmlReport(report::test::sampleProject(type))),
+        return make(report::test::sampleProject(type), target);
+    }
+    PdfResult make(report::ReportData project, const std::string& target) const {
+        EXPECT_EQ(report::writeReport(folder.file("Mero_Test"), report::htmlReport(project)),
                   report::WriteResult::Written);
         return makePdfFile(folder.file("Mero_Test"), target, report::viewHtml);
     }
@@ -35,6 +38,10 @@ class PdfFile : public testing::Test {
         process.start(tool, arguments);
         EXPECT_TRUE(process.waitForFinished()) << "poppler-utils has the tools for PDF files";
         return process.readAllStandardOutput().toStdString();
+    }
+
+    [[nodiscard]] std::string pageText(const char* page) const {
+        return told("pdftotext", {"-layout", "-f", page, "-l", page, pdf_path, "-"});
     }
 
     test::TemporaryFolder folder{" pdf ěš"};
@@ -55,6 +62,37 @@ TEST_F(PdfFile, HasTheTextOfEveryTypeWithItsDiacritics) {
         EXPECT_THAT(text, HasSubstr("Datum a čas výpočtu:")) << type;
         EXPECT_THAT(text, HasSubstr(names[static_cast<std::size_t>(type - 1)]));
         EXPECT_THAT(text, Not(HasSubstr("Stránku nelze zobrazit")));
+    }
+}
+
+TEST_F(PdfFile, AUsualProjectTakesOnePage) {
+    for (int type = 1; type <= 6; ++type) {
+        ASSERT_EQ(make(type, pdf), PdfResult::Made);
+        EXPECT_THAT(told("pdfinfo", {pdf_path}), ContainsRegex("Pages: +1\n")) << type;
+    }
+}
+
+TEST_F(PdfFile, LabelsThatABrowserLeavesInOneLineAreNotBroken) {
+    ASSERT_EQ(make(3, pdf), PdfResult::Made);
+    EXPECT_THAT(pageText("1"), HasSubstr("Vsakování v kombinovaném objektu"));
+    EXPECT_THAT(pageText("1"), HasSubstr("Celková odvodňovaná plocha"));
+    EXPECT_THAT(pageText("1"), HasSubstr("Hloubka průlehu (výška vzdutí)"));
+    EXPECT_THAT(pageText("1"), HasSubstr("(l/s.ha)")) << "nor is a unit";
+    ASSERT_EQ(make(5, pdf), PdfResult::Made);
+    EXPECT_THAT(pageText("1"), HasSubstr("Potřebný součinitel filtrace filtru"));
+}
+
+TEST_F(PdfFile, TheSecondPageCarriesTheProjectsNameAndAllResults) {
+    report::ReportData project = report::test::sampleProject(5);
+    for (int line = 0; line < 25; ++line) {
+        project.texts.txtDetails += "<br>řádek popisu";
+    }
+    ASSERT_EQ(make(project, pdf), PdfResult::Made);
+    EXPECT_THAT(told("pdfinfo", {pdf_path}), ContainsRegex("Pages: +2\n"));
+    EXPECT_THAT(pageText("1"), Not(HasSubstr("Výsledky")));
+    for (const char* shown : {"Nákupní centrum Žďár", "Výsledky", "Součinitel bezpečnosti", "Tloušťka stěny",
+                              "Potřebná hloubka šachty", "Vsakovací plocha", "2/2"}) {
+        EXPECT_THAT(pageText("2"), HasSubstr(shown));
     }
 }
 

@@ -46,7 +46,7 @@ TEST(PrintPreview, ShowsTheReportsPagesOnA4) {
     });
     closing.start();
     desk.openPrintPreview(folder.file("Mero_Test"));
-    EXPECT_EQ(pages, 2);
+    EXPECT_EQ(pages, 1);
     EXPECT_EQ(title, "Náhled před tiskem");
 }
 

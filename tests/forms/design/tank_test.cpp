@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Infiltration tanks: required storage against the volume of the shape, then the proof of the flow.
 /// Numbers: see expected.py.
+#include "forms/calc/tank_flow.h"
 #include "forms/design/design_fixture.h"
 
 namespace mero::forms::test {
@@ -40,6 +41,16 @@ TEST_F(Tank, CloggedBottomTakesAFifth) {
     // Mean of bottom 20 x 10 and top 24 x 14 at half of 2e-5: 0.0027 m3/s for an assumed 0.005.
     EXPECT_THAT(project.messages(), ElementsAre(kVolume, kExceeded));
     EXPECT_EQ(project.pickedRain(), "90 min, 45 l/s.ha");
+}
+
+TEST_F(Tank, ItsFlowIsToldInLitresToo) {
+    // 10 l/(s.ha) x 10 152 m2 = 10.152 l/s, which its box rounds to 0.01 m3/s.
+    project.site("10152", "1e-4");
+    tank("10", "20", "10", "1", "2");
+    EXPECT_EQ(tankFlowInLitres(window), "");
+    project.calculate();
+    EXPECT_EQ(window.txtVsakTok.text(), "0.01");
+    EXPECT_EQ(tankFlowInLitres(window), "= 10.15 l/s");
 }
 
 TEST_F(Tank, SettlingBeforeItCountsInFull) {

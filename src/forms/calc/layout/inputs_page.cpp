@@ -40,27 +40,31 @@ void addNumber(qt::FieldGrid& fields, const frmCalcControls& form, Input input) 
 QWidget& buildFields(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent) {
     QGroupBox& frame = qt::makeFrame(kit, form.fraVstup, parent);
     qt::FieldGrid fields(kit, frame);
+    // In the order of the work.
+    fields.section(QStringLiteral("Projekt"));
     for (const TextInput text :
          {TextInput::ProjectName, TextInput::Designer, TextInput::Place, TextInput::Investor}) {
         addText(fields, form, text);
     }
     fields.area(form.txtDetails, QString::fromUtf8(info(TextInput::Description).caption));
-    fields.space();
 
+    fields.section(QStringLiteral("Odvodňované plochy"));
     const QString area = QString::fromUtf8(info(Quantity::ReducedArea).caption);
-    const QString rain = QStringLiteral("Intenzita trvání deště");
-    const QString soil = QString::fromUtf8(info(Input::Filtration).caption);
     fields.result(form.txtOdvodNepPlocha, area, QString::fromUtf8(info(Quantity::ReducedArea).unit));
     addButton(kit, fields, form.cmdEdit[1], area);
+
+    fields.section(QStringLiteral("Návrhový déšť"));
+    const QString rain = QStringLiteral("Intenzita trvání deště");
     fields.result(form.txtSelIntDeste, rain, QString::fromUtf8(info(Quantity::CriticalIntensity).unit));
     addButton(kit, fields, form.cmdEdit[0], rain);
     fields.result(form.txtSelDTrvDeste, QString::fromUtf8(info(Input::DesignDuration).caption),
                   QString::fromUtf8(info(Input::DesignDuration).unit));
     fields.result(form.txtOdtokDoVsak, QString::fromUtf8(info(Quantity::Inflow).caption),
                   QString::fromUtf8(info(Quantity::Inflow).unit));
-    fields.space();
+
+    fields.section(QStringLiteral("Podloží"));
     addNumber(fields, form, Input::Filtration);
-    addButton(kit, fields, form.cmdEdit[2], soil);
+    addButton(kit, fields, form.cmdEdit[2], QString::fromUtf8(info(Input::Filtration).caption));
     addText(fields, form, TextInput::Subsoil);
     addNumber(fields, form, Input::Groundwater);
     fields.end();

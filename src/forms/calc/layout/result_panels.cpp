@@ -9,7 +9,9 @@
 
 #include "design/input.h"
 #include "design/quantity.h"
+#include "forms/calc/layout/panel_columns.h"
 #include "forms/calc/layout/picture_pane.h"
+#include "forms/calc/tank_flow.h"
 #include "qt/buttons.h"
 #include "qt/drop_list_box.h"
 #include "qt/field_grid.h"
@@ -24,16 +26,14 @@ namespace {
 using design::Input;
 using qt::FieldGrid;
 
-/// In a very wide window the results stay near the inputs [characters].
-constexpr int kWidestPanel = 260;
-
 /// Fills the box of inputs of one panel.
 class InputRows {
   public:
     InputRows(qt::WidgetKit& kit, frmCalcControls& form, FacilityType type, FieldGrid& fields)
-        : kit_(&kit), form_(&form), type_(type), fields_(&fields) {}
+        : kit_(&kit), form_(&form), type_(type), fields_(&fields), columns_(inputColumns(fields.parent())) {}
 
     void build() {
+        fields_->align(columns_);
         for (const design::PanelInput& row : design::panelInputs(type_)) {
             if (!design::isOfSubPanel(row.input)) {
                 addInput(row);
@@ -81,7 +81,14 @@ class InputRows {
     }
 
     void addOptions(const QString& caption, const platform::ControlArray<platform::OptionButton>& options) {
-        fields_->widget(caption, buildOptions(*kit_, options, fields_->parent()));
+        QWidget& choice = buildOptions(*kit_, options, fields_->parent());
+        // Long options stand below each other, so that the column is as wide as those of the other types.
+        if (choice.sizeHint().width() > valueWidth(choice)) {
+            auto& layout = dynamic_cast<QBoxLayout&>(*choice.layout());
+            layout.setDirection(QBoxLayout::TopToBottom);
+            layout.setSpacing(qt::gap(choice) / 2);
+        }
+        fields_->widget(caption, choice);
     }
 
     /// Two inputs of one box make one field.
@@ -105,6 +112,8 @@ class InputRows {
         QGroupBox& box =
             qt::makeFramedPanel(*kit_, form_->picPretokSkrOdtok[type_], heading, fields_->parent());
         FieldGrid pipes(*kit_, box);
+        // In line with the fields around the box.
+        pipes.align({.caption = columns_.caption - innerInset(box)});
         for (const design::PanelInput& input : design::panelInputs(type_)) {
             if (design::isOfSubPanel(input.input)) {
                 addNumber(pipes, input.input, QString::fromUtf8(info(input.input).caption));
@@ -118,14 +127,31 @@ class InputRows {
     frmCalcControls* form_;
     FacilityType type_;
     FieldGrid* fields_;
+    qt::FieldColumns columns_;
     std::set<std::string> added_;
 };
 
-void buildResults(const frmCalcControls& form, FacilityType type, FieldGrid& fields) {
+/// The flow in the unit in which one thinks of it, beside its box.
+void addLitres(frmCalc& form, FieldGrid& fields) {
+    auto& label = *new QLabel(&fields.parent());
+    label.setObjectName(QStringLiteral("tankFlowInLitres"));
+    label.setTextFormat(Qt::PlainText);
+    fields.beside(label);
+    const auto refresh = [&form, &label] { label.setText(QString::fromStdString(tankFlowInLitres(form))); };
+    // A result is stored before its box is written.
+    qt::follow(form.txtVsakTok, label, [refresh](platform::Aspect) { refresh(); });
+    refresh();
+}
+
+void buildResults(frmCalc& form, FacilityType type, FieldGrid& fields) {
+    fields.align(resultColumns(fields.parent()));
     for (const design::ResultBox& row : design::resultBoxes(type)) {
         fields.result(form.textBox(design::controlName(row.box, type)),
                       QString::fromUtf8(design::captionOf(row.quantity, type)),
                       QString::fromUtf8(info(row.quantity).unit));
+        if (row.quantity == design::Quantity::InfiltrationFlow) {
+            addLitres(form, fields);
+        }
     }
     if (type == FacilityType::Tank) {
         fields.space();
@@ -151,7 +177,6 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWid
     auto* whole = new QVBoxLayout(&panel);
     whole->setContentsMargins(0, 0, 0, 0);
     auto* columns = new qt::FlowPair(panel);
-    columns->setMaximumWidth(qt::textWidth(panel, kWidestPanel));
     auto& inputs_box = *new QGroupBox(QStringLiteral("Vstupy"), columns);
     auto& results_side = *new QWidget(columns);
     auto* results_column = new QVBoxLayout(&results_side);
@@ -166,12 +191,13 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWid
     FieldGrid inputs(kit, inputs_box);
     FieldGrid results(kit, results_box);
     InputRows(kit, form, type, inputs).build();
+    const qt::FieldColumns room = inputColumns(inputs_box);
+    const int margins = 4 * inputs_box.layout()->contentsMargins().left();
+    inputs_box.setMinimumWidth(room.caption + valueWidth(inputs_box) + margins);
     buildResults(form, type, results);
 
     QPushButton& calculate = qt::makeButton(kit, form.cmdCalcul[type], inputs_box);
-    QFont font = calculate.font();
-    font.setBold(true);
-    calculate.setFont(font);
+    qt::showAsPrimary(calculate);
     calculate.setMinimumWidth(qt::textWidth(calculate, 18));
     inputs.space();
     inputs.line(calculate);

@@ -16,8 +16,9 @@ namespace {
 
 constexpr int kSurfaceChoiceColumn = 3;
 constexpr int kEntryChoiceColumn = 4;
-constexpr qt::GridRoom kSurfaceRoom{.characters = 128, .rows = 10};
-constexpr qt::GridRoom kEntryRoom{.characters = 128, .rows = 4};
+/// All surfaces, where the screen is high enough for them.
+constexpr qt::GridRoom kSurfaceRoom{.characters = 140, .rows = 19};
+constexpr qt::GridRoom kEntryRoom{.characters = 140, .rows = 4};
 constexpr int kNumberCharacters = 14;
 
 QLabel& caption(const QString& text, QWidget& parent) {
@@ -51,9 +52,11 @@ void AreaWindow::build(QWidget& content) {
         qt::makeGrid(kit(), form_->fgSoucPovrchOdtok, kSurfaceChoiceColumn, kSurfaceRoom, content);
     qt::describe(surfaces, QStringLiteral("Typy ploch"));
     surfaces.setMinimumHeight(fontMetrics().height() * 5);
-    column->addWidget(&surfaces, 3);
+    // The surfaces have the first claim to the height, up to their last row; the entries take what is left.
+    surfaces.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    column->addWidget(&surfaces, 1);
     column->addWidget(&buildEntry(content));
-    column->addWidget(&buildEntries(content), 2);
+    column->addWidget(&buildEntries(content));
     column->addWidget(&buildFoot(content));
 }
 
