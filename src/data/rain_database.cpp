@@ -58,12 +58,18 @@ struct Failures {
     [[nodiscard]] RuntimeError tableMissing() const {
         return ending(kTableNotFound, "V databázi dešťů „" + path + "“ chybí tabulka " + table);
     }
+    /// Without a row or a number the rain of the station chosen before would stand under the new name.
+    [[nodiscard]] RuntimeError noRow() const { return noRain("nemá žádný řádek"); }
+    [[nodiscard]] RuntimeError noNumbers() const { return noRain("nemá ve sloupcích intenzit čísla"); }
     [[nodiscard]] RuntimeError readFailed(const std::string& reason) const {
         return ending(kReadFailed,
                       "Tabulku " + table + " nelze přečíst z databáze dešťů „" + path + "“: " + reason);
     }
 
   private:
+    [[nodiscard]] RuntimeError noRain(const std::string& lack) const {
+        return ending(kNoRain, "Tabulka " + table + " v databázi dešťů „" + path + "“ " + lack);
+    }
     static RuntimeError ending(int number, const std::string& description) {
         return RuntimeError(number, description, RuntimeError::Effect::EndsProgram);
     }
@@ -88,9 +94,15 @@ StationTable tableOf(const ReaderResult& result, const Failures& failures) {
     if (result.exit_status == static_cast<int>(ReaderExit::TableMissing)) {
         throw failures.tableMissing();
     }
+    if (result.exit_status == static_cast<int>(ReaderExit::NoNumbers)) {
+        throw failures.noNumbers();
+    }
     auto table = decode(result.output);
     if (result.exit_status != static_cast<int>(ReaderExit::Done) || !table) {
         throw failures.readFailed("soubor je zřejmě poškozen");
+    }
+    if (table->rows.empty()) {
+        throw failures.noRow();
     }
     return *std::move(table);
 }

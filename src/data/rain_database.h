@@ -3,6 +3,7 @@
 /// This class only returns the columns and rows of a table; the rain dialog decides how to use them.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -27,9 +28,15 @@ struct StationTable {
 /// True when the table has the field, e.g. "005" (a table without it has "004").
 [[nodiscard]] bool hasField(const StationTable& table, std::string_view name);
 
+/// Intensity fields of a station's table in the order of the periodicities 5, 2, 1, 0.5, 0.2, 0.1, 0.05.
+inline constexpr std::array<const char*, 7> kIntensityFields{"5", "2", "1", "05", "02", "01", "005"};
+/// What a table has in place of the last of them.
+inline constexpr const char* kSubstituteOfLastField = "004";
+
 /// Error numbers of a failed read, besides 53 (the file does not exist).
 inline constexpr int kCannotOpenDatabase = 3051;  ///< no permission, not a file, not a database
 inline constexpr int kTableNotFound = 3078;       ///< the file has no table of that station
+inline constexpr int kNoRain = 3021;              ///< the table has no row, or its intensities are no numbers
 inline constexpr int kReadFailed = 3112;          ///< damaged: the read crashed, hung or ended early
 
 /// Name of a station's table: "List" and the number in plain decimal.
@@ -48,7 +55,8 @@ class RainDatabase {
     /// @param station_number number of the station in the database, not its position in the list
     /// @param path           the database file
     /// @throws RuntimeError that ends the program when the file is missing, cannot be opened, lacks the
-    ///         table or is damaged; its description names the file and the table
+    ///         table or is damaged, when the table has no row, and when no intensity field that it has is of
+    ///         a type that holds numbers; its description names the file and the table
     [[nodiscard]] virtual StationTable read(std::int16_t station_number, const std::string& path) = 0;
 };
 

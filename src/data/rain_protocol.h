@@ -18,6 +18,7 @@ enum class ReaderExit {
     CannotOpen = 3,
     TableMissing = 4,
     ReadFailed = 5,
+    NoNumbers = 6,  ///< the table has intensity fields, but none of a type that holds numbers
 };
 
 /// The table's text, with "\n" at each line's end:

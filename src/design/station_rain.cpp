@@ -10,9 +10,9 @@
 namespace mero::design {
 namespace {
 
-/// Intensity fields in the order of the periodicities 5, 2, 1, 0.5, 0.2, 0.1, 0.05.
-constexpr std::array<const char*, data::kPeriodicityCount> kFields{"5", "2", "1", "05", "02", "01", "005"};
-constexpr const char* kSubstituteOfLastField = "004";
+using data::kIntensityFields;
+using data::kSubstituteOfLastField;
+static_assert(kIntensityFields.size() == data::kPeriodicityCount);
 
 /// Reads fields of a table and remembers why the last one that failed did. A success does not clear that,
 /// nor does the next row.
@@ -54,8 +54,8 @@ void readStation(const data::StationTable& table, StationIntensities& intensitie
     FieldReader reader(table);
     for (std::size_t row = 0; row < table.rows.size() && row < calc::kRainRows; ++row) {
         reader.store(row, "doba", durations_min[row], numbers::toInteger);
-        for (std::size_t k = 0; k < kFields.size(); ++k) {
-            reader.store(row, kFields[k], intensities_l_s_ha[k][row], numbers::toSingle);
+        for (std::size_t k = 0; k < kIntensityFields.size(); ++k) {
+            reader.store(row, kIntensityFields[k], intensities_l_s_ha[k][row], numbers::toSingle);
         }
         if (reader.lastFailureWasMissingField()) {
             reader.store(row, kSubstituteOfLastField, intensities_l_s_ha.back()[row], numbers::toSingle);

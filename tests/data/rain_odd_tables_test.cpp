@@ -33,7 +33,22 @@ std::vector<int> numbersOf(std::int16_t station) {
 TEST(RainOddTables, MoreAndFewerRowsThanNineComeAsTheyAre) {
     EXPECT_THAT(numbersOf(1), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12));
     EXPECT_THAT(numbersOf(2), ElementsAre(1, 2, 3, 4, 5));
-    EXPECT_THAT(numbersOf(5), ElementsAre());
+}
+
+TEST(RainOddTables, ATableWithoutRainEndsTheProgramAsAMissingTableDoes) {
+    const std::string file = std::string(" v databázi dešťů „") + MERO_ODD_TABLES + "“ ";
+    const auto without_rows = read(MERO_ODD_TABLES, 5);
+    ASSERT_NE(without_rows.error(), nullptr) << "no row: the station before would stay in force";
+    EXPECT_EQ(without_rows.errorNumber(), kNoRain);
+    EXPECT_TRUE(without_rows.error()->endsProgram());
+    EXPECT_EQ(without_rows.error()->description(), "Tabulka List5" + file + "nemá žádný řádek");
+
+    const auto without_numbers = read(MERO_ODD_TABLES, 8);
+    ASSERT_NE(without_numbers.error(), nullptr) << "a date, yes or no, a memo";
+    EXPECT_EQ(without_numbers.errorNumber(), kNoRain);
+    EXPECT_TRUE(without_numbers.error()->endsProgram());
+    EXPECT_EQ(without_numbers.error()->description(),
+              "Tabulka List8" + file + "nemá ve sloupcích intenzit čísla");
 }
 
 TEST(RainOddTables, RowsOverSeveralPagesKeepTheirOrder) {

@@ -122,6 +122,20 @@ bool isPageOf(const MdbTableDef& table, MdbHandle& handle) {
            std::cmp_equal(::mdb_pg_get_int32(&handle, kPageOwnerOffset), table.entry->table_pg);
 }
 
+/// The database would refuse each value of such a table alone, so that a station would have no rain at all.
+void requireNumbers(const StationTable& table, const Fields& fields) {
+    bool has_intensity = false;
+    const auto holds_numbers = [&](const char* name) {
+        const auto at = columnIndex(table, name);
+        has_intensity = has_intensity || at;
+        return at && fields.present[*at].type != FieldType::Other;
+    };
+    const bool any = std::any_of(data::kIntensityFields.begin(), data::kIntensityFields.end(), holds_numbers);
+    if (!any && !holds_numbers(data::kSubstituteOfLastField) && has_intensity) {
+        throw TableError(ReaderExit::NoNumbers, "no field of intensities holds numbers");
+    }
+}
+
 }  // namespace
 
 StationTable readTable(const std::string& path, const std::string& table_name) {
@@ -141,6 +155,7 @@ StationTable readTable(const std::string& path, const std::string& table_name) {
     for (const Field& field : fields.present) {
         result.columns.emplace_back(field.column->name);
     }
+    requireNumbers(result, fields);
     ::mdb_rewind_table(table.get());
     while (result.rows.size() <= table->num_rows && ::mdb_fetch_row(table.get()) != 0) {
         if (!isPageOf(*table, *handle)) {
