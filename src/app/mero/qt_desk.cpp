@@ -48,6 +48,12 @@ QWidget* QtDesk::window() const {
 }
 
 void QtDesk::showMessage(const platform::Message& message) {
+    if (!told_beside_field || !told_beside_field(message)) {
+        showBox(message);
+    }
+}
+
+void QtDesk::showBox(const platform::Message& message) {
     QMessageBox box(boxIcon(message.icon), shown(message.title.value_or(platform::kApplicationTitle)),
                     shown(message.text).replace(QLatin1String("\r\n"), QLatin1String("\n")).trimmed(),
                     QMessageBox::Ok, window());
@@ -76,6 +82,8 @@ void QtDesk::reportError(const RuntimeError& error) {
                        .arg(QString::number(error.number()), shown(error.description()));
     if (error.endsProgram()) {
         text += QStringLiteral("\n\nProgram bude ukončen.");
+        showBox({qt::stored(text), platform::MessageIcon::Critical});
+        return;
     }
     showMessage({qt::stored(text), platform::MessageIcon::Critical});
 }

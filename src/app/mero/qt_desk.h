@@ -24,6 +24,8 @@ class QtDesk : public platform::Desk {
     /// Sets the parent of boxes while no other window of the program is active.
     void setMainWindow(QWidget* window) { main_window_ = window; }
 
+    /// Tells a message elsewhere than in a box; false when it has to be a box.
+    std::function<bool(const platform::Message& message)> told_beside_field;
     /// Called after a person has closed a message box.
     std::function<void(const platform::Message& message)> message_closed;
 
@@ -41,6 +43,7 @@ class QtDesk : public platform::Desk {
 
   private:
     [[nodiscard]] QWidget* window() const;
+    void showBox(const platform::Message& message);
     void tellOfNoBrowser(const std::string& address);
 
     Sitter sitter_;
