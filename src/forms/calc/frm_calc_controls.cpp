@@ -138,6 +138,8 @@ void frmCalcControls::setInitialState() {
     // The first two types are computed while the inputs change: there is nothing to press.
     cmdCalcul[Surface].hide();
     cmdCalcul[Swale].hide();
+    txtPrumerSachtyVnej.setEnabled(false);
+    txtPrumerSachtyVnej.setGreyed(true);
     txtVyskaPiskVrstvy.setEnabled(false);
     txtVyskaPiskVrstvy.setGreyed(true);
     wbShowPopisTech.hide();

@@ -22,6 +22,11 @@ namespace {
 constexpr int kWidthCharacters = 166;
 constexpr int kHeightLines = 48;
 
+/// True for the guards that refuse to go on before the first tab is filled in.
+bool asksForSite(design::VerdictId id) {
+    return id == design::VerdictId::DrainedAreaMissing || id == design::VerdictId::FiltrationMissing;
+}
+
 }  // namespace
 
 CalcWindow::CalcWindow(qt::WidgetKit& kit, frmCalc& form, qt::DocumentServices services)
@@ -40,6 +45,10 @@ void CalcWindow::returnToField(const platform::Message& message) {
         return;
     }
     qt::later(*this, [this, id = *id] {
+        if (asksForSite(id) && form_->reachable() && form_->SSTab1.position() != kTabInputs) {
+            // As a person goes there; the first tab runs nothing.
+            kit().enter([this] { form_->SSTab1.userSelect(kTabInputs); });
+        }
         const platform::Control* control = concernedControl(*form_, id);
         QWidget* widget = control == nullptr ? nullptr : kit().find(*control);
         if (widget != nullptr) {

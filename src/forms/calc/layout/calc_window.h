@@ -20,7 +20,8 @@ class CalcWindow : public qt::FormWindow {
     CalcWindow(CalcWindow&&) = delete;
     CalcWindow& operator=(CalcWindow&&) = delete;
 
-    /// After a message was closed: puts the focus into the field that it is about, once the event is over.
+    /// After a message was closed: puts the focus into the field that it is about, once the event is over. A
+    /// guard that asks for the site leads to the first tab.
     void returnToField(const platform::Message& message);
 
   protected:

@@ -31,7 +31,7 @@ QWidget& buildChoice(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent)
     qt::describe(options, frame.title());
     const Qt::Alignment side = narrow ? Qt::AlignLeft : Qt::Alignment();
     row->addWidget(&options, 0, side);
-    QComboBox& types = qt::makeDropList(kit, form.cboSelType, frame);
+    QComboBox& types = qt::makeMovingList(kit, form.cboSelType, frame);
     types.setMinimumContentsLength(32);
     qt::describe(types, QString::fromUtf8(info(design::Input::Type).caption));
     row->addWidget(&types, 0, side);
