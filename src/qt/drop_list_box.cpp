@@ -38,9 +38,9 @@ class MovingList : public QComboBox {
     /// True while a key or the wheel moves in the closed list.
     [[nodiscard]] bool moves() const { return moves_; }
     /// Called with Enter and when the list is left.
-    std::function<void()> take;
+    std::function<void()> take = [] {};
     /// Called with Escape; false when there is nothing to take back.
-    std::function<bool()> take_back;
+    std::function<bool()> take_back = [] { return false; };
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {

@@ -109,6 +109,7 @@ class Mero {
                 return kit_.typing().tell(message);
             };
         }
+        real_desk_.file_saved = [this](const std::string& path) { window_.tellSaved(path); };
         kit_.typing().show_box = [this](const platform::Message& message) { desk().showMessage(message); };
         program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
         if (end_signals.descriptor() >= 0) {

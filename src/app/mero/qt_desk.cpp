@@ -17,6 +17,7 @@
 #include "app/mero/pdf_file.h"
 #include "app/mero/save_dialog.h"
 #include "qt/document_pages.h"
+#include "qt/missing_page.h"
 #include "qt/texts.h"
 
 namespace mero::app {
@@ -130,7 +131,6 @@ void QtDesk::openAddress(const std::string& address) {
 void QtDesk::formOpened(const std::string& /*form*/) {}
 void QtDesk::formClosed(const std::string& /*form*/) {}
 void QtDesk::navigated(const std::string& /*view*/, const std::string& /*path*/) {}
-void QtDesk::saved(const std::string& /*path*/) {}
 void QtDesk::ended() {}
 
 void QtDesk::openPrintPreview(const std::string& path) {
@@ -153,8 +153,21 @@ std::optional<std::string> QtDesk::askSavePath(const std::string& suggested_path
     if (sitter_ == Sitter::Script) {
         return std::nullopt;
     }
-    const auto path = askWhereToSave(window(), shown(suggested_path));
-    return path ? std::optional(qt::stored(*path)) : std::nullopt;
+    const bool known = !last_folder_.isEmpty() && QFileInfo(last_folder_).isDir() && !isHidden(last_folder_);
+    const QString folder = known ? last_folder_ : documentsFolder();
+    const auto path =
+        askWhereToSave(window(), folder + QLatin1Char('/') + qt::savableName(shown(suggested_path)));
+    if (!path) {
+        return std::nullopt;
+    }
+    last_folder_ = QFileInfo(*path).absolutePath();
+    return qt::stored(*path);
+}
+
+void QtDesk::saved(const std::string& path) {
+    if (sitter_ == Sitter::Person && file_saved) {
+        file_saved(path);
+    }
 }
 
 platform::PdfResult QtDesk::makePdf(const std::string& document_path, const std::string& target_path) {

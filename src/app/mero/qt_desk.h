@@ -26,6 +26,8 @@ class QtDesk : public platform::Desk {
 
     /// Tells a message elsewhere than in a box; false when it has to be a box.
     std::function<bool(const platform::Message& message)> told_beside_field;
+    /// Called when a person's file was saved.
+    std::function<void(const std::string& path)> file_saved;
     /// Called after a person has closed a message box.
     std::function<void(const platform::Message& message)> message_closed;
 
@@ -49,6 +51,7 @@ class QtDesk : public platform::Desk {
     Sitter sitter_;
     qt::Decoder decode_;
     QPointer<QWidget> main_window_;
+    QString last_folder_;  ///< where a file was saved last, empty before
     QObject while_there_;  ///< disconnects processes that end after this desk
 };
 

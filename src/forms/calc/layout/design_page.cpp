@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "design/input.h"
+#include "forms/calc/layout/first_steps.h"
 #include "forms/calc/layout/result_panels.h"
 #include "qt/buttons.h"
 #include "qt/drop_list_box.h"
@@ -47,6 +48,7 @@ void buildDesignPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page) {
     QWidget& content = qt::makeScrollPage(page);
     auto* column = new QVBoxLayout(&content);
     column->addWidget(&buildChoice(kit, form, content));
+    column->addWidget(&makeFirstSteps(form, content));
     form.picResults.forEach([&](int type, platform::Panel& panel) {
         QWidget& widget = qt::makePanel(kit, panel, content);
         buildResultPanel(kit, form, static_cast<FacilityType>(type), widget);

@@ -10,6 +10,7 @@
 #include "design/input.h"
 #include "design/quantity.h"
 #include "forms/calc/layout/picture_pane.h"
+#include "forms/calc/layout/result_rows.h"
 #include "qt/buttons.h"
 #include "qt/drop_list_box.h"
 #include "qt/field_grid.h"
@@ -167,6 +168,8 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWid
     FieldGrid results(kit, results_box);
     InputRows(kit, form, type, inputs).build();
     buildResults(form, type, results);
+    qt::addCopyMenu(results_box, QStringLiteral("Kopírovat výsledky"),
+                    [&form, type] { return resultRows(form, type); });
 
     QPushButton& calculate = qt::makeButton(kit, form.cmdCalcul[type], inputs_box);
     QFont font = calculate.font();
