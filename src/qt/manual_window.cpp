@@ -25,6 +25,10 @@ namespace {
 
 constexpr int kWidthCharacters = 120;
 constexpr int kHeightLines = 42;
+/// How much of the text's colour the lines of tables have.
+constexpr double kLineShare = 0.4;
+/// Share of the window's width that a picture may take.
+constexpr double kPictureShare = 0.9;
 
 QString manualText(const QString& folder) {
     QFile file(folder + QLatin1String("/prirucka.md"));
@@ -85,7 +89,8 @@ void arrangeTables(QTextDocument& document, const QPalette& palette, int padding
         if (auto* table = qobject_cast<QTextTable*>(frame)) {
             QTextTableFormat format = table->format();
             format.setBorder(1);
-            format.setBorderBrush(palette.mid());
+            format.setBorderBrush(
+                mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), kLineShare));
             format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
             format.setBorderCollapse(true);
             format.setCellSpacing(0);
@@ -145,11 +150,11 @@ ManualWindow::ManualWindow(const QString& folder, std::function<void(const QStri
     text_->document()->setMarkdown(manualText(folder));
     text_->document()->setUndoRedoEnabled(false);
     arrangeTables(*text_->document(), palette(), gap(*this) / 2);
-    arrangeBlocks(*text_->document(), folder, 2 * gap(*this), textWidth(*this, kWidthCharacters - 12));
     connect(text_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { followLink(link); });
     connect(search_, &QLineEdit::returnPressed, this, [this] { findNext(); });
     const QSize wanted(textWidth(*this, kWidthCharacters), fontMetrics().height() * kHeightLines);
     resize(wanted.boundedTo(screen()->availableGeometry().size() * 9 / 10));
+    arrangeBlocks(*text_->document(), folder, 2 * gap(*this), qRound(width() * kPictureShare));
 }
 
 bool ManualWindow::has(const ManualPlace& place) const {

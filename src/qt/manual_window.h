@@ -2,6 +2,7 @@
 /// The user manual in a window of its own. It opens at a chapter and, in it, at a row of a table.
 #pragma once
 
+#include <QLineEdit>
 #include <QString>
 #include <QTextBrowser>
 #include <QWidget>

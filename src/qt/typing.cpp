@@ -68,7 +68,7 @@ void Typing::leave() {
 }
 
 void Typing::settle() {
-    if (kept_.empty()) {
+    if (kept_.empty() || !field_.isNull()) {
         return;
     }
     hideBalloon();

@@ -30,7 +30,7 @@ class Typing : public QObject {
     /// The field was left: shows the boxes once the running event is over and no mouse button is down,
     /// because a box would swallow the rest of a click.
     void leave();
-    /// Shows the boxes at once.
+    /// Shows the boxes at once; not within a keystroke.
     void settle();
     /// Forgets what was kept.
     void forget();

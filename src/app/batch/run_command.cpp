@@ -12,7 +12,6 @@
 #include <iostream>
 #include <memory>
 #include <streambuf>
-#include <string>
 
 #include "app/batch/pdf_program.h"
 #include "app/common/end_signals.h"
@@ -71,17 +70,6 @@ class Input : public std::streambuf {
     std::array<char, 4096> bytes_{};
 };
 
-int performLines(automation::ScriptRunner& runner, std::istream& script, const EndSignals& signals) {
-    using Step = automation::ScriptRunner::Step;
-    Step last = Step::Continue;
-    std::string line;
-    for (int number = 1; last == Step::Continue && !signals.received() && std::getline(script, line);
-         ++number) {
-        last = runner.execute(line, number);
-    }
-    return runner.exitStatus(last);
-}
-
 int runScript(const RunOptions& options, std::istream& script, const EndSignals& signals) {
     const std::string folder = folderOrDefault(options.folder);
     if (!folderExists(folder)) {
@@ -99,7 +87,7 @@ int runScript(const RunOptions& options, std::istream& script, const EndSignals&
     automation::HeadlessUser user(program);
     automation::ScriptRunner runner(program, user, desk, std::cerr, options.script);
     program.start();
-    const int status = performLines(runner, script, signals);
+    const int status = runner.run(script, [&signals] { return signals.received(); });
     if (signals.received()) {
         program.close();
         signals.passOn();

@@ -104,13 +104,8 @@ class Mero {
         real_desk_.message_closed = [this](const platform::Message& message) {
             window_.returnToField(message);
         };
-        if (!scripted_) {
-            real_desk_.told_beside_field = [this](const platform::Message& message) {
-                return kit_.typing().tell(message);
-            };
-        }
+        app::tellBesideFields(real_desk_, kit_.typing());
         real_desk_.file_saved = [this](const std::string& path) { window_.tellSaved(path); };
-        kit_.typing().show_box = [this](const platform::Message& message) { desk().showMessage(message); };
         program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
         if (end_signals.descriptor() >= 0) {
             auto* request = new QSocketNotifier(end_signals.descriptor(), QSocketNotifier::Read, &window_);

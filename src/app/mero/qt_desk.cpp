@@ -170,6 +170,11 @@ void QtDesk::saved(const std::string& path) {
     }
 }
 
+void tellBesideFields(QtDesk& desk, qt::Typing& typing) {
+    desk.told_beside_field = [&typing](const platform::Message& message) { return typing.tell(message); };
+    typing.show_box = [&desk](const platform::Message& message) { desk.showMessage(message); };
+}
+
 platform::PdfResult QtDesk::makePdf(const std::string& document_path, const std::string& target_path) {
     return makePdfFile(document_path, target_path, decode_);
 }

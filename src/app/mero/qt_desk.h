@@ -9,6 +9,7 @@
 
 #include "platform/desk.h"
 #include "qt/local_document.h"
+#include "qt/typing.h"
 
 namespace mero::app {
 
@@ -54,5 +55,8 @@ class QtDesk : public platform::Desk {
     QString last_folder_;  ///< where a file was saved last, empty before
     QObject while_there_;  ///< disconnects processes that end after this desk
 };
+
+/// Messages of a person's keystrokes are told beside the field, and in a box when it is left.
+void tellBesideFields(QtDesk& desk, qt::Typing& typing);
 
 }  // namespace mero::app
