@@ -50,7 +50,8 @@ bool Typing::tell(const platform::Message& message) {
 }
 
 void Typing::leave() {
-    if (kept_.empty() || std::exchange(leaving_, true)) {
+    // Also while nothing is kept: what ends the entry of the left field may still raise something.
+    if (std::exchange(leaving_, true)) {
         return;
     }
     auto* timer = new QTimer(this);

@@ -91,6 +91,14 @@ TEST_F(TypingInAField, AnotherWindowIsNoLeaving) {
     EXPECT_THAT(log, IsEmpty());
 }
 
+TEST_F(TypingInAField, WhatTheEndOfAnEntryRaisesHasItsBoxToo) {
+    QTest::keyClicks(&field, "ok");
+    QTest::keyClick(&field, Qt::Key_Tab);
+    bench.kit.enterTyped(field, [this] { say(kAsk); });  // as a field that completes its text when it is left
+    settle();
+    EXPECT_THAT(log, ElementsAre(std::string("box: ") + kAsk));
+}
+
 TEST_F(TypingInAField, EnterAsksForTheBox) {
     QTest::keyClicks(&field, "x");
     QTest::keyClick(&field, Qt::Key_Return);
