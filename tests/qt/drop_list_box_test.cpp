@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QLineEdit>
 #include <QTest>
 
 #include "qt/bench_form.h"
