@@ -17,10 +17,10 @@ ScriptRunner::ScriptRunner(forms::Program& program, User& user, TraceDesk& desk,
       diagnostics_(&diagnostics),
       script_name_(std::move(script_name)) {}
 
-int ScriptRunner::run(std::istream& script) {
+int ScriptRunner::run(std::istream& script, const std::function<bool()>& stop) {
     std::string line;
     Step step = program_->ended() ? Step::ProgramEnded : Step::Continue;
-    for (int number = 1; step == Step::Continue && std::getline(script, line); ++number) {
+    for (int number = 1; step == Step::Continue && !stop() && std::getline(script, line); ++number) {
         step = execute(line, number);
     }
     return exitStatus(step);

@@ -3,6 +3,7 @@
 /// The desk traces what happens meanwhile; an action that a user could not perform is refused.
 #pragma once
 
+#include <functional>
 #include <istream>
 #include <map>
 #include <ostream>
@@ -32,8 +33,10 @@ class ScriptRunner {
     Step execute(std::string_view line, int line_number);
 
     /// Performs all lines of the input.
+    /// @param stop asked before each line: true ends the script there
     /// @return exit status: 0 ran to the end, 1 the program ended with an error, 2 unusable script
-    int run(std::istream& script);
+    int run(
+        std::istream& script, const std::function<bool()>& stop = [] { return false; });
     /// The exit status after the last step.
     [[nodiscard]] int exitStatus(Step last) const;
 

@@ -53,12 +53,18 @@ struct Failures {
     [[nodiscard]] RuntimeError tableMissing() const {
         return ending(kTableNotFound, "V databázi dešťů „" + path + "“ chybí tabulka " + table);
     }
+    /// Without a row or a number the rain of the station chosen before would stand under the new name.
+    [[nodiscard]] RuntimeError noRow() const { return noRain("nemá žádný řádek"); }
+    [[nodiscard]] RuntimeError noNumbers() const { return noRain("nemá ve sloupcích intenzit čísla"); }
     [[nodiscard]] RuntimeError readFailed(const std::string& reason) const {
         return ending(kReadFailed,
                       "Tabulku " + table + " nelze přečíst z databáze dešťů „" + path + "“: " + reason);
     }
 
   private:
+    [[nodiscard]] RuntimeError noRain(const std::string& lack) const {
+        return ending(kNoRain, "Tabulka " + table + " v databázi dešťů „" + path + "“ " + lack);
+    }
     static RuntimeError ending(int number, const std::string& description) {
         return RuntimeError(number, description, RuntimeError::Effect::EndsProgram);
     }
@@ -109,13 +115,14 @@ std::string tableName(std::int16_t station_number) {
     return "List" + numbers::general(static_cast<int>(station_number));
 }
 
+bool isIntensityField(std::string_view name) {
+    return name == kSubstituteOfLastField ||
+           std::ranges::find(kIntensityFields, name) != kIntensityFields.end();
+}
+
 bool arePlausible(const StationTable& table) {
-    const auto is_intensity = [](std::string_view name) {
-        return name == kSubstituteOfLastField ||
-               std::ranges::find(kIntensityFields, name) != kIntensityFields.end();
-    };
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
-        if (!is_intensity(table.columns[column])) {
+        if (!isIntensityField(table.columns[column])) {
             continue;
         }
         double before = std::numeric_limits<double>::infinity();
@@ -144,6 +151,9 @@ StationTable MdbRainDatabase::read(std::int16_t station_number, const std::strin
     const Content content = contentOf(file, failures);
     try {
         StationTable table = stationTable(content.span(), failures.table);
+        if (table.rows.empty()) {
+            throw failures.noRow();
+        }
         if (!arePlausible(table)) {
             throw failures.readFailed("intenzity nejsou kladné a klesající s dobou trvání");
         }
@@ -154,6 +164,8 @@ StationTable MdbRainDatabase::read(std::int16_t station_number, const std::strin
                 throw failures.cannotOpen();
             case jet::Failure::Kind::NoSuchTable:
                 throw failures.tableMissing();
+            case jet::Failure::Kind::NoNumbers:
+                throw failures.noNumbers();
             case jet::Failure::Kind::Damaged:
                 break;
         }

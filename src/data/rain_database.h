@@ -27,6 +27,8 @@ inline constexpr std::array<std::string_view, 7> kIntensityFields{"5", "2", "1",
 /// A table without the field "005" has this one, for the periodicity 0.04.
 inline constexpr std::string_view kSubstituteOfLastField = "004";
 
+[[nodiscard]] bool isIntensityField(std::string_view name);
+
 /// Are the intensities of each periodicity 0 or more and nowhere rising with the duration? Those of a station
 /// without data are 0. Values that are no numbers do not count.
 [[nodiscard]] bool arePlausible(const StationTable& table);
@@ -40,6 +42,7 @@ inline constexpr std::string_view kSubstituteOfLastField = "004";
 /// Error numbers of a failed read, besides 53 (the file does not exist).
 inline constexpr int kCannotOpenDatabase = 3051;  ///< no permission, not a file, not a database
 inline constexpr int kTableNotFound = 3078;       ///< the file has no table of that station
+inline constexpr int kNoRain = 3021;              ///< the table has no row, or its intensities are no numbers
 inline constexpr int kReadFailed = 3112;          ///< damaged, or not plausible
 
 /// Name of a station's table: "List" and the number in plain decimal.
@@ -58,7 +61,8 @@ class RainDatabase {
     /// @param station_number number of the station in the database, not its position in the list
     /// @param path           the database file
     /// @throws RuntimeError that ends the program when the file is missing, cannot be opened, lacks the
-    ///         table or is damaged; its description names the file and the table
+    ///         table or is damaged, when the table has no row, and when no intensity field that it has is of
+    ///         a type that holds numbers; its description names the file and the table
     [[nodiscard]] virtual StationTable read(std::int16_t station_number, const std::string& path) = 0;
 };
 

@@ -34,11 +34,24 @@ bool isDemoTable(const jet::Database& database, const jet::CatalogueEntry& entry
     }
 }
 
+/// The database would refuse each value of such a table alone, so that a station would have no rain at all.
+void requireNumbers(const jet::TableDefinition& definition) {
+    const auto asked = [](const jet::Column& column) { return isIntensityField(column.name); };
+    const auto holds_numbers = [&](const jet::Column& column) {
+        return asked(column) && jet::holdsNumbers(column.type);
+    };
+    if (std::ranges::any_of(definition.columns, asked) &&
+        std::ranges::none_of(definition.columns, holds_numbers)) {
+        throw jet::Failure(jet::Failure::Kind::NoNumbers, "no field of intensities holds numbers");
+    }
+}
+
 }  // namespace
 
 StationTable stationTable(std::span<const std::uint8_t> content, const std::string& name) {
     const jet::Database database(content);
     const jet::TableDefinition definition = database.table(name);
+    requireNumbers(definition);
     StationTable table;
     table.demonstration = std::ranges::any_of(
         database.catalogue().tables(), [&](const auto& entry) { return isDemoTable(database, entry); });

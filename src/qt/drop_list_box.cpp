@@ -3,7 +3,10 @@
 /// Only `activated` is observed: it is emitted for the user's choice, not for filling and selecting by code.
 #include "qt/drop_list_box.h"
 
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QSignalBlocker>
+#include <functional>
 
 #include "qt/field_keys.h"
 #include "qt/program_style.h"
@@ -24,6 +27,49 @@ class ListStyle : public ProgramStyle {
                   QStyleHintReturn* data) const override {
         return hint == SH_ComboBox_Popup ? 0 : ProgramStyle::styleHint(hint, option, widget, data);
     }
+};
+
+/// A closed list in which arrows, letters and the wheel only move. Enter and leaving the list choose the
+/// entry then shown, Escape shows the chosen one again.
+class MovingList : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+
+    /// True while a key or the wheel moves in the closed list.
+    [[nodiscard]] bool moves() const { return moves_; }
+    /// Called with Enter and when the list is left.
+    std::function<void()> take = [] {};
+    /// Called with Escape; false when there is nothing to take back.
+    std::function<bool()> take_back = [] { return false; };
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const int key = event->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            take();
+        } else if (key == Qt::Key_Escape && take_back()) {
+            return;
+        }
+        move([&] { QComboBox::keyPressEvent(event); });
+    }
+    void wheelEvent(QWheelEvent* event) override {
+        move([&] { QComboBox::wheelEvent(event); });
+    }
+    void focusOutEvent(QFocusEvent* event) override {
+        QComboBox::focusOutEvent(event);
+        if (countsAsLeaving(event->reason())) {
+            take();
+        }
+    }
+
+  private:
+    void move(const std::function<void()>& act) {
+        moves_ = true;
+        act();
+        moves_ = false;
+    }
+
+    bool moves_ = false;
 };
 
 void showItems(QComboBox& combo, const DropList& list) {
@@ -48,10 +94,8 @@ void showPosition(QComboBox& combo, const DropList& list) {
     combo.setCurrentIndex(list.position());
 }
 
-}  // namespace
-
-QComboBox& makeDropList(WidgetKit& kit, DropList& list, QWidget& parent) {
-    auto& combo = *new QComboBox(&parent);
+/// Binds the list to its box, except for the person's choice.
+void bindList(WidgetKit& kit, DropList& list, QComboBox& combo) {
     auto* style = new ListStyle;
     style->setParent(&combo);
     combo.setStyle(style);
@@ -68,9 +112,43 @@ QComboBox& makeDropList(WidgetKit& kit, DropList& list, QWidget& parent) {
             showPosition(combo, list);
         }
     });
-    QObject::connect(&combo, &QComboBox::activated, &combo, [&kit, &list, &combo](int position) {
-        kit.enter([&list, position] { list.userSelect(position); });
+}
+
+void choose(const WidgetKit& kit, DropList& list, QComboBox& combo, int position) {
+    kit.enter([&list, position] { list.userSelect(position); });
+    showPosition(combo, list);
+}
+
+}  // namespace
+
+QComboBox& makeDropList(WidgetKit& kit, DropList& list, QWidget& parent) {
+    auto& combo = *new QComboBox(&parent);
+    bindList(kit, list, combo);
+    QObject::connect(&combo, &QComboBox::activated, &combo,
+                     [&kit, &list, &combo](int position) { choose(kit, list, combo, position); });
+    return combo;
+}
+
+QComboBox& makeMovingList(WidgetKit& kit, DropList& list, QWidget& parent) {
+    auto& combo = *new MovingList(&parent);
+    bindList(kit, list, combo);
+    const auto is_moved = [&list, &combo] {
+        return combo.isEnabled() && combo.currentIndex() != list.position();
+    };
+    combo.take = [&kit, &list, &combo, is_moved] {
+        if (is_moved()) {
+            choose(kit, list, combo, combo.currentIndex());
+        }
+    };
+    combo.take_back = [&list, &combo, is_moved] {
+        const bool moved = is_moved();
         showPosition(combo, list);
+        return moved;
+    };
+    QObject::connect(&combo, &QComboBox::activated, &combo, [&kit, &list, &combo](int position) {
+        if (!combo.moves()) {
+            choose(kit, list, combo, position);
+        }
     });
     return combo;
 }

@@ -13,4 +13,8 @@ namespace mero::qt {
 /// changes the selection only while the list has the focus.
 QComboBox& makeDropList(WidgetKit& kit, platform::DropList& list, QWidget& parent);
 
+/// The same for a list whose entries do much: keys and the wheel move in the closed list without choosing;
+/// Enter and leaving choose.
+QComboBox& makeMovingList(WidgetKit& kit, platform::DropList& list, QWidget& parent);
+
 }  // namespace mero::qt

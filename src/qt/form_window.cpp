@@ -112,7 +112,9 @@ void FormWindow::showForm() {
     }
     raise();
     activateWindow();
-    if (focusWidget() == nullptr) {
+    if (opens) {
+        focusFirst(*content_);
+    } else if (focusWidget() == nullptr) {
         focusNextChild();
     }
 }
@@ -198,6 +200,10 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     if (!form_->enabled()) {
         QApplication::alert(this);
         return;
+    }
+    if (owner_ == nullptr) {
+        // The end of the user's session must not wait for somebody to close a box.
+        kit_->typing().forget();
     }
     kit_->enter([this] {
         if (form_->close_requested) {

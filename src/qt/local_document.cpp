@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "qt/missing_page.h"
 #include "qt/texts.h"
 
 namespace mero::qt {
@@ -83,13 +84,6 @@ void keepGivenSizes(QTextDocument& document) {
     }
 }
 
-QString errorPage(const QString& path) {
-    return QStringLiteral(
-               "<html><body><h3>Stránku nelze zobrazit</h3>"
-               "<p>Soubor <b>%1</b> neexistuje nebo jej nelze přečíst.</p></body></html>")
-        .arg(path.toHtmlEscaped());
-}
-
 }  // namespace
 
 LocalDocument::LocalDocument(Decoder decode, QObject* parent)
@@ -104,7 +98,7 @@ bool LocalDocument::load(const QString& path) {
     clear();
     QFile file(path);
     if (!QFileInfo(path).isFile() || file.size() > kLargestFile || !file.open(QIODevice::ReadOnly)) {
-        setHtml(errorPage(path));
+        setHtml(missingPage(path));
         return false;
     }
     const QByteArray bytes = file.readAll();

@@ -2,9 +2,12 @@
 /// Pictures as widgets: a sheet with the colours of a text field.
 #include "qt/picture_view.h"
 
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QPainter>
 #include <utility>
 
+#include "qt/copy_menu.h"
 #include "qt/look.h"
 #include "qt/picture_painter.h"
 #include "qt/texts.h"
@@ -45,6 +48,15 @@ void PictureView::paintEvent(QPaintEvent* /*event*/) {
     if (accessibleDescription() != summary) {
         setAccessibleDescription(summary);
     }
+}
+
+void PictureView::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu menu(this);
+    connect(menu.addAction(QStringLiteral("Kopírovat jako obrázek")), &QAction::triggered, this,
+            [this] { copyAsPicture(*this, source_); });
+    connect(menu.addAction(QStringLiteral("Kopírovat jako SVG")), &QAction::triggered, this,
+            [this] { copyAsSvg(*this, source_); });
+    menu.exec(event->globalPos());
 }
 
 }  // namespace mero::qt

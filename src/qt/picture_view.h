@@ -25,6 +25,8 @@ class PictureView : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    /// Offers to copy the picture.
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     [[nodiscard]] QSize inPixels(const QSize& room) const;

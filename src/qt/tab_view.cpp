@@ -98,15 +98,8 @@ void TabView::buildPage(int position) {
 
 void TabView::enterPage() {
     QWidget* page = currentWidget();
-    if (page->window()->focusWidget() != page) {
-        return;
-    }
-    for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
-        if (page->isAncestorOf(next) && next->isVisibleTo(page) && next->isEnabled() &&
-            (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus) {
-            next->setFocus(Qt::OtherFocusReason);
-            return;
-        }
+    if (page->window()->focusWidget() == page) {
+        focusFirst(*page);
     }
 }
 

@@ -92,9 +92,10 @@ QLineEdit& makeLineEdit(WidgetKit& kit, TextBox& box, QWidget& parent) {
         }
     });
     QObject::connect(&line, &QLineEdit::textEdited, &line, [&kit, &box, &line](const QString& text) {
-        kit.enter([&box, &text] { box.userEdit(stored(text)); });
+        kit.enterTyped(line, [&box, &text] { box.userEdit(stored(text)); });
         showText(line, box);
     });
+    QObject::connect(&line, &QLineEdit::returnPressed, &line, [&kit] { kit.typing().settle(); });
     return line;
 }
 
@@ -110,7 +111,7 @@ QPlainTextEdit& makeTextArea(WidgetKit& kit, TextBox& box, QWidget& parent) {
     });
     QObject::connect(&area, &QPlainTextEdit::textChanged, &area, [&kit, &box, &area] {
         const std::string text = stored(area.toPlainText());
-        kit.enter([&box, &text] { box.userEdit(text); });
+        kit.enterTyped(area, [&box, &text] { box.userEdit(text); });
         showText(area, box);
     });
     return area;

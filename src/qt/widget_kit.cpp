@@ -22,11 +22,6 @@ bool countsAsEntering(Qt::FocusReason reason) {
            reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
 }
 
-bool countsAsLeaving(Qt::FocusReason reason) {
-    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
-           reason != Qt::MenuBarFocusReason;
-}
-
 class FocusFilter : public QObject {
   public:
     FocusFilter(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost)
@@ -39,7 +34,8 @@ class FocusFilter : public QObject {
             }
         } else if (event->type() == QEvent::FocusOut && lost_) {
             if (countsAsLeaving(dynamic_cast<QFocusEvent&>(*event).reason())) {
-                kit_->enter(lost_);
+                kit_->enterLeaving(lost_);
+                kit_->typing().leave();
             }
         }
         return QObject::eventFilter(watched, event);
@@ -54,7 +50,25 @@ class FocusFilter : public QObject {
 }  // namespace
 
 WidgetKit::WidgetKit(Gate gate, FocusEvents focus_events)
-    : gate_(std::move(gate)), focus_events_(focus_events) {}
+    : gate_(std::move(gate)), focus_events_(focus_events), typing_(std::make_unique<Typing>()) {}
+
+void WidgetKit::enter(const std::function<void()>& event) const {
+    typing_->settle();
+    gate_(event);
+}
+
+void WidgetKit::enterTyped(QWidget& field, const std::function<void()>& event) const {
+    if (runsFocusHandlers()) {
+        typing_->run(field, [&] { gate_(event); });
+    } else {
+        gate_(event);
+    }
+}
+
+bool countsAsLeaving(Qt::FocusReason reason) {
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+           reason != Qt::MenuBarFocusReason;
+}
 
 QWidget* WidgetKit::find(const platform::Control& control) const {
     const auto found = widgets_.find(&control);
@@ -106,6 +120,16 @@ void leadTo(QWidget& widget) {
     widget.setFocus(Qt::ActiveWindowFocusReason);
     if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
         line->selectAll();
+    }
+}
+
+void focusFirst(QWidget& page) {
+    for (QWidget* next = page.nextInFocusChain(); next != &page; next = next->nextInFocusChain()) {
+        if (page.isAncestorOf(next) && next->isVisibleTo(&page) && next->isEnabled() &&
+            (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus) {
+            next->setFocus(Qt::OtherFocusReason);
+            return;
+        }
     }
 }
 

@@ -10,6 +10,7 @@
 #include <random>
 
 #include "data/rain_support.h"
+#include "data/station_file.h"
 
 namespace mero::data {
 namespace {
@@ -137,9 +138,9 @@ TEST_F(RainDamage, AForgedLengthOfAPropertyIsNoMatter) {
     const std::size_t at = damaged.find(property);
     ASSERT_NE(at, std::string::npos);
     damaged[at + property.size() - 1] = '\x5b';
-    const Outcome outcome = test::read(folder_.write("mero.mdb", damaged), 5);
-    EXPECT_LT(outcome.took, kReadLimit);
-    EXPECT_NE(outcome.table(), nullptr);
+    const StationTable table =
+        stationTable({reinterpret_cast<const std::uint8_t*>(damaged.data()), damaged.size()}, "List1");
+    EXPECT_EQ(table.rows.size(), 12U);
 }
 
 TEST_F(RainDamage, AMarkUnderAnotherNameIsStillTheMark) {

@@ -35,7 +35,22 @@ std::vector<int> numbersOf(std::int16_t station) {
 TEST(RainOddTables, MoreAndFewerRowsThanNineComeAsTheyAre) {
     EXPECT_THAT(numbersOf(1), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12));
     EXPECT_THAT(numbersOf(2), ElementsAre(1, 2, 3, 4, 5));
-    EXPECT_THAT(numbersOf(5), ElementsAre());
+}
+
+TEST(RainOddTables, ATableWithoutRainEndsTheProgramAsAMissingTableDoes) {
+    const std::string file = std::string(" v databázi dešťů „") + MERO_ODD_TABLES + "“ ";
+    const auto without_rows = test::read(MERO_ODD_TABLES, 5);
+    ASSERT_NE(without_rows.error(), nullptr) << "no row: the station before would stay in force";
+    EXPECT_EQ(without_rows.errorNumber(), kNoRain);
+    EXPECT_TRUE(without_rows.error()->endsProgram());
+    EXPECT_EQ(without_rows.error()->description(), "Tabulka List5" + file + "nemá žádný řádek");
+
+    const auto without_numbers = test::read(MERO_ODD_TABLES, 8);
+    ASSERT_NE(without_numbers.error(), nullptr) << "a date, yes or no, a memo";
+    EXPECT_EQ(without_numbers.errorNumber(), kNoRain);
+    EXPECT_TRUE(without_numbers.error()->endsProgram());
+    EXPECT_EQ(without_numbers.error()->description(),
+              "Tabulka List8" + file + "nemá ve sloupcích intenzit čísla");
 }
 
 TEST(RainOddTables, RowsOverSeveralPagesKeepTheirOrder) {
@@ -44,6 +59,10 @@ TEST(RainOddTables, RowsOverSeveralPagesKeepTheirOrder) {
     for (std::size_t at = 0; at < numbers.size(); ++at) {
         ASSERT_EQ(numbers[at], static_cast<int>(at) + 1);
     }
+}
+
+TEST(RainOddTables, WithoutItsMarkAFileIsNoDemonstration) {
+    EXPECT_FALSE(tableOf(1).demonstration);
 }
 
 TEST(RainOddTables, DeletedRowsAreNotRead) {

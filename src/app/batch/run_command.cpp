@@ -3,11 +3,18 @@
 /// Only the trace goes to standard output.
 #include "app/batch/run_command.h"
 
+#include <poll.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <streambuf>
 
 #include "app/batch/pdf_program.h"
+#include "app/common/end_signals.h"
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
 #include "app/common/standard_streams.h"
@@ -34,7 +41,36 @@ constexpr const char* kHelp =
     "be\n"
     "written, 2 unusable script or arguments.\n";
 
-int runScript(const RunOptions& options, std::istream& script) {
+/// Standard input that is at its end when the program has to end: std::cin waits on.
+class Input : public std::streambuf {
+  public:
+    explicit Input(const EndSignals& signals) : signals_(&signals) {}
+
+  protected:
+    int_type underflow() override {
+        std::array<pollfd, 2> ready{pollfd{STDIN_FILENO, POLLIN, 0},
+                                    pollfd{signals_->descriptor(), POLLIN, 0}};
+        ssize_t count = -1;
+        do {
+            static_cast<void>(::poll(ready.data(), ready.size(), -1));
+            if (signals_->received()) {
+                return traits_type::eof();
+            }
+            count = ::read(STDIN_FILENO, bytes_.data(), bytes_.size());
+        } while (count < 0 && errno == EINTR);
+        if (count <= 0) {
+            return traits_type::eof();
+        }
+        setg(bytes_.data(), bytes_.data(), bytes_.data() + count);
+        return traits_type::to_int_type(bytes_.front());
+    }
+
+  private:
+    const EndSignals* signals_;
+    std::array<char, 4096> bytes_{};
+};
+
+int runScript(const RunOptions& options, std::istream& script, const EndSignals& signals) {
     const std::string folder = folderOrDefault(options.folder);
     if (!folderExists(folder)) {
         std::cerr << "mero-batch: " << folderMissing(folder) << '\n';
@@ -51,7 +87,11 @@ int runScript(const RunOptions& options, std::istream& script) {
     automation::HeadlessUser user(program);
     automation::ScriptRunner runner(program, user, desk, std::cerr, options.script);
     program.start();
-    const int status = runner.run(script);
+    const int status = runner.run(script, [&signals] { return signals.received(); });
+    if (signals.received()) {
+        program.close();
+        signals.passOn();
+    }
     return std::cout ? status : traceFailed("mero-batch");
 }
 
@@ -67,8 +107,11 @@ int runCommand(std::span<const std::string_view> arguments) {
         if (options.script.empty()) {
             throw UsageError("which script? (see mero-batch run --help)");
         }
+        const EndSignals signals;
         if (options.script == "-") {
-            return runScript(options, std::cin);
+            Input input(signals);
+            std::istream lines(&input);
+            return runScript(options, lines, signals);
         }
         std::ifstream script(options.script);
         if (!script || script.peek() == std::ifstream::traits_type::eof()) {
@@ -77,7 +120,7 @@ int runCommand(std::span<const std::string_view> arguments) {
             }
             script.clear();
         }
-        return runScript(options, script);
+        return runScript(options, script, signals);
     } catch (const UsageError& error) {
         std::cerr << "mero-batch: " << error.what() << '\n';
         return kUnusable;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QLibraryInfo>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <QTranslator>
 #include <fstream>
@@ -15,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/common/end_signals.h"
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
 #include "app/common/standard_streams.h"
@@ -83,7 +85,7 @@ void translateSystemTexts(QTranslator& translator) {
 /// The running program with its window.
 class Mero {
   public:
-    Mero(const app::RunOptions& options, std::string script)
+    Mero(const app::RunOptions& options, std::string script, const app::EndSignals& end_signals)
         : scripted_(!options.script.empty()),
           script_name_(options.script),
           script_(std::move(script)),
@@ -102,7 +104,16 @@ class Mero {
         real_desk_.message_closed = [this](const platform::Message& message) {
             window_.returnToField(message);
         };
+        app::tellBesideFields(real_desk_, kit_.typing());
+        real_desk_.file_saved = [this](const std::string& path) { window_.tellSaved(path); };
         program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
+        if (end_signals.descriptor() >= 0) {
+            auto* request = new QSocketNotifier(end_signals.descriptor(), QSocketNotifier::Read, &window_);
+            QObject::connect(request, &QSocketNotifier::activated, &window_, [this, request] {
+                request->setEnabled(false);
+                program_.close();
+            });
+        }
     }
 
     int run() {
@@ -217,8 +228,10 @@ int main(int argc, char** argv) {
         translateSystemTexts(translator);
         QApplication::setQuitOnLastWindowClosed(false);
         app::wearIcon();
-        Mero mero(options, std::move(script));
-        return mero.run();
+        const app::EndSignals end_signals;
+        const int status = Mero(options, std::move(script), end_signals).run();
+        end_signals.passOn();
+        return status;
     } catch (const app::UsageError& error) {
         std::cerr << "mero: " << error.what() << '\n';
         return kUnusable;

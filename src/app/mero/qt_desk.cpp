@@ -17,6 +17,7 @@
 #include "app/mero/pdf_file.h"
 #include "app/mero/save_dialog.h"
 #include "qt/document_pages.h"
+#include "qt/missing_page.h"
 #include "qt/texts.h"
 
 namespace mero::app {
@@ -48,6 +49,12 @@ QWidget* QtDesk::window() const {
 }
 
 void QtDesk::showMessage(const platform::Message& message) {
+    if (!told_beside_field || !told_beside_field(message)) {
+        showBox(message);
+    }
+}
+
+void QtDesk::showBox(const platform::Message& message) {
     QMessageBox box(boxIcon(message.icon), shown(message.title.value_or(platform::kApplicationTitle)),
                     shown(message.text).replace(QLatin1String("\r\n"), QLatin1String("\n")).trimmed(),
                     QMessageBox::Ok, window());
@@ -76,6 +83,8 @@ void QtDesk::reportError(const RuntimeError& error) {
                        .arg(QString::number(error.number()), shown(error.description()));
     if (error.endsProgram()) {
         text += QStringLiteral("\n\nProgram bude ukončen.");
+        showBox({qt::stored(text), platform::MessageIcon::Critical});
+        return;
     }
     showMessage({qt::stored(text), platform::MessageIcon::Critical});
 }
@@ -122,7 +131,6 @@ void QtDesk::openAddress(const std::string& address) {
 void QtDesk::formOpened(const std::string& /*form*/) {}
 void QtDesk::formClosed(const std::string& /*form*/) {}
 void QtDesk::navigated(const std::string& /*view*/, const std::string& /*path*/) {}
-void QtDesk::saved(const std::string& /*path*/) {}
 void QtDesk::ended() {}
 
 void QtDesk::openPrintPreview(const std::string& path) {
@@ -145,8 +153,26 @@ std::optional<std::string> QtDesk::askSavePath(const std::string& suggested_path
     if (sitter_ == Sitter::Script) {
         return std::nullopt;
     }
-    const auto path = askWhereToSave(window(), shown(suggested_path));
-    return path ? std::optional(qt::stored(*path)) : std::nullopt;
+    const bool known = !last_folder_.isEmpty() && QFileInfo(last_folder_).isDir() && !isHidden(last_folder_);
+    const QString folder = known ? last_folder_ : documentsFolder();
+    const auto path =
+        askWhereToSave(window(), folder + QLatin1Char('/') + qt::savableName(shown(suggested_path)));
+    if (!path) {
+        return std::nullopt;
+    }
+    last_folder_ = QFileInfo(*path).absolutePath();
+    return qt::stored(*path);
+}
+
+void QtDesk::saved(const std::string& path) {
+    if (sitter_ == Sitter::Person && file_saved) {
+        file_saved(path);
+    }
+}
+
+void tellBesideFields(QtDesk& desk, qt::Typing& typing) {
+    desk.told_beside_field = [&typing](const platform::Message& message) { return typing.tell(message); };
+    typing.show_box = [&desk](const platform::Message& message) { desk.showMessage(message); };
 }
 
 platform::PdfResult QtDesk::makePdf(const std::string& document_path, const std::string& target_path) {

@@ -9,6 +9,7 @@
 
 #include "platform/desk.h"
 #include "qt/local_document.h"
+#include "qt/typing.h"
 
 namespace mero::app {
 
@@ -24,6 +25,10 @@ class QtDesk : public platform::Desk {
     /// Sets the parent of boxes while no other window of the program is active.
     void setMainWindow(QWidget* window) { main_window_ = window; }
 
+    /// Tells a message elsewhere than in a box; false when it has to be a box.
+    std::function<bool(const platform::Message& message)> told_beside_field;
+    /// Called when a person's file was saved.
+    std::function<void(const std::string& path)> file_saved;
     /// Called after a person has closed a message box.
     std::function<void(const platform::Message& message)> message_closed;
 
@@ -41,12 +46,17 @@ class QtDesk : public platform::Desk {
 
   private:
     [[nodiscard]] QWidget* window() const;
+    void showBox(const platform::Message& message);
     void tellOfNoBrowser(const std::string& address);
 
     Sitter sitter_;
     qt::Decoder decode_;
     QPointer<QWidget> main_window_;
+    QString last_folder_;  ///< where a file was saved last, empty before
     QObject while_there_;  ///< disconnects processes that end after this desk
 };
+
+/// Messages of a person's keystrokes are told beside the field, and in a box when it is left.
+void tellBesideFields(QtDesk& desk, qt::Typing& typing);
 
 }  // namespace mero::app

@@ -3,9 +3,13 @@
 /// Only the report's suffixes count, so names with points ("hala 1.2") get one added.
 #include "app/mero/save_dialog.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <algorithm>
 
 namespace mero::app {
 namespace {
@@ -14,6 +18,8 @@ bool mayReplace(QWidget* parent, const QString& path) {
     QMessageBox box(QMessageBox::Question, QStringLiteral("Uložit výsledky"),
                     QStringLiteral("Soubor %1 už existuje. Nahradit jej?").arg(QFileInfo(path).fileName()),
                     QMessageBox::Yes | QMessageBox::No, parent);
+    box.button(QMessageBox::Yes)->setText(QStringLiteral("&Ano"));
+    box.button(QMessageBox::No)->setText(QStringLiteral("&Ne"));
     box.setObjectName(QStringLiteral("replace"));
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
@@ -30,11 +36,30 @@ QString withSuffix(const QString& path, const QString& filter) {
     return path + (filter == QString::fromUtf8(kPdfFilter) ? QLatin1String(".pdf") : QLatin1String(".html"));
 }
 
+bool isHidden(const QString& folder) {
+    const QStringList parts = folder.split(QLatin1Char('/'));
+    return std::any_of(parts.begin(), parts.end(),
+                       [](const QString& part) { return part.startsWith(QLatin1Char('.')); });
+}
+
+QString documentsFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
 std::optional<QString> askWhereToSave(QWidget* parent, const QString& suggested_path) {
     QFileDialog dialog(parent, QStringLiteral("Uložit výsledky"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilters({QString::fromUtf8(kHtmlFilter), QString::fromUtf8(kPdfFilter)});
+    // In Czech also where the window system's own translation is not installed; so is the question about an
+    // existing file.
+    dialog.setLabelText(QFileDialog::LookIn, QString::fromUtf8(kFolderLabel));
+    dialog.setLabelText(QFileDialog::FileName, QString::fromUtf8(kNameLabel));
+    dialog.setLabelText(QFileDialog::FileType, QString::fromUtf8(kTypeLabel));
+    dialog.setLabelText(QFileDialog::Accept, QString::fromUtf8(kAcceptLabel));
+    dialog.setLabelText(QFileDialog::Reject, QString::fromUtf8(kRejectLabel));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setDirectory(QFileInfo(suggested_path).absolutePath());
     dialog.selectFile(QFileInfo(suggested_path).fileName());
     const auto follow_filter = [&dialog](const QString& filter) {
@@ -50,7 +75,7 @@ std::optional<QString> askWhereToSave(QWidget* parent, const QString& suggested_
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         const QString chosen = dialog.selectedFiles().constFirst();
         const QString path = withSuffix(chosen, dialog.selectedNameFilter());
-        if (path == chosen || !QFileInfo::exists(path) || mayReplace(parent, path)) {
+        if (!QFileInfo::exists(path) || mayReplace(parent, path)) {
             return path;
         }
     }

@@ -13,6 +13,7 @@ class Failure : public std::runtime_error {
         CannotOpen,  ///< no database of this format, encrypted, or with a password
         Damaged,
         NoSuchTable,
+        NoNumbers,  ///< no column of those that are asked for is of a type with numbers
     };
 
     Failure(Kind kind, const std::string& what) : std::runtime_error(what), kind_(kind) {}

@@ -3,7 +3,9 @@
 /// Handlers run at once and nest; the results come out right only in this order.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
 #include <type_traits>
 
@@ -17,6 +19,7 @@
 #include "platform/clock.h"
 #include "platform/desk.h"
 #include "platform/mod_reg_settings.h"
+#include "report/report_file.h"
 
 namespace mero::forms {
 
@@ -117,6 +120,10 @@ class frmCalc : public frmCalcControls {
     /// Saves the report as HTML or PDF, as the path's suffix says, and reports a failure.
     void saveResults(const std::string& path);
 
+    /// Writes a report to the current path and remembers the file.
+    report::WriteResult writeReport(const std::string& html);
+    void removeReport(const std::string& path);
+
     /// Writes the shown report again when its file is gone or is another program's by now. False when it
     /// cannot.
     [[nodiscard]] bool keepReport();
@@ -130,6 +137,8 @@ class frmCalc : public frmCalcControls {
     /// The report that this program wrote and shows, in UTF-8; empty when none could be written. A second
     /// program in this folder writes its report of the same project over ours, or removes it at its end.
     std::string shown_report_;
+    /// Files of reports that this program wrote and has not removed: also those of former project names.
+    std::set<std::string> written_reports_;
     bool calculated_ = false;  ///< set when a design was completed
 };
 

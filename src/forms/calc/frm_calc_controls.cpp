@@ -134,6 +134,8 @@ void frmCalcControls::setInitialState() {
     for (const FacilityType type : data::kFacilityTypes) {
         cmdCalcul[type].setVisible(!design::isLive(type));
     }
+    txtPrumerSachtyVnej.setEnabled(false);
+    txtPrumerSachtyVnej.setGreyed(true);
     txtVyskaPiskVrstvy.setEnabled(false);
     txtVyskaPiskVrstvy.setGreyed(true);
     wbShowPopisTech.hide();

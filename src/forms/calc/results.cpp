@@ -15,7 +15,7 @@ namespace mero::forms {
 void frmCalc::SSTab1_Click(int PreviousTab) {
     switch (SSTab1.position()) {
         case kTabDesign:
-            report::removeReport(values_->ResultsFilePath);
+            removeReport(values_->ResultsFilePath);
             break;
         case kTabTechnology:
             enterTechnologyTab(PreviousTab);
@@ -71,7 +71,7 @@ void frmCalc::BuildResultsHtml() {
     // The description keeps the tags from now on.
     values_->txtDetails = report::withBreakTags(values_->txtDetails);
     const std::string html = report::htmlReport(reportData(*this, clock_->now()));
-    const report::WriteResult result = report::writeReport(values_->ResultsFilePath, html);
+    const report::WriteResult result = writeReport(html);
     if (result == report::WriteResult::PermissionDenied) {
         values_->ResultsFileName = report::bareFileName(values_->ResultsFilePath);
         error("Soubor " + values_->ResultsFileName + " je otevřený jinou aplikací.");
@@ -80,10 +80,23 @@ void frmCalc::BuildResultsHtml() {
     }
 }
 
+report::WriteResult frmCalc::writeReport(const std::string& html) {
+    const report::WriteResult result = report::writeReport(values_->ResultsFilePath, html);
+    if (result == report::WriteResult::Written) {
+        written_reports_.insert(values_->ResultsFilePath);
+    }
+    return result;
+}
+
+void frmCalc::removeReport(const std::string& path) {
+    report::removeReport(path);
+    written_reports_.erase(path);
+}
+
 bool frmCalc::keepReport() {
     const std::string& path = values_->ResultsFilePath;
     return shown_report_.empty() || report::holdsReport(path, shown_report_) ||
-           report::writeReport(path, shown_report_) == report::WriteResult::Written;
+           writeReport(shown_report_) == report::WriteResult::Written;
 }
 
 void frmCalc::cmdSaveResults_Click() {

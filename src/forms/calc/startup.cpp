@@ -30,7 +30,11 @@ void frmCalc::Form_Load() {
 
 void frmCalc::Form_QueryUnload() {
     reg_settings_.Restore_Locale();
-    report::removeReport(values_->ResultsFilePath);
+    removeReport(values_->ResultsFilePath);
+    for (const std::string& path : written_reports_) {
+        report::removeReport(path);
+    }
+    written_reports_.clear();
 }
 
 void frmCalc::Timer1_Timer() {

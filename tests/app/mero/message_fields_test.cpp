@@ -186,10 +186,30 @@ TEST_F(MessageFields, AFieldThatCannotBeReachedDoesNotGetIt) {
     number.setFocus();
     close(VerdictId::SandLayerNotPositive);
     EXPECT_EQ(QApplication::focusWidget(), &number) << "disabled";
-    close(VerdictId::FiltrationMissing);
+    close(VerdictId::DesignRainMissing);
     EXPECT_EQ(QApplication::focusWidget(), &number) << "on another tab";
     close(VerdictId::ShaftFilterSufficient);
     EXPECT_EQ(QApplication::focusWidget(), &number) << "about no field";
+}
+
+TEST_F(MessageFields, AGuardThatAsksForTheSiteLeadsToTheFirstTab) {
+    run("tab 1");
+    trace.str("");
+    close(VerdictId::FiltrationMissing);
+    EXPECT_EQ(program.window().SSTab1.position(), forms::kTabInputs);
+    EXPECT_EQ(QApplication::focusWidget(), &widget<QLineEdit>("txtSoucFiltrace"));
+    run("tab 1");
+    close(VerdictId::DrainedAreaMissing);
+    EXPECT_EQ(program.window().SSTab1.position(), forms::kTabInputs);
+    EXPECT_EQ(QApplication::focusWidget(), kit.find(program.window().cmdEdit[1]));
+    EXPECT_EQ(trace.str(), "") << "nothing runs on the way";
+}
+
+TEST_F(MessageFields, AnOpenDialogKeepsTheTab) {
+    run({"tab 1", "tab 0", "click cmdEdit(2)"});
+    program.window().SSTab1.setPosition(1);
+    close(VerdictId::FiltrationMissing);
+    EXPECT_EQ(program.window().SSTab1.position(), 1);
 }
 
 }  // namespace

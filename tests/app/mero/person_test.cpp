@@ -139,6 +139,37 @@ TEST_F(Person, PicksASoilByTheKeyboardAlone) {
     EXPECT_EQ(program.window().txtSoucFiltrace.text(), "4.0E-04");
 }
 
+TEST_F(Person, FindsADialogsFirstControlEachTime) {
+    open(0, rainDialog());
+    QWidget* stations = kit.find(rainDialog().cboSelStanice);
+    EXPECT_EQ(focused(rainDialog()), stations);
+    clickCell(rainDialog().fgIntDeste, {2, 0});
+    QTest::keyClick(focused(rainDialog()), Qt::Key_Return);
+    ASSERT_NE(focused(rainDialog()), stations);
+    kit.find(rainDialog())->close();
+    open(0, rainDialog());
+    EXPECT_EQ(focused(rainDialog()), stations);
+    QTest::keyClicks(focused(rainDialog()), "Brno");
+    EXPECT_EQ(program.values().DobaTrvani[1], 10.0F)
+        << "typing chooses a station, no duration is overwritten";
+    EXPECT_EQ(program.values().VybranaStanice.substr(0, 4), "Brno");
+}
+
+TEST_F(Person, MovesPastTypesThatCannotBeChosenYetWithoutAMessage) {
+    program.window().SSTab1.userSelect(1);
+    QTest::mouseClick(&widget<QRadioButton>("optSelType(0)"), Qt::LeftButton, {}, {8, 8});
+    auto& types = widget<QComboBox>("cboSelType");
+    types.setFocus(Qt::OtherFocusReason);
+    trace.str("");
+    for (int i = 0; i < 4; ++i) {
+        QTest::keyClick(&types, Qt::Key_Down);
+    }
+    EXPECT_EQ(trace.str(), "");
+    EXPECT_EQ(program.window().SelectedType, data::FacilityType::None);
+    QTest::keyClick(&types, Qt::Key_Return);
+    EXPECT_EQ(program.window().SelectedType, data::FacilityType::Trench);
+}
+
 TEST_F(Person, FindsTheFieldAgainAfterADialog) {
     auto& button = widget<QPushButton>("cmdEdit(2)");
     button.setFocus();

@@ -12,6 +12,9 @@
 #include <csignal>
 #include <filesystem>
 
+#include "qt/balloon.h"
+#include "qt/bench_form.h"
+#include "qt/text_fields.h"
 #include "support/message_box.h"
 #include "support/temporary_folder.h"
 
@@ -155,6 +158,39 @@ TEST(RealDesk, DoesNotWaitForABrowserThatRunsOn) {
     const int browser = std::stoi(opener.folder().read("pid"));
     EXPECT_EQ(kill(browser, 0), 0);
     kill(browser, SIGKILL);
+}
+
+/// A field whose keystrokes make the desk speak.
+class TypedMessages : public testing::Test {
+  protected:
+    qt::BenchForm bench;
+    platform::TextBox box{bench.form, "txtSoucBezp"};
+    qt::BenchWindow window;
+    QLineEdit& field = window.put(qt::makeLineEdit(bench.kit, box, window));
+    QtDesk desk{Sitter::Person, plain};
+    Seen seen;
+
+    void SetUp() override { tellBesideFields(desk, bench.kit.typing()); }
+};
+
+TEST_F(TypedMessages, AreBalloonsUntilTheFieldIsLeft) {
+    box.changed = [this] { desk.reportError(RuntimeError(ErrorNumber::DivisionByZero)); };
+    QTest::keyClicks(&field, "0.5");
+    EXPECT_EQ(qt::balloonText(), "Chyba za běhu programu č. 11: Dělení nulou.");
+    closeNextBox(seen);
+    bench.kit.enter([] {});
+    EXPECT_EQ(seen.boxes, 1) << "one box for three keys";
+    EXPECT_EQ(seen.text, "Chyba za běhu programu č. 11: Dělení nulou.");
+}
+
+TEST_F(TypedMessages, ThatEndTheProgramAreBoxesAtOnce) {
+    box.changed = [this] {
+        desk.reportError(RuntimeError(53, "Soubor nebyl nalezen", RuntimeError::Effect::EndsProgram));
+    };
+    closeNextBox(seen);
+    QTest::keyClicks(&field, "1");
+    EXPECT_EQ(seen.boxes, 1);
+    EXPECT_EQ(qt::balloonText(), "");
 }
 
 TEST(RealDesk, AnswersAScriptAtOnce) {

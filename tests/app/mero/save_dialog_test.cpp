@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "app/mero/qt_desk.h"
 #include "support/temporary_folder.h"
 
 namespace mero::app {
@@ -117,6 +118,53 @@ TEST_F(SaveDialog, AsksAboutTheFileThatTheSuffixLeadsTo) {
 TEST_F(SaveDialog, AsksAboutAFileThatIsThere) {
     folder.write("a.html", "starý");
     EXPECT_EQ(ask({choose("a.html", kHtml), answer(QMessageBox::Yes)}), path("a.html"));
+}
+
+TEST_F(SaveDialog, IsCzechWhateverTranslationIsInstalled) {
+    QStringList texts;
+    static_cast<void>(ask({[&](QWidget& window) {
+        auto& dialog = dynamic_cast<QFileDialog&>(window);
+        texts = {dialog.labelText(QFileDialog::FileName), dialog.labelText(QFileDialog::FileType),
+                 dialog.labelText(QFileDialog::Accept), dialog.labelText(QFileDialog::Reject)};
+        dialog.reject();
+    }}));
+    EXPECT_EQ(texts, (QStringList{"&Název souboru:", "Druh souboru:", "&Uložit", "Zrušit"}));
+}
+
+TEST_F(SaveDialog, NoBringsBackToTheChoice) {
+    folder.write("a.html", "starý");
+    EXPECT_EQ(ask({choose("a.html", kHtml), answer(QMessageBox::No), choose("b.html", kHtml)}),
+              path("b.html"));
+}
+
+TEST(SaveFolder, ThatIsHiddenIsKnown) {
+    EXPECT_TRUE(isHidden("/home/anna/.local/share/mero"));
+    EXPECT_TRUE(isHidden("/home/anna/.mero"));
+    EXPECT_FALSE(isHidden("/home/anna/Projekty v1.2/a"));
+}
+
+TEST_F(SaveDialog, OfTheDeskStartsInTheDocumentsThenWhereSomethingWasSaved) {
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", QByteArray::fromStdString(folder.path()));
+    for (const char* name : {".local", "Documents", "jinde"}) {
+        QDir(QString::fromStdString(folder.path())).mkpath(name);
+    }
+    QtDesk desk(Sitter::Person, [](std::string_view bytes) { return std::string(bytes); });
+    QStringList offered;
+    const auto ask_desk = [&](const QString& answered) {
+        QTimer::singleShot(0, [&offered, answered] {
+            auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+            offered += dialog.selectedFiles().value(0);
+            dialog.findChild<QLineEdit*>()->setText(answered);
+            QMetaObject::invokeMethod(&dialog, answered.isEmpty() ? "reject" : "accept");
+        });
+        return desk.askSavePath(folder.path() + "/.local/Mero_Parcela č. 123/4.html");
+    };
+    EXPECT_EQ(ask_desk(path("jinde/a.html")), folder.file("jinde/a.html"));
+    EXPECT_EQ(ask_desk(""), std::nullopt);
+    qputenv("HOME", home);
+    EXPECT_EQ(offered, (QStringList{path("Documents/Mero_Parcela č. 123-4.html"),
+                                    path("jinde/Mero_Parcela č. 123-4.html")}));
 }
 
 }  // namespace

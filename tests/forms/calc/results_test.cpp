@@ -108,9 +108,25 @@ TEST_F(ResultsTest, ANewNameIsANewFile) {
     p.paste(w.txtProjName, "dvě");
     p.tab(kTabResults);
     EXPECT_TRUE(p.folder.has("Mero_dvě"));
-    EXPECT_TRUE(p.folder.has("Mero_jedna")) << "only the file of the current path is ever deleted";
+    EXPECT_TRUE(p.folder.has("Mero_jedna")) << "the tab deletes only the file of the current path";
     p.tab(kTabDesign);
     EXPECT_FALSE(p.folder.has("Mero_dvě"));
+}
+
+TEST_F(ResultsTest, TheEndRemovesEveryReportOfThisRunAndNoOther) {
+    p.folder.write("Mero_cizí", "another program's");
+    chooseSurface("jedna");
+    p.tab(kTabResults);
+    for (const char* name : {"dvě", "tři"}) {
+        p.tab(kTabInputs);
+        p.paste(w.txtProjName, name);
+        p.tab(kTabResults);
+    }
+    p.close(w);
+    for (const char* name : {"Mero_jedna", "Mero_dvě", "Mero_tři"}) {
+        EXPECT_FALSE(p.folder.has(name)) << name;
+    }
+    EXPECT_TRUE(p.folder.has("Mero_cizí"));
 }
 
 TEST_F(ResultsTest, AnEmptyProjectNameGivesTheBareFileName) {

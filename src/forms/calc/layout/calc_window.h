@@ -7,6 +7,8 @@
 #include "forms/calc/frm_calc.h"
 #include "qt/document_view.h"
 #include "qt/form_window.h"
+#include "qt/manual_window.h"
+#include "qt/notice_bar.h"
 #include "qt/widget_kit.h"
 
 namespace mero::forms {
@@ -20,18 +22,28 @@ class CalcWindow : public qt::FormWindow {
     CalcWindow(CalcWindow&&) = delete;
     CalcWindow& operator=(CalcWindow&&) = delete;
 
-    /// After a message was closed: puts the focus into the field that it is about, once the event is over.
+    /// After a message was closed: puts the focus into the field that it is about, once the event is over. A
+    /// guard that asks for the site leads to the first tab.
     void returnToField(const platform::Message& message);
+
+    /// Confirms that a file was saved and offers to open it.
+    void tellSaved(const std::string& path);
 
   protected:
     void build(QWidget& content) override;
 
   private:
+    void addHelp();
+    /// Opens the manual at the field with the focus.
+    void showHelp(const platform::Form& form, const QWidget& window);
+
     frmCalc* form_;
     qt::DocumentServices services_;
     std::unique_ptr<qt::FormWindow> rain_window_;
     std::unique_ptr<qt::FormWindow> area_window_;
     std::unique_ptr<qt::FormWindow> soil_window_;
+    qt::NoticeBar* notice_ = nullptr;           ///< made with the content
+    std::unique_ptr<qt::ManualWindow> manual_;  ///< made when it is first asked for
 };
 
 }  // namespace mero::forms

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "design/input.h"
+#include "forms/calc/layout/first_steps.h"
 #include "forms/calc/layout/result_panels.h"
 #include "qt/buttons.h"
 #include "qt/drop_list_box.h"
@@ -31,7 +32,7 @@ QWidget& buildChoice(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent)
     qt::describe(options, frame.title());
     const Qt::Alignment side = narrow ? Qt::AlignLeft : Qt::Alignment();
     row->addWidget(&options, 0, side);
-    QComboBox& types = qt::makeDropList(kit, form.cboSelType, frame);
+    QComboBox& types = qt::makeMovingList(kit, form.cboSelType, frame);
     types.setMinimumContentsLength(32);
     qt::describe(types, QString::fromUtf8(info(design::Input::Type).caption));
     row->addWidget(&types, 0, side);
@@ -47,6 +48,7 @@ void buildDesignPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page) {
     QWidget& content = qt::makeScrollPage(page);
     auto* column = new QVBoxLayout(&content);
     column->addWidget(&buildChoice(kit, form, content));
+    column->addWidget(&makeFirstSteps(form, content));
     form.picResults.forEach([&](int type, platform::Panel& panel) {
         QWidget& widget = qt::makePanel(kit, panel, content);
         buildResultPanel(kit, form, static_cast<FacilityType>(type), widget);

@@ -8,6 +8,7 @@
 #include "design/input.h"
 #include "design/quantity.h"
 #include "design/text_input.h"
+#include "forms/calc/layout/guided_choice.h"
 #include "forms/calc/layout/selection_guide.h"
 #include "qt/buttons.h"
 #include "qt/field_grid.h"
@@ -71,21 +72,23 @@ QWidget& buildFields(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent)
     return frame;
 }
 
-QWidget& buildGuide(QWidget& parent) {
+QWidget& buildGuide(const qt::WidgetKit& kit, frmCalc& form, QWidget& parent) {
     auto& frame = *new QGroupBox(QStringLiteral("Vodítko k výběru systému vsakování"), &parent);
     auto* column = new QVBoxLayout(&frame);
-    column->addWidget(new SelectionGuide(frame));
+    auto* guide = new SelectionGuide(frame);
+    guide->chosen = [&kit, &form](FacilityType type) { chooseByGuide(kit, form, type); };
+    column->addWidget(guide);
     return frame;
 }
 
 }  // namespace
 
-void buildInputsPage(qt::WidgetKit& kit, frmCalcControls& form, QWidget& page) {
+void buildInputsPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page) {
     QWidget& content = qt::makeScrollPage(page);
     auto* column = new QVBoxLayout(&content);
     auto* columns = new qt::FlowPair(content);
     columns->add(buildFields(kit, form, *columns), 1);
-    columns->add(buildGuide(*columns), 1);
+    columns->add(buildGuide(kit, form, *columns), 1);
     column->addWidget(columns, 1);
 
     auto* foot = new QHBoxLayout;

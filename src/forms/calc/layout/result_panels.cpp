@@ -11,6 +11,7 @@
 #include "design/quantity.h"
 #include "forms/calc/layout/panel_columns.h"
 #include "forms/calc/layout/picture_pane.h"
+#include "forms/calc/layout/result_rows.h"
 #include "forms/calc/tank_flow.h"
 #include "qt/buttons.h"
 #include "qt/drop_list_box.h"
@@ -195,6 +196,8 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWid
     const int margins = 4 * inputs_box.layout()->contentsMargins().left();
     inputs_box.setMinimumWidth(room.caption + valueWidth(inputs_box) + margins);
     buildResults(form, type, results);
+    qt::addCopyMenu(results_box, QStringLiteral("Kopírovat výsledky"),
+                    [&form, type] { return resultRows(form, type); });
 
     QPushButton& calculate = qt::makeButton(kit, form.cmdCalcul[type], inputs_box);
     qt::showAsPrimary(calculate);

@@ -3,7 +3,10 @@
 /// The regions' places are those of planning practice; all texts keep their size and always fit.
 #include "forms/calc/layout/selection_guide.h"
 
+#include <QHelpEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -27,17 +30,18 @@ struct Region {
     const char* label = "";
     QRectF place;
     Shares shares = {};
+    FacilityType type = FacilityType::None;  ///< what a click chooses
 };
 
 const std::array<Region, 7>& regions() {
     static const std::array<Region, 7> kRegions{{
         {"vícesložkový systém", {0.0, 0.0, 0.33, 0.64}, {0.25, 0.35, 0.4}},
-        {"vsakovací nádrže", {0.0, 0.67, 0.48, 0.33}, {0.4, 0.6, 0}},
-        {"plošné vsakování", {0.5, 0.8, 0.5, 0.2}, {1, 0, 0}},
-        {"vsakování v průlehu", {0.5, 0.59, 0.5, 0.19}, {0.7, 0.3, 0}},
-        {"kombinace průlehu a rýhy", {0.35, 0.39, 0.6, 0.18}, {0.5, 0.5, 0}},
-        {"vsakování rýhové a trubní", {0.4, 0.19, 0.6, 0.18}, {0.55, 0.45, 0}},
-        {"šachtové vsakování", {0.5, 0.0, 0.5, 0.17}, {0.65, 0.35, 0}},
+        {"vsakovací nádrže", {0.0, 0.67, 0.48, 0.33}, {0.4, 0.6, 0}, FacilityType::Tank},
+        {"plošné vsakování", {0.5, 0.8, 0.5, 0.2}, {1, 0, 0}, FacilityType::Surface},
+        {"vsakování v průlehu", {0.5, 0.59, 0.5, 0.19}, {0.7, 0.3, 0}, FacilityType::Swale},
+        {"kombinace průlehu a rýhy", {0.35, 0.39, 0.6, 0.18}, {0.5, 0.5, 0}, FacilityType::SwaleTrench},
+        {"vsakování rýhové a trubní", {0.4, 0.19, 0.6, 0.18}, {0.55, 0.45, 0}, FacilityType::Trench},
+        {"šachtové vsakování", {0.5, 0.0, 0.5, 0.17}, {0.65, 0.35, 0}, FacilityType::Shaft},
     }};
     return kRegions;
 }
@@ -119,12 +123,25 @@ QString spokenPlace(const Region& region) {
              amount(region.place.center().y(), "málo", "středně", "hodně"));
 }
 
+/// Left and below: one line for the ends of the axis, one for its caption; at the very bottom the legend.
+QRectF chartPlace(const QWidget& guide) {
+    const double line = guide.fontMetrics().height();
+    return QRectF(guide.rect()).adjusted(2.6 * line, 0.4 * line, -0.6 * line, -4.6 * line);
+}
+
+QRectF placeOf(const Region& region, const QRectF& chart) {
+    return {chart.left() + region.place.left() * chart.width(),
+            chart.bottom() - region.place.bottom() * chart.height(), region.place.width() * chart.width(),
+            region.place.height() * chart.height()};
+}
+
 }  // namespace
 
 SelectionGuide::SelectionGuide(QWidget& parent) : QWidget(&parent) {
     qt::speakAs(*this, QAccessible::Graphic);
     setObjectName(QStringLiteral("guide"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMouseTracking(true);
     setAccessibleName(QStringLiteral("Vodítko k výběru systému vsakování, graf"));
     QStringList places;
     for (const Region& region : regions()) {
@@ -141,14 +158,64 @@ QSize SelectionGuide::minimumSizeHint() const {
     return {qt::textWidth(*this, kLeastCharacters), fontMetrics().height() * kLeastLines};
 }
 
+QRectF SelectionGuide::regionsPlace() const {
+    const double inset = 0.3 * fontMetrics().height();
+    return chartPlace(*this).adjusted(inset, inset, -inset, -inset);
+}
+
+FacilityType SelectionGuide::typeAt(QPointF position) const {
+    const auto found = std::ranges::find_if(
+        regions(), [&](const Region& region) { return placeOf(region, regionsPlace()).contains(position); });
+    return found == regions().end() ? FacilityType::None : found->type;
+}
+
+void SelectionGuide::pointAt(FacilityType type) {
+    if (pointed_at_ != type) {
+        pointed_at_ = type;
+        setCursor(type == FacilityType::None ? Qt::ArrowCursor : Qt::PointingHandCursor);
+        update();
+    }
+}
+
+void SelectionGuide::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton ? typeAt(event->position()) : FacilityType::None;
+}
+
+void SelectionGuide::mouseMoveEvent(QMouseEvent* event) {
+    pointAt(typeAt(event->position()));
+}
+
+void SelectionGuide::mouseReleaseEvent(QMouseEvent* event) {
+    const FacilityType type = std::exchange(pressed_, FacilityType::None);
+    if (type != FacilityType::None && type == typeAt(event->position()) && chosen) {
+        chosen(type);
+    }
+}
+
+void SelectionGuide::leaveEvent(QEvent* event) {
+    pointAt(FacilityType::None);
+    QWidget::leaveEvent(event);
+}
+
+bool SelectionGuide::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto& help = dynamic_cast<const QHelpEvent&>(*event);
+        const bool choosable = typeAt(help.pos()) != FacilityType::None;
+        QToolTip::showText(help.globalPos(),
+                           choosable ? QStringLiteral("Klepnutím přejdete k výpočtu tohoto typu") : QString(),
+                           this);
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void SelectionGuide::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double line = fontMetrics().height();
-    // Left and below: one line for the ends of the axis, one for its caption; at the very bottom the legend.
-    const QRectF chart = QRectF(rect()).adjusted(2.6 * line, 0.4 * line, -0.6 * line, -4.6 * line);
+    const QRectF chart = chartPlace(*this);
     paintAxes(painter, chart);
-    paintRegions(painter, chart.adjusted(0.3 * line, 0.3 * line, -0.3 * line, -0.3 * line));
+    paintRegions(painter, regionsPlace());
     paintLegend(painter, QRectF(chart.left(), height() - 1.6 * line, chart.width(), 1.4 * line));
 }
 
@@ -179,11 +246,11 @@ void SelectionGuide::paintAxes(QPainter& painter, const QRectF& chart) const {
 void SelectionGuide::paintRegions(QPainter& painter, const QRectF& chart) const {
     const double line = fontMetrics().height();
     for (const Region& region : regions()) {
-        const QRectF place(chart.left() + region.place.left() * chart.width(),
-                           chart.bottom() - region.place.bottom() * chart.height(),
-                           region.place.width() * chart.width(), region.place.height() * chart.height());
+        const QRectF place = placeOf(region, chart);
         const QColor fill = regionColour(palette(), region.shares);
-        painter.setPen(QPen(qt::mixed(fill, palette().color(QPalette::WindowText), 0.35), line / 18));
+        const bool pointed_at = region.type != FacilityType::None && region.type == pointed_at_;
+        const QColor edge = qt::mixed(fill, palette().color(QPalette::WindowText), pointed_at ? 0.8 : 0.35);
+        painter.setPen(QPen(edge, pointed_at ? line / 8 : line / 18));
         painter.setBrush(fill);
         painter.drawRoundedRect(place, line / 3, line / 3);
 

@@ -32,6 +32,7 @@ public final class ReaderFixture {
             addDeletedRows(database);
             addCounting(database, "List7", 600);
             addNoStation(database);
+            addDates(database);
             RainDatabaseWriter.fixCatalogTimes(database);
         }
     }
@@ -82,6 +83,17 @@ public final class ReaderFixture {
                 table.deleteRow(row);
             }
         }
+    }
+
+    /** Its intensities are of types that hold no numbers. */
+    private static void addDates(Database database) throws IOException {
+        Table table = new TableBuilder("List8")
+                .addColumn(new ColumnBuilder("doba", DataType.INT))
+                .addColumn(new ColumnBuilder("5", DataType.SHORT_DATE_TIME))
+                .addColumn(new ColumnBuilder("2", DataType.BOOLEAN))
+                .addColumn(new ColumnBuilder("004", DataType.MEMO))
+                .toTable(database);
+        table.addRow((short) 5, LocalDateTime.of(2026, 1, 2, 3, 4), true, "131.2");
     }
 
     private static void addNoStation(Database database) throws IOException {
