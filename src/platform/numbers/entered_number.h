@@ -20,6 +20,8 @@ enum class NotTaken : std::uint8_t {
     OtherUnit,       ///< a unit of the program, but not the field's
     TooLarge,        ///< more than a Single holds
     TooSmall,        ///< not 0, but a Single holds nothing so small
+    Negative,        ///< for fields that hold no negative number
+    NotWhole,        ///< for fields that hold a count
 };
 
 using Entered = std::variant<std::string, NotTaken>;

@@ -4,18 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <vector>
 
 #include "platform/numbers/number_text.h"
+#include "platform/numbers/printed_entries.h"
 
 namespace mero::numbers {
-
-void PrintTo(NotTaken reason, std::ostream* out) {
-    *out << "not taken: " << static_cast<int>(reason);
-}
-
 namespace {
 
 const Entered kEmpty = NotTaken::Empty;
