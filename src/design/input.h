@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "design/facility.h"
+#include "platform/numbers/typed_number.h"
 
 namespace mero::design {
 
@@ -127,6 +128,8 @@ struct PanelInput {
 [[nodiscard]] std::span<const PanelInput> panelInputs(FacilityType type);
 /// Is it on the sub-panel of the overflow or of the drain?
 [[nodiscard]] bool isOfSubPanel(Input input);
+/// What its box takes from a person. Filtration coefficients may be typed with an exponent.
+[[nodiscard]] numbers::NumberField fieldOf(Input input);
 /// The text of the box when the window opens.
 [[nodiscard]] std::string openingText(const PanelInput& input);
 

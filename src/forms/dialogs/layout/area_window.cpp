@@ -20,6 +20,14 @@ constexpr qt::GridRoom kSurfaceRoom{.characters = 128, .rows = 10};
 constexpr qt::GridRoom kEntryRoom{.characters = 128, .rows = 4};
 constexpr int kNumberCharacters = 14;
 
+qt::NumberEntry coefficient() {
+    return {};
+}
+
+qt::NumberEntry area() {
+    return {numbers::NumberField::Plain, QStringLiteral("m²")};
+}
+
 QLabel& caption(const QString& text, QWidget& parent) {
     auto& label = *new QLabel(text, &parent);
     label.setTextFormat(Qt::PlainText);
@@ -27,10 +35,9 @@ QLabel& caption(const QString& text, QWidget& parent) {
 }
 
 /// Caption, field and unit in one row.
-QLineEdit& addField(qt::WidgetKit& kit, QHBoxLayout& row, QWidget& parent, platform::TextBox& box,
-                    const QString& text, const QString& unit) {
+QLineEdit& addField(QHBoxLayout& row, QLineEdit& line, const QString& text, const QString& unit) {
+    QWidget& parent = *line.parentWidget();
     QLabel& label = caption(text, parent);
-    QLineEdit& line = qt::makeLineEdit(kit, box, parent);
     line.setFixedWidth(qt::textWidth(line, kNumberCharacters));
     label.setBuddy(&line);
     qt::describe(line, text, unit);
@@ -41,6 +48,11 @@ QLineEdit& addField(qt::WidgetKit& kit, QHBoxLayout& row, QWidget& parent, platf
     }
     row.addSpacing(qt::gap(parent));
     return line;
+}
+
+void addNumber(qt::WidgetKit& kit, QHBoxLayout& row, QWidget& parent, platform::TextBox& box,
+               const QString& text, const qt::NumberEntry& entry) {
+    addField(row, qt::makeNumberLine(kit, box, parent, entry), text, entry.unit);
 }
 
 }  // namespace
@@ -61,8 +73,8 @@ QWidget& AreaWindow::buildEntry(QWidget& parent) {
     auto& entry = *new QWidget(&parent);
     auto* row = new QHBoxLayout(&entry);
     row->setContentsMargins(0, 0, 0, 0);
-    addField(kit(), *row, entry, form_->txtSoucinitel, QStringLiteral("Součinitel odtoku"), {});
-    addField(kit(), *row, entry, form_->txtPlocha, QStringLiteral("Dílčí plocha"), QStringLiteral("m²"));
+    addNumber(kit(), *row, entry, form_->txtSoucinitel, QStringLiteral("Součinitel odtoku"), coefficient());
+    addNumber(kit(), *row, entry, form_->txtPlocha, QStringLiteral("Dílčí plocha"), area());
     row->addWidget(&qt::makeButton(kit(), form_->cmdZapsat, entry));
     row->addStretch(1);
     return entry;
@@ -74,7 +86,9 @@ QWidget& AreaWindow::buildEntries(QWidget& parent) {
     row->setContentsMargins(0, 0, 0, 0);
     qt::GridView& entries = qt::makeGrid(kit(), form_->fgZapisTab, kEntryChoiceColumn, kEntryRoom, place);
     qt::describe(entries, QStringLiteral("Zapsané dílčí plochy"));
-    qt::makeCellEditor(kit(), form_->txtSChange, entries, form_->fgZapisTab);
+    // The counter of the rows, the area, the coefficient, the name of the surface.
+    qt::makeCellEditor(kit(), form_->txtSChange, entries, form_->fgZapisTab,
+                       {{.editable = false}, {.number = area()}, {.number = coefficient()}, {}});
     row->addWidget(&entries, 1);
     // The grid is hidden while there are no entries; its place stays, so that nothing jumps.
     place.setMinimumHeight(fontMetrics().height() * 6);
@@ -88,9 +102,9 @@ QWidget& AreaWindow::buildFoot(QWidget& parent) {
     row->addWidget(&qt::makeButton(kit(), form_->cmdDelete, foot));
     row->addWidget(&qt::makeButton(kit(), form_->cmdDeleteAll, foot));
     row->addSpacing(2 * qt::gap(foot));
-    const design::QuantityInfo& area = info(design::Quantity::ReducedArea);
-    qt::showAsResult(addField(kit(), *row, foot, form_->txtOdvodNepPlocha, QString::fromUtf8(area.caption),
-                              QString::fromUtf8(area.unit)));
+    const design::QuantityInfo& reduced = info(design::Quantity::ReducedArea);
+    qt::showAsResult(addField(*row, qt::makeLineEdit(kit(), form_->txtOdvodNepPlocha, foot),
+                              QString::fromUtf8(reduced.caption), QString::fromUtf8(reduced.unit)));
     row->addStretch(1);
     row->addWidget(&qt::makeButton(kit(), form_->OKButton, foot));
     row->addWidget(&qt::makeButton(kit(), form_->CancelButton, foot));
