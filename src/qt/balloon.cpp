@@ -20,7 +20,7 @@ namespace {
 /// A wrong key is often followed by right ones at once: the text stays until it can have been read.
 constexpr int kLeastMs = 1500;
 constexpr int kMostMs = 8000;
-constexpr int kWidestLine = 48;
+constexpr int kWidestLine = 60;
 
 bool isModifier(int key) {
     return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||

@@ -23,6 +23,7 @@ class NumberLine : public QLineEdit {
 
     /// Without an entry it takes any text, as a plain line edit does.
     void setEntry(std::optional<NumberEntry> entry) { entry_ = std::move(entry); }
+    [[nodiscard]] const std::optional<NumberEntry>& entry() const { return entry_; }
 
     /// Is offered a text that is to be pasted, and says whether it has taken it: a field of a table takes
     /// several cells.
