@@ -113,10 +113,18 @@ class RandomPerson : public MainWindow {
                 places.append(widget);
             }
         }
+        QList<QWidget*> of_numbers;
+        for (QWidget* place : places) {
+            if (dynamic_cast<qt::NumberLine*>(place) != nullptr ||
+                dynamic_cast<qt::GridView*>(place) != nullptr) {
+                of_numbers.append(place);
+            }
+        }
         if (places.isEmpty()) {
             return;
         }
-        QWidget* place = random.oneOf(places);
+        const bool to_numbers = !of_numbers.isEmpty() && random.percent(50);
+        QWidget* place = random.oneOf(to_numbers ? of_numbers : places);
         remember("click " + qt::stored(place->objectName()) + " " + place->metaObject()->className());
         if (auto* view = dynamic_cast<qt::GridView*>(place)) {
             clickCell(*view);
@@ -139,6 +147,22 @@ class RandomPerson : public MainWindow {
         const platform::GridCell cell{1 + random.below(rows), random.below(columns)};
         view.reveal(cell);
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.cellRect(cell).center());
+    }
+    /// The table of entries is often emptied by a random click.
+    void enterArea() {
+        auto& areas = program.window().areaDialog;
+        if (&front() != kit.find(areas) || areas.fgZapisTab.dataRows() > 3) {
+            return;
+        }
+        remember("an area");
+        auto& line = dynamic_cast<QLineEdit&>(*kit.find(areas.txtPlocha));
+        auto& coefficient = dynamic_cast<QLineEdit&>(*kit.find(areas.txtSoucinitel));
+        for (QLineEdit* field : {&coefficient, &line}) {
+            field->setFocus();
+            field->selectAll();
+            QTest::keyClicks(field, field == &line ? "1 200,5" : "0,9");
+        }
+        QTest::keyClick(&line, Qt::Key_Return);
     }
     void pressKey() {
         const Qt::Key key = random.oneOf(kKeys);
@@ -197,6 +221,8 @@ class RandomPerson : public MainWindow {
             drop();
         } else if (kind < 84) {
             commit();
+        } else if (kind < 86) {
+            enterArea();
         } else {
             clickSomewhere();
         }
