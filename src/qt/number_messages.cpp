@@ -85,7 +85,7 @@ QString cellMessage(NotTaken reason, const QString& text, const NumberEntry& ent
 QString halfNumberMessage(const QString& half, const QString& kept) {
     const QString now =
         kept.isEmpty() ? QStringLiteral("pole zůstalo prázdné") : QStringLiteral("v poli zůstalo ") + kept;
-    return quoted(half) + QStringLiteral(" není celé číslo, ") + now + QLatin1Char('.');
+    return quoted(half) + QStringLiteral(" není dopsané číslo, ") + now + QLatin1Char('.');
 }
 
 }  // namespace mero::qt

@@ -287,7 +287,7 @@ TEST_F(ExponentFieldTest, LeftWithHalfAnExponentItHoldsWhatItHeld) {
     other.setFocus(Qt::TabFocusReason);
     EXPECT_EQ(box.text(), "2.0E-04");
     EXPECT_EQ(when_left, "2.0E-04") << "before the handler of leaving";
-    EXPECT_EQ(balloonText(), "„5e-“ není celé číslo, v poli zůstalo 2.0E-04.");
+    EXPECT_EQ(balloonText(), "„5e-“ není dopsané číslo, v poli zůstalo 2.0E-04.");
 }
 
 TEST_F(ExponentFieldTest, SwitchingWindowsIsNotLeaving) {
