@@ -35,6 +35,7 @@ struct Entry {
 /// What a block gives, and what of it is left out.
 struct Plan {
     std::vector<Entry> entries;
+    std::vector<std::vector<Entry>> added;  ///< new rows
     QStringList left_out;
     int rows_too_many = 0;
     int columns_too_many = 0;
@@ -84,31 +85,50 @@ void planCell(const GridView& view, GridCell cell, const std::string& text, Plan
     }
 }
 
+/// Spreadsheets copy empty cells beside a table too.
+void dropEmptyEnd(std::vector<std::string>& cells) {
+    while (!cells.empty() && cells.back().empty()) {
+        cells.pop_back();
+    }
+}
+
+void planRow(const GridView& view, GridCell first, const std::vector<std::string>& cells, Plan& plan) {
+    for (std::size_t j = 0; j < cells.size(); ++j) {
+        const GridCell cell{first.row, first.column + static_cast<int>(j)};
+        if (cell.column >= columnCount(view) || !view.entry(cell.column).editable) {
+            plan.columns_too_many = std::max(plan.columns_too_many, static_cast<int>(cells.size() - j));
+            return;
+        }
+        planCell(view, cell, cells[j], plan);
+    }
+}
+
+/// A row that lacks one of its numbers would be another one: it is added whole or not at all.
+void planNewRow(const GridView& view, GridCell first, const std::vector<std::string>& cells, Plan& plan) {
+    Plan row;
+    planRow(view, first, cells, row);
+    plan.columns_too_many = std::max(plan.columns_too_many, row.columns_too_many);
+    plan.left_out.append(row.left_out);
+    if (row.left_out.isEmpty() && !row.entries.empty()) {
+        plan.added.push_back(std::move(row.entries));
+    }
+}
+
 Plan planned(const GridView& view, GridCell first, CellBlock block) {
     Plan plan;
     if (block.size() > 1 && isHeading(view, block.front(), first.column)) {
         plan.has_heading = true;
         block.erase(block.begin());
     }
-    const int rows = view.grid().dataRows();
     for (std::size_t i = 0; i < block.size(); ++i) {
-        const int row = first.row + static_cast<int>(i);
-        if (row > rows) {
-            plan.rows_too_many = static_cast<int>(block.size() - i);
-            break;
-        }
-        // Spreadsheets copy empty cells beside a table too.
-        auto cells = block[i];
-        while (!cells.empty() && cells.back().empty()) {
-            cells.pop_back();
-        }
-        for (std::size_t j = 0; j < cells.size(); ++j) {
-            const GridCell cell{row, first.column + static_cast<int>(j)};
-            if (cell.column >= columnCount(view) || !view.entry(cell.column).editable) {
-                plan.columns_too_many = std::max(plan.columns_too_many, static_cast<int>(cells.size() - j));
-                break;
-            }
-            planCell(view, cell, cells[j], plan);
+        const GridCell begin{first.row + static_cast<int>(i), first.column};
+        dropEmptyEnd(block[i]);
+        if (begin.row <= view.grid().dataRows()) {
+            planRow(view, begin, block[i], plan);
+        } else if (view.add_row) {
+            planNewRow(view, begin, block[i], plan);
+        } else {
+            ++plan.rows_too_many;
         }
     }
     return plan;
@@ -138,6 +158,11 @@ QString report(const Plan& plan) {
                      QLatin1Char('.'));
     }
     return parts.join(QLatin1Char(' '));
+}
+
+bool hasSeveralCells(const QString& text) {
+    const CellBlock block = platform::readCellBlock(stored(text));
+    return block.size() > 1 || (block.size() == 1 && block.front().size() > 1);
 }
 
 /// A column of numbers beside the editable ones only counts the rows.
@@ -195,6 +220,15 @@ void pasteBlock(GridView& view, GridCell first, const QString& text) {
             plan.left_out.append(cellName(view, entry.cell) + QStringLiteral(": buňku nelze upravit"));
         }
     }
+    for (const std::vector<Entry>& row : plan.added) {
+        std::vector<QString> texts(static_cast<std::size_t>(columnCount(view)));
+        for (const Entry& entry : row) {
+            texts[static_cast<std::size_t>(entry.cell.column)] = entry.text;
+        }
+        if (!view.add_row(texts)) {
+            plan.left_out.append(QStringLiteral("řádek %1 nelze zapsat").arg(row.front().cell.row));
+        }
+    }
     const QString told = report(plan);
     if (!told.isEmpty()) {
         showBalloon(view, told);
@@ -208,10 +242,17 @@ void pasteAtFocus(GridView& view) {
 }
 
 bool pasteInEditor(GridView& view, const QString& text) {
-    const CellBlock block = platform::readCellBlock(stored(text));
-    const bool several = block.size() > 1 || (block.size() == 1 && block.front().size() > 1);
+    const bool several = hasSeveralCells(text);
     if (several) {
         pasteBlock(view, view.grid().current(), text);
+    }
+    return several;
+}
+
+bool pasteBelow(GridView& view, int column, const QString& text) {
+    const bool several = hasSeveralCells(text);
+    if (several) {
+        pasteBlock(view, {view.grid().dataRows() + 1, column}, text);
     }
     return several;
 }

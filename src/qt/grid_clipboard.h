@@ -17,7 +17,8 @@ namespace mero::qt {
 void copyTable(GridView& view);
 
 /// Pastes a block of cells to the right and below of the cell, as if a person had entered one after the
-/// other. Says what was left out: cells that hold no number, rows and columns for which there is no room.
+/// other. Rows below the last one are added where the grid can be added to. Says what was left out: cells
+/// that hold no number, rows and columns for which there is no room.
 void pasteBlock(GridView& view, platform::GridCell first, const QString& text);
 
 /// Pastes the clipboard at the cell with the keyboard's focus.
@@ -25,6 +26,10 @@ void pasteAtFocus(GridView& view);
 
 /// Pastes a text of several cells at the cell being edited; false when it is one cell's text.
 bool pasteInEditor(GridView& view, const QString& text);
+
+/// Pastes a text of several cells as new rows below the last one, beginning at the column; false when it is
+/// one cell's text.
+bool pasteBelow(GridView& view, int column, const QString& text);
 
 /// The menu of the grid: copying, and pasting where cells can be edited.
 void showClipboardMenu(GridView& view, QPoint position, bool can_paste);

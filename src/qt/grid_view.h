@@ -56,6 +56,10 @@ class GridView : public QTableView {
     /// Enters a text as a person does: a click on the cell, the text, Enter. False when no editor opens.
     bool enterCell(platform::GridCell cell, const QString& text);
 
+    /// Adds a row to the grid with the texts of its columns, as a person does; false when there is none then.
+    /// Without it a grid keeps its rows.
+    std::function<bool(const std::vector<QString>&)> add_row;
+
     /// Called when cells have moved: scrolled, resized, refreshed.
     std::function<void()> cells_moved;
 

@@ -134,6 +134,19 @@ TEST_F(GridClipboard, WhatDoesNotFitIsTold) {
     EXPECT_EQ(balloonText(), "Do tabulky se nevešlo řádků: 1, sloupců: 1.");
 }
 
+TEST_F(GridClipboard, RowsAreAddedWhereTheGridCanBeAddedTo) {
+    std::vector<std::vector<QString>> added;
+    view->add_row = [&added](const std::vector<QString>& texts) {
+        added.push_back(texts);
+        return true;
+    };
+    focusCell({3, kArea});
+    paste(*view, "1,5\ta\n2,5\tb\nx\tc\n3,5\n");
+    EXPECT_THAT(column(kArea), ElementsAre("1 200", "300", "1.5"));
+    EXPECT_THAT(added, ElementsAre(ElementsAre("", "2.5", "b", ""), ElementsAre("", "3.5", "", "")));
+    EXPECT_EQ(balloonText(), "Vynecháno: řádek 5, Dílčí plocha: „x“ není číslo.");
+}
+
 TEST_F(GridClipboard, EmptyCellsBesideABlockAreNotTold) {
     focusCell({1, kArea});
     paste(*view, "5\t\t\t\n6\t\t\t\n");

@@ -154,6 +154,30 @@ TEST_F(TypingPerson, PastesAreasWithCoefficientAndName) {
     EXPECT_FLOAT_EQ(values().RedukovanaPlocha, 1095.45F);
 }
 
+TEST_F(TypingPerson, PastesAreasIntoAnEmptyTable) {
+    open(1);
+    auto& area = field(areas().txtPlocha);
+    area.setFocus();
+    paste(area, "Plocha\tSoučinitel\tPovrch\n1 200,5\t0,9\tStřecha\n300 m²\t0,05\tZahrada\n0\t1\tnic\n");
+    ASSERT_EQ(areas().fgZapisTab.dataRows(), 2);
+    EXPECT_EQ(values().DilciPlocha(1), 1200.5F);
+    EXPECT_EQ(values().TypPovrchu(2), "Zahrada");
+    EXPECT_FLOAT_EQ(values().RedukovanaPlocha, 1095.45F);
+    EXPECT_EQ(qt::balloonText(), "Řádek s nadpisy byl vynechán. Vynecháno: řádek 3 nelze zapsat.");
+}
+
+TEST_F(TypingPerson, AddsAreasBelowTheLastOne) {
+    open(1);
+    enterArea("100");
+    auto& view = gridView(areas().fgZapisTab);
+    view.setFocus();
+    view.setCurrentIndex(view.model()->index(0, 1));
+    paste(view, "10\t0,5\n20\t0,25\n");
+    ASSERT_EQ(areas().fgZapisTab.dataRows(), 2);
+    // 10 x 0.5 + 20 x 0.25
+    EXPECT_EQ(values().RedukovanaPlocha, 10.0F);
+}
+
 TEST_F(TypingPerson, ADescriptionStaysFree) {
     open(1);
     enterArea("300");

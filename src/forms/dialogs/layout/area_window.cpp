@@ -1,20 +1,27 @@
 // SPDX-License-Identifier: MIT
 /// Lays out the drained-area dialog.
+#include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include "design/quantity.h"
 #include "forms/dialogs/layout/dialog_windows.h"
+#include "platform/numbers/number_text.h"
 #include "qt/buttons.h"
 #include "qt/cell_editor_box.h"
+#include "qt/grid_clipboard.h"
 #include "qt/look.h"
 #include "qt/text_fields.h"
+#include "qt/texts.h"
 
 namespace mero::forms {
 namespace {
 
 constexpr int kSurfaceChoiceColumn = 3;
+constexpr int kAreaColumn = 1;
+constexpr int kCoefficientColumn = 2;
+constexpr int kSurfaceColumn = 3;
 constexpr int kEntryChoiceColumn = 4;
 constexpr qt::GridRoom kSurfaceRoom{.characters = 128, .rows = 10};
 constexpr qt::GridRoom kEntryRoom{.characters = 128, .rows = 4};
@@ -55,6 +62,12 @@ void addNumber(qt::WidgetKit& kit, QHBoxLayout& row, QWidget& parent, platform::
     addField(row, qt::makeNumberLine(kit, box, parent, entry), text, entry.unit);
 }
 
+void enter(QWidget& field, const QString& text) {
+    auto& line = dynamic_cast<QLineEdit&>(field);
+    line.selectAll();
+    line.insert(text);
+}
+
 }  // namespace
 
 void AreaWindow::build(QWidget& content) {
@@ -89,10 +102,41 @@ QWidget& AreaWindow::buildEntries(QWidget& parent) {
     // The counter of the rows, the area, the coefficient, the name of the surface.
     qt::makeCellEditor(kit(), form_->txtSChange, entries, form_->fgZapisTab,
                        {{.editable = false}, {.number = area()}, {.number = coefficient()}, {}});
+    if (kit().servesPerson()) {
+        takeBlocks(entries);
+    }
     row->addWidget(&entries, 1);
     // The grid is hidden while there are no entries; its place stays, so that nothing jumps.
     place.setMinimumHeight(fontMetrics().height() * 6);
     return place;
+}
+
+void AreaWindow::takeBlocks(qt::GridView& entries) {
+    entries.add_row = [this, &entries](const std::vector<QString>& texts) {
+        return enterArea(entries, texts);
+    };
+    // The grid is hidden while it is empty: its first areas are pasted into the field above it.
+    auto& area = dynamic_cast<qt::NumberLine&>(*kit().find(form_->txtPlocha));
+    area.paste_cells = [&entries](const QString& text) { return qt::pasteBelow(entries, kAreaColumn, text); };
+}
+
+bool AreaWindow::enterArea(qt::GridView& entries, const std::vector<QString>& texts) {
+    const QString& coefficient = texts[kCoefficientColumn];
+    const bool has_coefficient = !coefficient.isEmpty() || !form_->txtSoucinitel.text().empty();
+    if (numbers::leadingNumber(qt::stored(texts[kAreaColumn])) == 0 || !has_coefficient) {
+        return false;
+    }
+    const int rows = form_->fgZapisTab.dataRows();
+    if (!coefficient.isEmpty()) {
+        enter(*kit().find(form_->txtSoucinitel), coefficient);
+    }
+    enter(*kit().find(form_->txtPlocha), texts[kAreaColumn]);
+    dynamic_cast<QAbstractButton&>(*kit().find(form_->cmdZapsat)).click();
+    if (form_->fgZapisTab.dataRows() != rows + 1) {
+        return false;
+    }
+    return texts[kSurfaceColumn].isEmpty() ||
+           entries.enterCell({rows + 1, kSurfaceColumn}, texts[kSurfaceColumn]);
 }
 
 QWidget& AreaWindow::buildFoot(QWidget& parent) {
