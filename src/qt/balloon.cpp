@@ -19,7 +19,9 @@ namespace {
 
 /// A wrong key is often followed by right ones at once: the text stays until it can have been read.
 constexpr int kLeastMs = 1500;
-constexpr int kMostMs = 8000;
+constexpr int kUsualMs = 8000;
+/// A slow reader's time for a character; a long text stays longer.
+constexpr int kMsPerCharacter = 120;
 constexpr int kWidestLine = 60;
 
 bool isModifier(int key) {
@@ -56,7 +58,7 @@ class Balloon : public QLabel {
         QAccessibleEvent alert(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
         shown_.start();
-        timer_.start(kMostMs);
+        timer_.start(qMax(kUsualMs, kMsPerCharacter * static_cast<int>(text.size())));
         QApplication::instance()->installEventFilter(this);
     }
 

@@ -27,6 +27,12 @@ bool typesText(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().front().isPrint() && !command;
 }
 
+/// Ctrl+Y redoes on any desktop, not only where it is the desktop's own key.
+bool redoes(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Redo) ||
+           (event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier);
+}
+
 QString withoutBlanks(const QString& text) {
     return QString(text).remove(QLatin1Char(' '));
 }
@@ -62,7 +68,7 @@ void NumberLine::keyPressEvent(QKeyEvent* event) {
         paste(clipboardText(selected ? QClipboard::Selection : QClipboard::Clipboard));
     } else if (event->matches(QKeySequence::Undo)) {
         travel(true);
-    } else if (event->matches(QKeySequence::Redo)) {
+    } else if (redoes(*event)) {
         travel(false);
     } else if (deleteByKey(*event)) {
         event->accept();

@@ -216,6 +216,9 @@ TEST_F(NumberFieldTest, KeysTypedInARowAreUndoneTogether) {
     EXPECT_EQ(box.text(), "");
     press(QKeySequence::Redo);
     EXPECT_EQ(box.text(), "0.85");
+    press(QKeySequence::Undo);
+    key(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), "0.85");
 }
 
 TEST_F(NumberFieldTest, DeletingKeysLeaveANumberOrNothing) {
