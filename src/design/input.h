@@ -16,6 +16,7 @@
 
 #include "design/facility.h"
 #include "design/quantity.h"
+#include "platform/numbers/typed_number.h"
 
 namespace mero::design {
 
@@ -340,6 +341,8 @@ inline constexpr auto kPanel<Tank> = panel(BottomLength, BottomWidth, TankDepth,
 [[nodiscard]] constexpr bool isLive(FacilityType type) {
     return type == FacilityType::Surface || type == FacilityType::Swale;
 }
+/// What its box takes from a person. Filtration coefficients may be typed with an exponent.
+[[nodiscard]] numbers::NumberField fieldOf(Input input);
 /// The text of the box when the window opens.
 [[nodiscard]] std::string openingText(const PanelInput& input);
 

@@ -19,8 +19,10 @@ namespace {
 
 /// A wrong key is often followed by right ones at once: the text stays until it can have been read.
 constexpr int kLeastMs = 1500;
-constexpr int kMostMs = 8000;
-constexpr int kWidestLine = 48;
+constexpr int kUsualMs = 8000;
+/// A slow reader's time for a character; a long text stays longer.
+constexpr int kMsPerCharacter = 120;
+constexpr int kWidestLine = 60;
 
 bool isModifier(int key) {
     return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
@@ -56,7 +58,7 @@ class Balloon : public QLabel {
         QAccessibleEvent alert(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
         shown_.start();
-        timer_.start(kMostMs);
+        timer_.start(qMax(kUsualMs, kMsPerCharacter * static_cast<int>(text.size())));
         QApplication::instance()->installEventFilter(this);
     }
 

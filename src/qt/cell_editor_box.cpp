@@ -3,6 +3,9 @@
 /// The control decides when it is shown; the view gives the cell's position.
 #include "qt/cell_editor_box.h"
 
+#include <utility>
+
+#include "qt/grid_clipboard.h"
 #include "qt/text_fields.h"
 
 namespace mero::qt {
@@ -16,14 +19,25 @@ constexpr int kTwipsPerInch = 1440;
 /// The grid draws its lines on a cell's right and lower edge.
 constexpr int kLine = 1;
 
+/// Handlers read an edited number up to its first blank, so it is edited without the blanks that group it.
+void prepare(NumberLine& line, const CellEntry& entry) {
+    line.setEntry(entry.number);
+    if (entry.number) {
+        line.setText(line.text().remove(QLatin1Char(' ')));
+    }
+}
+
 }  // namespace
 
-QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view,
-                          const platform::Grid& grid) {
-    QLineEdit& line = makeLineEdit(kit, box, *view.viewport());
+NumberLine& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view, const platform::Grid& grid,
+                           std::vector<CellEntry> entries) {
+    NumberLine& line = makeNumberLine(kit, box, *view.viewport(), std::nullopt);
     // The cell is low: with a frame and wide margins the text would not fit.
     line.setFrame(false);
-    view.setEditor(line);
+    view.setEditor(line, std::move(entries));
+    if (kit.servesPerson()) {
+        line.paste_cells = [&view](const QString& text) { return pasteInEditor(view, text); };
+    }
     line.setAutoFillBackground(true);
     const auto place = [&line, &view, &grid] {
         const QRect cell = view.cellRect(grid.current());
@@ -36,9 +50,12 @@ QLineEdit& makeCellEditor(WidgetKit& kit, platform::TextBox& box, GridView& view
             place();
         }
     };
-    follow(box, line, [&box, &line, &view, &grid, place](Aspect aspect) {
+    follow(box, line, [&kit, &box, &line, &view, &grid, place](Aspect aspect) {
         if (aspect == Aspect::Visible && box.visible()) {
             view.reveal(grid.current());
+            if (kit.servesPerson()) {
+                prepare(line, view.entry(grid.current().column));
+            }
             line.setAccessibleName(view.spokenPlace(grid.current()));
             place();
             showInScrollAreas(line);

@@ -85,9 +85,8 @@ QLabel& FieldGrid::caption(const QString& text) {
     return label;
 }
 
-QLineEdit& FieldGrid::field(platform::TextBox& box, const QString& text, const QString& unit) {
+QLineEdit& FieldGrid::place(QLineEdit& line, const QString& text, const QString& unit) {
     QLabel& label = caption(text);
-    QLineEdit& line = makeLineEdit(*kit_, box, *parent_);
     line.setFixedWidth(textWidth(line, kNumberCharacters));
     label.setBuddy(&line);
     describe(line, text, unit);
@@ -101,12 +100,13 @@ QLineEdit& FieldGrid::field(platform::TextBox& box, const QString& text, const Q
     return line;
 }
 
-QLineEdit& FieldGrid::input(platform::TextBox& box, const QString& text, const QString& unit) {
-    return field(box, text, unit);
+QLineEdit& FieldGrid::input(platform::TextBox& box, const QString& text, const QString& unit,
+                            numbers::NumberField kind) {
+    return place(makeNumberLine(*kit_, box, *parent_, NumberEntry{kind, unit}), text, unit);
 }
 
 QLineEdit& FieldGrid::result(platform::TextBox& box, const QString& text, const QString& unit) {
-    QLineEdit& line = field(box, text, unit);
+    QLineEdit& line = place(makeLineEdit(*kit_, box, *parent_), text, unit);
     showAsResult(line);
     growWithText(line);
     return line;

@@ -31,7 +31,8 @@ class FieldGrid {
     /// A title above the following rows.
     void section(const QString& title);
     /// A field for a number.
-    QLineEdit& input(platform::TextBox& box, const QString& caption, const QString& unit = {});
+    QLineEdit& input(platform::TextBox& box, const QString& caption, const QString& unit = {},
+                     numbers::NumberField kind = numbers::NumberField::Plain);
     /// A read-only field, filled by the program.
     QLineEdit& result(platform::TextBox& box, const QString& caption, const QString& unit = {});
     /// A field for a text, as wide as the space allows.
@@ -59,7 +60,7 @@ class FieldGrid {
 
   private:
     QLabel& caption(const QString& text);
-    QLineEdit& field(platform::TextBox& box, const QString& caption, const QString& unit);
+    QLineEdit& place(QLineEdit& line, const QString& caption, const QString& unit);
 
     WidgetKit* kit_;
     QWidget* parent_;

@@ -4,6 +4,7 @@
 #include "qt/grid_view.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -12,8 +13,10 @@
 #include <utility>
 
 #include "qt/focus_ring.h"
+#include "qt/grid_clipboard.h"
 #include "qt/grid_delegate.h"
 #include "qt/look.h"
+#include "qt/texts.h"
 
 namespace mero::qt {
 namespace {
@@ -246,17 +249,62 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
-    if (!typeIntoCell(*event)) {
+    if (event->matches(QKeySequence::Copy)) {
+        copyTable(*this);
+    } else if (event->matches(QKeySequence::Paste)) {
+        pasteAtFocus(*this);
+    } else if (!typeIntoCell(*event)) {
         QTableView::keyPressEvent(event);
     }
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+    refresh();
+    showClipboardMenu(*this, event->globalPos(), !editor_.isNull());
+}
+
+void GridView::setEditor(NumberLine& editor, std::vector<CellEntry> entries) {
+    editor_ = &editor;
+    entries_ = std::move(entries);
+}
+
+CellEntry GridView::entry(int column) const {
+    const bool any_text = static_cast<std::size_t>(column) >= entries_.size();
+    CellEntry entry = any_text ? CellEntry() : entries_[static_cast<std::size_t>(column)];
+    entry.editable = entry.editable && !editor_.isNull() && column != model_.choiceColumn();
+    return entry;
+}
+
+std::optional<GridCell> GridView::focusedCell() const {
+    return currentIndex().isValid() ? std::optional(GridModel::cellOf(currentIndex())) : std::nullopt;
+}
+
+bool GridView::enterCell(GridCell cell, const QString& text) {
+    click(cell);
+    if (editor_.isNull() || !editor_->isVisible() || grid_->current() != cell) {
+        return false;
+    }
+    editor_->selectAll();
+    if (editor_->text() == text) {
+        // The cell may hold more digits than it shows: the text counts only when it changes.
+        editor_->insert(text.left(1));
+        editor_->selectAll();
+    }
+    editor_->insert(text);
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(editor_, &enter);
+    return true;
 }
 
 bool GridView::typeIntoCell(QKeyEvent& event) {
     const bool types = !event.text().isEmpty() && event.text().front().isPrint() &&
                        (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
-    if (editor_.isNull() || !types || !currentIndex().isValid() ||
-        currentIndex().column() == model_.choiceColumn()) {
+    const CellEntry column = entry(currentIndex().column());
+    if (!types || !currentIndex().isValid() || !column.editable) {
         return false;
+    }
+    if (column.number && !numbers::beginsNumber(stored(event.text()))) {
+        return true;
     }
     click(GridModel::cellOf(currentIndex()));
     // The editor opens with its whole text selected, so the first key replaces it.

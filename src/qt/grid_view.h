@@ -2,7 +2,6 @@
 /// A grid as a table widget: header row, column widths as fractions, merged neighbours, pictures.
 #pragma once
 
-#include <QLineEdit>
 #include <QPointer>
 #include <QTableView>
 #include <optional>
@@ -10,6 +9,7 @@
 
 #include "platform/controls/grid.h"
 #include "qt/grid_model.h"
+#include "qt/number_line.h"
 #include "qt/widget_kit.h"
 
 namespace mero::qt {
@@ -18,6 +18,12 @@ namespace mero::qt {
 struct GridRoom {
     int characters;  ///< width in average characters
     int rows;        ///< data rows visible without scrolling
+};
+
+/// What the cells of a column take.
+struct CellEntry {
+    bool editable = true;
+    std::optional<NumberEntry> number{};  ///< none: any text
 };
 
 class GridView : public QTableView {
@@ -37,8 +43,22 @@ class GridView : public QTableView {
 
     [[nodiscard]] QSize sizeHint() const override;
 
-    /// Sets the editor: typing over a cell of an editable column clicks the cell and types into the editor.
-    void setEditor(QLineEdit& editor) { editor_ = &editor; }
+    /// Sets the editor: typing over a cell of an editable column clicks the cell and types into the editor,
+    /// if what the column takes can begin so.
+    /// @param entries by column; columns without one take any text
+    void setEditor(NumberLine& editor, std::vector<CellEntry> entries);
+    /// What the cells of a column take. The column of the pictures takes nothing.
+    [[nodiscard]] CellEntry entry(int column) const;
+    [[nodiscard]] const platform::Grid& grid() const { return *grid_; }
+    [[nodiscard]] int choiceColumn() const { return model_.choiceColumn(); }
+    /// The cell with the keyboard's focus, none in an empty grid.
+    [[nodiscard]] std::optional<platform::GridCell> focusedCell() const;
+    /// Enters a text as a person does: a click on the cell, the text, Enter. False when no editor opens.
+    bool enterCell(platform::GridCell cell, const QString& text);
+
+    /// Adds a row to the grid with the texts of its columns, as a person does; false when there is none then.
+    /// Without it a grid keeps its rows.
+    std::function<bool(const std::vector<QString>&)> add_row;
 
     /// Called when cells have moved: scrolled, resized, refreshed.
     std::function<void()> cells_moved;
@@ -48,6 +68,7 @@ class GridView : public QTableView {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -77,7 +98,8 @@ class GridView : public QTableView {
     bool stale_ = true;  ///< not updated from the grid; true until first shown
     bool laying_out_ = false;
     std::optional<platform::GridCell> pressed_;
-    QPointer<QLineEdit> editor_;
+    QPointer<NumberLine> editor_;
+    std::vector<CellEntry> entries_;
 };
 
 /// Builds the view of a grid and binds it.

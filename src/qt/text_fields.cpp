@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <utility>
 
 #include "qt/look.h"
 #include "qt/texts.h"
@@ -78,10 +79,7 @@ void showText(QPlainTextEdit& area, const TextBox& box) {
     }
 }
 
-}  // namespace
-
-QLineEdit& makeLineEdit(WidgetKit& kit, TextBox& box, QWidget& parent) {
-    auto& line = *new QLineEdit(&parent);
+void bindLine(WidgetKit& kit, TextBox& box, QLineEdit& line) {
     line.setMaxLength(kLongestText);
     line.setText(shown(box.text()));
     bindBox(kit, box, line);
@@ -96,6 +94,23 @@ QLineEdit& makeLineEdit(WidgetKit& kit, TextBox& box, QWidget& parent) {
         showText(line, box);
     });
     QObject::connect(&line, &QLineEdit::returnPressed, &line, [&kit] { kit.typing().settle(); });
+}
+
+}  // namespace
+
+QLineEdit& makeLineEdit(WidgetKit& kit, TextBox& box, QWidget& parent) {
+    auto& line = *new QLineEdit(&parent);
+    bindLine(kit, box, line);
+    return line;
+}
+
+NumberLine& makeNumberLine(WidgetKit& kit, TextBox& box, QWidget& parent, std::optional<NumberEntry> entry) {
+    auto& line = *new NumberLine(&parent);
+    bindLine(kit, box, line);
+    if (kit.servesPerson()) {
+        line.setEntry(std::move(entry));
+        line.finishOnLeaving();
+    }
     return line;
 }
 

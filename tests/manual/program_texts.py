@@ -13,7 +13,8 @@ LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 ADJACENT = re.compile(r'"\s*\n?\s*"')
 # Files that contain only such texts.
 LISTS = ("platform/numbers/runtime_error.cpp", "data/rain_database.cpp", "app/mero/qt_desk.cpp",
-         "app/mero/save_dialog.cpp", "platform/mod_reg_settings.cpp")
+         "app/mero/save_dialog.cpp", "platform/mod_reg_settings.cpp", "qt/number_messages.cpp",
+         "qt/grid_clipboard.cpp")
 STATEMENT = re.compile(
     r"\b(?:message|error|showMessage)\((?:[^;\"]|\"(?:[^\"\\\n]|\\.)*\")*;", re.DOTALL)
 # Captions beside a field, in the order of the arguments: a control, then the caption.

@@ -35,7 +35,7 @@ void addText(qt::FieldGrid& fields, const frmCalcControls& form, TextInput text)
 
 void addNumber(qt::FieldGrid& fields, const frmCalcControls& form, Input input) {
     fields.input(form.textBox(info(input).box), QString::fromUtf8(info(input).caption),
-                 QString::fromUtf8(info(input).unit));
+                 QString::fromUtf8(info(input).unit), design::fieldOf(input));
 }
 
 QWidget& buildFields(qt::WidgetKit& kit, frmCalcControls& form, QWidget& parent) {

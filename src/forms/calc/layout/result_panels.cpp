@@ -68,7 +68,8 @@ class InputRows {
                 break;
             }
             case Input::ShaftCount: {
-                QLineEdit& count = fields_->input(form_->txtSachtyCount, caption);
+                QLineEdit& count =
+                    fields_->input(form_->txtSachtyCount, caption, {}, design::fieldOf(row.input));
                 fields_->besideField(qt::makeUpDown(*kit_, form_->updSacht, caption, fields_->parent()));
                 qt::spinByKeys(*kit_, form_->updSacht, count);
                 break;
@@ -96,7 +97,8 @@ class InputRows {
     void addNumber(FieldGrid& fields, Input input, const QString& caption) {
         const std::string name = design::controlName(info(input).box, type_);
         if (added_.insert(name).second) {
-            fields.input(form_->textBox(name), caption, QString::fromUtf8(info(input).unit));
+            fields.input(form_->textBox(name), caption, QString::fromUtf8(info(input).unit),
+                         design::fieldOf(input));
         }
     }
 

@@ -6,6 +6,7 @@
 #include "forms/dialogs/frm_dialog.h"
 #include "forms/dialogs/frm_int_dialog.h"
 #include "qt/form_window.h"
+#include "qt/grid_view.h"
 
 namespace mero::forms {
 
@@ -37,6 +38,10 @@ class AreaWindow : public qt::FormWindow {
   private:
     QWidget& buildEntry(QWidget& parent);
     QWidget& buildEntries(QWidget& parent);
+    /// Lets blocks of cells be pasted as new areas.
+    void takeBlocks(qt::GridView& entries);
+    /// Enters an area as a person does; the texts are those of the entries' columns.
+    bool enterArea(qt::GridView& entries, const std::vector<QString>& texts);
     QWidget& buildFoot(QWidget& parent);
 
     frmDialog* form_;

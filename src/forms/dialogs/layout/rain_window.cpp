@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "design/input.h"
+#include "design/quantity.h"
 #include "forms/dialogs/layout/dialog_windows.h"
 #include "forms/dialogs/layout/rain_curve_view.h"
 #include "qt/buttons.h"
@@ -18,6 +20,10 @@ namespace {
 
 constexpr int kChoiceColumn = 2;
 constexpr qt::GridRoom kRoom{.characters = 58, .rows = 9};
+
+qt::CellEntry numberColumn(const char* unit) {
+    return {.number = qt::NumberEntry{numbers::NumberField::Plain, QString::fromUtf8(unit)}};
+}
 
 }  // namespace
 
@@ -62,7 +68,9 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
 
     qt::GridView& table = qt::makeGrid(kit(), form_->fgIntDeste, kChoiceColumn, kRoom, side);
     qt::describe(table, QString::fromStdString(form_->title()));
-    qt::makeCellEditor(kit(), form_->txtSChange, table, form_->fgIntDeste);
+    qt::makeCellEditor(kit(), form_->txtSChange, table, form_->fgIntDeste,
+                       {numberColumn(info(design::Input::DesignDuration).unit),
+                        numberColumn(info(design::Quantity::CriticalIntensity).unit)});
     column->addWidget(&table, 1);
     column->addWidget(&makeRainCurve(*form_, side));
 
