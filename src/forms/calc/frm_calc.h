@@ -8,6 +8,7 @@
 
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
+#include "forms/calc/calculation_record.h"
 #include "forms/calc/frm_calc_controls.h"
 #include "forms/calc/window_sink.h"
 #include "forms/dialogs/frm_coef_dialog.h"
@@ -95,6 +96,8 @@ class frmCalc : public frmCalcControls {
 
     [[nodiscard]] const data::modPublicVariables& values() const { return *values_; }
     [[nodiscard]] platform::modRegSettings& regSettings() { return reg_settings_; }
+    [[nodiscard]] const CalculationRecord& record() const { return record_; }
+    [[nodiscard]] const ResultBoxes& resultBoxes() const { return result_boxes_; }
 
   private:
     /// The design procedures write the window through it.
@@ -107,6 +110,8 @@ class frmCalc : public frmCalcControls {
     void bindShaft();
     void bindResults();
 
+    /// Checks and calculates. @return false when the checks refuse the inputs
+    bool calculate(FacilityType type);
     void showInflow();
     void bindNumber(TextBox& box, float data::DesignNumbers::*stored);
     void error(const std::string& text);
@@ -127,6 +132,7 @@ class frmCalc : public frmCalcControls {
     [[nodiscard]] bool keepReport();
 
     ResultBoxes result_boxes_;
+    CalculationRecord record_;
     data::modPublicVariables* values_;
     platform::Desk* desk_;
     platform::Clock* clock_;
