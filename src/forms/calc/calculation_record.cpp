@@ -134,6 +134,9 @@ void CalculationRecord::end(FacilityType type, CalculationEnd how, const Calcula
     }
     calculation.end = how;
     calculation.state = state;
+    if (ended) {
+        ended();
+    }
 }
 
 }  // namespace mero::forms

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "data/facility_type.h"
@@ -58,6 +59,9 @@ class CalculationRecord {
     /// The first verdict of a live type begins its calculation.
     void tell(FacilityType type, const design::Verdict& verdict);
     void end(FacilityType type, CalculationEnd how, const CalculationState& state);
+
+    /// Called when a calculation ended, whatever came of it.
+    std::function<void()> ended;
 
     [[nodiscard]] const Calculation& last(FacilityType type) const { return last_[data::index(type)]; }
 

@@ -97,6 +97,7 @@ class frmCalc : public frmCalcControls {
     [[nodiscard]] const data::modPublicVariables& values() const { return *values_; }
     [[nodiscard]] platform::modRegSettings& regSettings() { return reg_settings_; }
     [[nodiscard]] const CalculationRecord& record() const { return record_; }
+    [[nodiscard]] CalculationRecord& record() { return record_; }
     [[nodiscard]] const ResultBoxes& resultBoxes() const { return result_boxes_; }
 
   private:

@@ -9,6 +9,7 @@
 
 #include "design/input.h"
 #include "design/quantity.h"
+#include "forms/calc/layout/judgement_pane.h"
 #include "forms/calc/layout/picture_pane.h"
 #include "qt/buttons.h"
 #include "qt/drop_list_box.h"
@@ -158,6 +159,7 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWid
     results_column->setContentsMargins(0, 0, 0, 0);
     auto& results_box = *new QGroupBox(QStringLiteral("Výsledky"), &results_side);
     results_column->addWidget(&results_box);
+    addResultState(kit, form, type, results_side, *results_column, results_box);
     results_column->addWidget(&makePicturePane(form, type, results_side), 1);
     columns->add(inputs_box, 0);
     columns->add(results_side, 1);
