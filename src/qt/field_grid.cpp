@@ -5,6 +5,7 @@
 
 #include <QRadioButton>
 
+#include "qt/field_note.h"
 #include "qt/look.h"
 
 namespace mero::qt {
@@ -79,7 +80,8 @@ QLineEdit& FieldGrid::field(platform::TextBox& box, const QString& text, const Q
         unit_label->setTextFormat(Qt::PlainText);
         grid_->addWidget(unit_label, row_, kUnit);
     }
-    ++row_;
+    last_ = row_++;
+    note(box);
     return line;
 }
 
@@ -145,11 +147,11 @@ void FieldGrid::pair(const QString& text, QWidget& first, QWidget& second) {
 }
 
 void FieldGrid::beside(QWidget& widget) {
-    grid_->addWidget(&widget, row_ - 1, kBeside);
+    grid_->addWidget(&widget, last_, kBeside);
 }
 
 void FieldGrid::besideField(QWidget& widget) {
-    grid_->addWidget(&widget, row_ - 1, kUnit, Qt::AlignLeft | Qt::AlignVCenter);
+    grid_->addWidget(&widget, last_, kUnit, Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void FieldGrid::line(QWidget& widget) {
@@ -164,6 +166,11 @@ void FieldGrid::wide(QWidget& widget) {
 
 void FieldGrid::space() {
     grid_->setRowMinimumHeight(row_, gap(*parent_));
+    ++row_;
+}
+
+void FieldGrid::note(const platform::Control& control) {
+    grid_->addWidget(&makeFieldNote(control, *parent_), row_, kCaption, 1, kRest + 1);
     ++row_;
 }
 

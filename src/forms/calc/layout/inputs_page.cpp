@@ -8,6 +8,8 @@
 #include "design/input.h"
 #include "design/quantity.h"
 #include "design/text_input.h"
+#include "forms/calc/layout/field_remarks.h"
+#include "forms/calc/layout/field_tips.h"
 #include "forms/calc/layout/selection_guide.h"
 #include "qt/buttons.h"
 #include "qt/field_grid.h"
@@ -76,7 +78,7 @@ QWidget& buildGuide(QWidget& parent) {
 
 }  // namespace
 
-void buildInputsPage(qt::WidgetKit& kit, frmCalcControls& form, QWidget& page) {
+void buildInputsPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page) {
     QWidget& content = qt::makeScrollPage(page);
     auto* column = new QVBoxLayout(&content);
     auto* columns = new qt::FlowPair(content);
@@ -93,6 +95,8 @@ void buildInputsPage(qt::WidgetKit& kit, frmCalcControls& form, QWidget& page) {
     time.setAccessibleDescription(QStringLiteral("Aktuální čas"));
     foot->addWidget(&time);
     column->addLayout(foot);
+    showSiteRemarks(kit, form, content);
+    giveSiteTips(kit, form);
 }
 
 }  // namespace mero::forms

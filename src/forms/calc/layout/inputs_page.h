@@ -4,11 +4,11 @@
 
 #include <QWidget>
 
-#include "forms/calc/frm_calc_controls.h"
+#include "forms/calc/frm_calc.h"
 #include "qt/widget_kit.h"
 
 namespace mero::forms {
 
-void buildInputsPage(qt::WidgetKit& kit, frmCalcControls& form, QWidget& page);
+void buildInputsPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page);
 
 }  // namespace mero::forms
