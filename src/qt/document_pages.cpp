@@ -52,13 +52,19 @@ void paintContent(QPainter& painter, const LocalDocument& document, const PageRo
     painter.restore();
 }
 
-void paintFoot(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& text) {
+void paintFoot(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& number,
+               const QString& note) {
     QFont font = document.defaultFont();
     font.setPointSizeF(kFootPoints);
     painter.setFont(QFont(font, painter.device()));
     painter.setPen(Qt::black);
     const QRectF foot(0, room.paper.height() - room.foot_height, room.paper.width(), room.foot_height);
-    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom, text);
+    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom, number);
+    if (!note.isEmpty()) {
+        const int number_width = painter.fontMetrics().horizontalAdvance(number + QStringLiteral("   "));
+        painter.drawText(foot.adjusted(0, 0, -number_width, 0),
+                         Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap, note);
+    }
 }
 
 }  // namespace
@@ -68,7 +74,7 @@ QPageLayout paperLayout() {
             QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter};
 }
 
-int paintPages(LocalDocument& document, QPagedPaintDevice& device) {
+int paintPages(LocalDocument& document, QPagedPaintDevice& device, const QString& note) {
     const PageRoom room = roomOn(device);
     document.documentLayout()->setPaintDevice(&device);
     document.setDocumentMargin(0);
@@ -91,7 +97,7 @@ int paintPages(LocalDocument& document, QPagedPaintDevice& device) {
         first = false;
         const auto at = static_cast<std::size_t>(page);
         paintContent(painter, document, room, breaks[at - 1], breaks[at]);
-        paintFoot(painter, document, room, QStringLiteral("%1 / %2").arg(page).arg(pages));
+        paintFoot(painter, document, room, QStringLiteral("%1 / %2").arg(page).arg(pages), note);
     }
     return pages;
 }

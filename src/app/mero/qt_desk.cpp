@@ -136,8 +136,9 @@ void QtDesk::openPrintPreview(const std::string& path) {
     printer.setDocName(QFileInfo(shown(path)).fileName());
     QPrintPreviewDialog preview(&printer, window());
     preview.setWindowTitle(QStringLiteral("Náhled před tiskem"));
-    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &document,
-                     [&document](QPrinter* target) { qt::paintPages(document, *target); });
+    QObject::connect(
+        &preview, &QPrintPreviewDialog::paintRequested, &document,
+        [&document, note = shown(page_note_)](QPrinter* target) { qt::paintPages(document, *target, note); });
     preview.exec();
 }
 
@@ -150,7 +151,7 @@ std::optional<std::string> QtDesk::askSavePath(const std::string& suggested_path
 }
 
 platform::PdfResult QtDesk::makePdf(const std::string& document_path, const std::string& target_path) {
-    return makePdfFile(document_path, target_path, decode_);
+    return makePdfFile(document_path, target_path, decode_, page_note_);
 }
 
 }  // namespace mero::app

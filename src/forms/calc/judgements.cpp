@@ -260,13 +260,7 @@ class Collector {
     std::vector<Judgement> found_;
 };
 
-}  // namespace
-
-std::vector<Judgement> judgements(const frmCalc& form, FacilityType type) {
-    return Collector(form, type).collect();
-}
-
-std::string countedRain(const frmCalc& form, FacilityType type) {
+std::string rainThatCounted(const frmCalc& form, FacilityType type) {
     const Calculation& last = form.record().last(type);
     if (last.end != CalculationEnd::Done) {
         return "";
@@ -289,6 +283,18 @@ std::string countedRain(const frmCalc& form, FacilityType type) {
         text += ", vybrán byl " + picked_min + " min";
     }
     return text + ".";
+}
+
+}  // namespace
+
+std::vector<Judgement> judgements(const frmCalc& form, FacilityType type) {
+    return Collector(form, type).collect();
+}
+
+std::string countedRain(const frmCalc& form, FacilityType type) {
+    const std::string text = rainThatCounted(form, type);
+    const bool demonstration = !text.empty() && !form.intDialog.demonstrationNote().empty();
+    return demonstration ? text + " Hodnoty deště jsou ukázkové." : text;
 }
 
 std::string line(const Judgement& judgement) {

@@ -175,8 +175,9 @@ std::string rainSummary(const frmCalc& form) {
     if (!values.VybranaPeriodicita.empty()) {
         text += ", p = " + values.VybranaPeriodicita;
     }
-    return text + (form.txtSelDTrvDeste.text().empty() ? ", návrhový déšť nevybrán"
-                                                       : ", návrhový déšť " + pickedOnFirstTab(form));
+    text += form.txtSelDTrvDeste.text().empty() ? ", návrhový déšť nevybrán"
+                                                : ", návrhový déšť " + pickedOnFirstTab(form);
+    return form.intDialog.demonstrationNote().empty() ? text : text + ", ukázkové hodnoty";
 }
 
 std::vector<Remark> siteRemarks(const frmCalc& form) {

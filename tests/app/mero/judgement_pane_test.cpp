@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "app/mero/main_window.h"
+#include "forms/calc/layout/stale_banner.h"
 #include "forms/calc/layout/verdict_list.h"
 
 namespace mero::app {
@@ -45,7 +46,7 @@ class JudgementPane : public MainWindow {
         const auto* label = shown<QLabel>("staleText");
         return label == nullptr ? "" : qt::stored(label->text());
     }
-    bool greyed(const char* name) { return widget<QWidget>(name).graphicsEffect() != nullptr; }
+    bool greyed(const char* name) { return forms::isFaded(widget<QWidget>(name)); }
     std::vector<std::string> lines() {
         std::vector<std::string> texts;
         if (const auto* list = shown<QListWidget>("judgements")) {

@@ -73,13 +73,13 @@ void addResultState(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWidge
     rain->setObjectName(QStringLiteral("countedRain"));
     rain->setWordWrap(true);
     rain->setTextFormat(Qt::PlainText);
-    rain->setTextInteractionFlags(Qt::TextSelectableByMouse);
     rows->addWidget(rain);
     auto* list = new VerdictList(
         *box, [&kit, &form, &side](const Judgement& judgement) { lead(kit, form, side, judgement); });
     rows->addWidget(list);
-    column.addWidget(banner);
-    column.addWidget(box);
+    const int below = column.indexOf(&results) + 1;
+    column.insertWidget(below, banner);
+    column.insertWidget(below + 1, box);
 
     refreshAfterEvents(form, side, [=, &form, &side, &results] {
         const ResultState state = resultState(form, type);

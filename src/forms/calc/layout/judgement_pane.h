@@ -9,7 +9,7 @@
 
 namespace mero::forms {
 
-/// Adds them to the column of a panel's results.
+/// Adds them to the column of a panel's results, below these.
 /// @param side    the widget with that column; whatever else it holds is greyed with the results
 /// @param results the boxes of the results
 void addResultState(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWidget& side, QBoxLayout& column,

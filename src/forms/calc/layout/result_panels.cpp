@@ -162,7 +162,6 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWid
     results_column->setContentsMargins(0, 0, 0, 0);
     auto& results_box = *new QGroupBox(QStringLiteral("Výsledky"), &results_side);
     results_column->addWidget(&results_box);
-    addResultState(kit, form, type, results_side, *results_column, results_box);
     results_column->addWidget(&makePicturePane(form, type, results_side), 1);
     columns->add(inputs_box, 0);
     columns->add(results_side, 1);
@@ -182,6 +181,8 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWid
     inputs.line(calculate);
     inputs.end();
     results.end();
+    // The Tab key comes to them after inputs and results, which are built before.
+    addResultState(kit, form, type, results_side, *results_column, results_box);
     showPanelRemarks(kit, form, type, inputs_box);
     givePanelTips(kit, form, type);
 }

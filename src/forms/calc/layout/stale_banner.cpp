@@ -2,6 +2,8 @@
 /// Paints the banner in a tint of the palette, and greys by opacity, which suits light and dark desktops.
 #include "forms/calc/layout/stale_banner.h"
 
+#include <QAbstractScrollArea>
+#include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -12,9 +14,40 @@
 namespace mero::forms {
 namespace {
 
-constexpr double kFadedOpacity = 0.45;
+constexpr float kFadedOpacity = 0.45F;
 constexpr double kTint = 0.16;
 constexpr QRgb kAmber = 0xffe08a00;
+
+/// Covers a widget with a translucent layer; the mouse goes through it.
+class Veil : public QWidget {
+  public:
+    explicit Veil(QWidget& covered) : QWidget(&covered) {
+        setObjectName(QLatin1String(kName));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        covered.installEventFilter(this);
+        resize(covered.size());
+        show();
+        raise();
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize) {
+            resize(parentWidget()->size());
+        }
+        return QWidget::eventFilter(watched, event);
+    }
+    static constexpr const char* kName = "veil";
+
+  protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QColor layer = palette().color(QPalette::Window);
+        layer.setAlphaF(1.0F - kFadedOpacity);
+        QPainter(this).fillRect(rect(), layer);
+    }
+};
+
+QWidget* findVeil(const QWidget& widget) {
+    return widget.findChild<QWidget*>(QLatin1String(Veil::kName), Qt::FindDirectChildrenOnly);
+}
 
 }  // namespace
 
@@ -56,16 +89,26 @@ QString staleText() {
 }
 
 void setFaded(QWidget& widget, bool faded) {
-    if (faded == (widget.graphicsEffect() != nullptr)) {
+    if (faded == isFaded(widget)) {
         return;
     }
-    if (!faded) {
+    if (qobject_cast<QAbstractScrollArea*>(&widget) != nullptr) {
+        if (faded) {
+            new Veil(widget);
+        } else {
+            delete findVeil(widget);
+        }
+    } else if (faded) {
+        auto* effect = new QGraphicsOpacityEffect(&widget);
+        effect->setOpacity(static_cast<double>(kFadedOpacity));
+        widget.setGraphicsEffect(effect);
+    } else {
         widget.setGraphicsEffect(nullptr);
-        return;
     }
-    auto* effect = new QGraphicsOpacityEffect(&widget);
-    effect->setOpacity(kFadedOpacity);
-    widget.setGraphicsEffect(effect);
+}
+
+bool isFaded(const QWidget& widget) {
+    return widget.graphicsEffect() != nullptr || findVeil(widget) != nullptr;
 }
 
 void calculateAnew(qt::WidgetKit& kit, frmCalc& form, FacilityType type) {

@@ -28,8 +28,10 @@ class StaleBanner : public QFrame {
 
 /// What the results of the type say when they are stale.
 [[nodiscard]] QString staleText();
-/// Greys a widget that shows what is no longer valid.
+/// Greys a widget that shows what is no longer valid. A scrolled view gets a veil: it would leave traces of
+/// what it showed before otherwise.
 void setFaded(QWidget& widget, bool faded);
+[[nodiscard]] bool isFaded(const QWidget& widget);
 /// What a person would do to calculate the type: press its button, or choose a live type again.
 void calculateAnew(qt::WidgetKit& kit, frmCalc& form, FacilityType type);
 
