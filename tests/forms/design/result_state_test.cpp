@@ -165,6 +165,32 @@ TEST_F(ResultStateTest, AnUnconfirmedPipeIsAChange) {
     EXPECT_EQ(state(Trench), ResultState::Stale);
 }
 
+TEST_F(ResultStateTest, ACoefficientConfirmedForAnotherWidthIsAChange) {
+    calculatedTrench();
+    project.click(window.chkSelPretok[Trench]);
+    project.set(window.txtPrumTroubVnit[Trench], "180");
+    project.set(window.txtPrumTroubVnej[Trench], "200");
+    project.click(window.cmdOK[Trench]);
+    project.calculate();
+    EXPECT_EQ(state(Trench), ResultState::Current);
+    project.set(window.txtSirkaRyhy[Trench], "2");
+    project.click(window.cmdEdit[Trench]);
+    project.click(window.cmdOK[Trench]);
+    project.set(window.txtSirkaRyhy[Trench], "1");
+    EXPECT_EQ(state(Trench), ResultState::Stale) << "the coefficient with the pipes is that of 2 m";
+}
+
+TEST_F(ResultStateTest, WithoutACriticalRainThePickedOneCounts) {
+    // The bottom alone, 1.13 m2 at half of 1 m/s, takes more than 500 m2 bring.
+    project.filtration("1");
+    calculatedShaft();
+    ASSERT_EQ(window.txtVyskaVzduti[Shaft].text(), "0.00");
+    EXPECT_EQ(state(Shaft), ResultState::Current);
+    project.rains(kStorm, 5);
+    project.choose(Shaft);
+    EXPECT_EQ(state(Shaft), ResultState::Stale) << "the volume is that of the rain picked before";
+}
+
 TEST_F(ResultStateTest, TheReportIsStaleWhenAnotherTypeReplacedTheStoredResults) {
     calculatedTank();
     EXPECT_EQ(reportState(window), ResultState::Current);
