@@ -52,19 +52,25 @@ void paintContent(QPainter& painter, const LocalDocument& document, const PageRo
     painter.restore();
 }
 
-void paintFoot(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& number,
-               const QString& note) {
+void paintFoot(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& text) {
     QFont font = document.defaultFont();
     font.setPointSizeF(kFootPoints);
     painter.setFont(QFont(font, painter.device()));
     painter.setPen(Qt::black);
     const QRectF foot(0, room.paper.height() - room.foot_height, room.paper.width(), room.foot_height);
-    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom, number);
-    if (!note.isEmpty()) {
-        const int number_width = painter.fontMetrics().horizontalAdvance(number + QStringLiteral("   "));
-        painter.drawText(foot.adjusted(0, 0, -number_width, 0),
-                         Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap, note);
-    }
+    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom, text);
+}
+
+/// The note stands in a line of its own, above the page number's.
+void paintNote(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& note) {
+    QFont font = document.defaultFont();
+    font.setPointSizeF(kFootPoints);
+    painter.setFont(QFont(font, painter.device()));
+    painter.setPen(Qt::black);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QRectF line(0, room.paper.height() - 2 * metrics.height(), room.paper.width(), metrics.height());
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignBottom,
+                     metrics.elidedText(note, Qt::ElideRight, static_cast<int>(line.width())));
 }
 
 }  // namespace
@@ -97,7 +103,8 @@ int paintPages(LocalDocument& document, QPagedPaintDevice& device, const QString
         first = false;
         const auto at = static_cast<std::size_t>(page);
         paintContent(painter, document, room, breaks[at - 1], breaks[at]);
-        paintFoot(painter, document, room, QStringLiteral("%1 / %2").arg(page).arg(pages), note);
+        paintNote(painter, document, room, note);
+        paintFoot(painter, document, room, QStringLiteral("%1 / %2").arg(page).arg(pages));
     }
     return pages;
 }

@@ -57,8 +57,6 @@ std::string whatCounts(const TextBox& box, float stored, Input input) {
 
 class Remarks {
   public:
-    explicit Remarks(const frmCalc& form) : form_(&form) {}
-
     void number(const TextBox& box, Input input, float stored) {
         if (!box.enabled() || box.greyed() || has(box)) {
             return;
@@ -84,7 +82,6 @@ class Remarks {
         return std::ranges::find(found_, &control, &Remark::beside) != found_.end();
     }
 
-    const frmCalc* form_;
     std::vector<Remark> found_;
 };
 
@@ -182,7 +179,7 @@ std::string rainSummary(const frmCalc& form) {
 
 std::vector<Remark> siteRemarks(const frmCalc& form) {
     const DesignNumbers& values = form.values();
-    Remarks remarks(form);
+    Remarks remarks;
     addArea(remarks, form);
     addRain(remarks, form);
     remarks.number(form.txtSoucFiltrace, Input::Filtration, values.txtSoucFiltrace);
@@ -196,7 +193,7 @@ std::vector<Remark> siteRemarks(const frmCalc& form) {
 
 std::vector<Remark> panelRemarks(const frmCalc& form, FacilityType type) {
     const DesignNumbers& values = form.values();
-    Remarks remarks(form);
+    Remarks remarks;
     for (const design::PanelInput& row : design::panelInputs(type)) {
         const design::InputInfo& input = info(row.input);
         if (row.input == Input::ShaftCount) {

@@ -52,6 +52,18 @@ TEST_F(FieldRemarks, StandOnThePanels) {
     EXPECT_EQ(remark("chkSelPretok(4)"), "");
 }
 
+TEST_F(FieldRemarks, ARunoffCoefficientAboveOneIsRemarkedInItsDialog) {
+    run({"click cmdEdit(1)", "set frmDialog.txtSoucinitel 1"});
+    const QWidget& dialog = *kit.find(program.window().areaDialog);
+    const QLabel& note = *qt::findFieldNote(program.window().areaDialog.txtSoucinitel, dialog);
+    EXPECT_FALSE(note.isVisible());
+    run("set frmDialog.txtSoucinitel 9");
+    EXPECT_TRUE(note.isVisible());
+    EXPECT_EQ(qt::stored(note.text()), "⚠ Součinitel odtoku je větší než 1.");
+    run({"set frmDialog.txtSoucinitel 1", "set frmDialog.txtSoucinitel 9e999"});
+    EXPECT_TRUE(note.isVisible());
+}
+
 TEST_F(FieldRemarks, WaitWhileAPersonTypes) {
     auto& line = widget<QLineEdit>("txtSoucFiltrace");
     window.activateWindow();

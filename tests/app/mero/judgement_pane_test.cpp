@@ -73,6 +73,7 @@ TEST_F(JudgementPane, StaleResultsAreGreyedUntilTheBannersButtonCalculates) {
     EXPECT_EQ(banner(), "Vstupy se od výpočtu změnily.");
     EXPECT_TRUE(greyed("txtDelkaRyhy(4)"));
     EXPECT_FALSE(greyed("txtVyskaRyhy(4)")) << "an input";
+    EXPECT_TRUE(forms::isFaded(*shown<QWidget>("picSection")->parentWidget())) << "the pictures";
 
     QTest::mouseClick(shown<QPushButton>("staleButton"), Qt::LeftButton);
     EXPECT_EQ(banner(), "");

@@ -67,7 +67,11 @@ class Watcher : public QObject {
         pending_ = false;
         for (const Part& part : parts_) {
             if (!part.widget.isNull() && part.widget->isVisible()) {
-                part.refresh();
+                try {
+                    part.refresh();
+                } catch (const RuntimeError&) {  // numbers that nothing can be said about
+                    continue;
+                }
             }
         }
     }

@@ -97,8 +97,8 @@ void addResultState(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWidge
         for (auto* result : results.findChildren<QLineEdit*>()) {
             setValid(*result, !stale);
         }
-        for (auto* part : side.findChildren<QGroupBox*>(QString(), Qt::FindDirectChildrenOnly)) {
-            if (part != &results) {
+        for (auto* part : side.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (part != &results && part != banner) {
                 setFaded(*part, stale);
             }
         }
