@@ -19,6 +19,9 @@ struct InputGuide {
 
 [[nodiscard]] const InputGuide& guide(Input input);
 
+/// Meaning, unit, usual values and default of an input, one a line.
+[[nodiscard]] std::string explanation(const PanelInput& input);
+
 /// Is the value beyond the limits? A value of 0 is not: it means not given, and the checks refuse it.
 [[nodiscard]] bool isImplausible(Input input, float value);
 

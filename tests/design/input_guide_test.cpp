@@ -24,6 +24,14 @@ TEST(InputGuide, ChoicesHaveNoLimits) {
     EXPECT_FALSE(isImplausible(Input::Soil, 1.0F));
 }
 
+TEST(InputGuide, TheExplanationSaysMeaningUnitUsualValuesAndDefault) {
+    EXPECT_EQ(explanation({Input::SafetyFactor}),
+              "Násobí dobu, po kterou se voda hromadí\nObvykle: 1.0 až 1.5\nVýchozí: 1.2");
+    EXPECT_EQ(explanation({Input::TrenchWidth}),
+              "Střední šířka rýhy\nJednotka: m\nObvykle: 0.5 až 3\nVýchozí: prázdné");
+    EXPECT_EQ(explanation({Input::Shape}), "Volba vymaže rozměry a naplní katalog");
+}
+
 TEST(InputGuide, EachInputThatAPanelAsksForIsExplained) {
     for (const FacilityType type : kFacilityTypes) {
         for (const PanelInput& row : panelInputs(type)) {

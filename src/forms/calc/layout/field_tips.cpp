@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
-/// Writes tooltips from the table of inputs.
+/// Takes tooltips from the table of inputs.
 #include "forms/calc/layout/field_tips.h"
-
-#include <algorithm>
 
 #include "design/input_guide.h"
 #include "qt/texts.h"
@@ -12,67 +10,48 @@ namespace {
 
 using design::Input;
 
-void give(const qt::WidgetKit& kit, const platform::Control& control, const QString& tip) {
+QString tip(const design::PanelInput& input) {
+    return qt::shown(design::explanation(input));
+}
+
+void give(const qt::WidgetKit& kit, const platform::Control& control, const QString& text) {
     QWidget* widget = kit.find(control);
     // One box may serve two inputs: the first one's tooltip stays.
     if (widget != nullptr && widget->toolTip().isEmpty()) {
-        widget->setToolTip(tip);
+        widget->setToolTip(text);
     }
 }
 
 void give(const qt::WidgetKit& kit, const platform::ControlArray<platform::OptionButton>& options,
-          const QString& tip) {
-    options.forEach([&](int, const platform::OptionButton& option) { give(kit, option, tip); });
+          const QString& text) {
+    options.forEach([&](int, const platform::OptionButton& option) { give(kit, option, text); });
 }
 
 }  // namespace
 
-QString tipOf(const design::PanelInput& input) {
-    const design::InputInfo& row = info(input.input);
-    const design::InputGuide& about = design::guide(input.input);
-    QString meaning = QString::fromUtf8(about.meaning);
-    if (!meaning.isEmpty()) {
-        meaning[0] = meaning[0].toUpper();
-    }
-    QStringList lines{meaning};
-    const bool number = row.kind == design::InputKind::Number || row.kind == design::InputKind::WholeNumber;
-    if (*row.unit != '\0') {
-        lines += QStringLiteral("Jednotka: ") + QString::fromUtf8(row.unit);
-    }
-    if (*about.usual != '\0') {
-        lines += QStringLiteral("Obvykle: ") + QString::fromUtf8(about.usual);
-    }
-    if (number) {
-        const std::string opening = design::openingText(input);
-        lines +=
-            QStringLiteral("Výchozí: ") + (opening.empty() ? QStringLiteral("prázdné") : qt::shown(opening));
-    }
-    return lines.join(QLatin1Char('\n'));
-}
-
 void giveSiteTips(const qt::WidgetKit& kit, const frmCalc& form) {
     for (const Input input : {Input::DesignDuration, Input::Filtration, Input::Groundwater}) {
-        give(kit, form.textBox(info(input).box), tipOf({input}));
+        give(kit, form.textBox(info(input).box), tip({input}));
     }
 }
 
 void givePanelTips(const qt::WidgetKit& kit, const frmCalc& form, FacilityType type) {
     for (const design::PanelInput& row : design::panelInputs(type)) {
-        const QString tip = tipOf(row);
+        const QString text = tip(row);
         switch (row.input) {
             case Input::Soil:
-                give(kit, type == FacilityType::Swale ? form.optSelTypPudy2 : form.optSelTypPudy3, tip);
+                give(kit, type == FacilityType::Swale ? form.optSelTypPudy2 : form.optSelTypPudy3, text);
                 break;
             case Input::Shape:
-                give(kit, form.optSelTypSachty, tip);
+                give(kit, form.optSelTypSachty, text);
                 break;
             case Input::Variant:
-                give(kit, form.optSelTypPudy5, tip);
+                give(kit, form.optSelTypPudy5, text);
                 break;
             default:
                 if (const platform::Control* control =
                         form.find(design::controlName(info(row.input).box, type))) {
-                    give(kit, *control, tip);
+                    give(kit, *control, text);
                 }
         }
     }

@@ -2,14 +2,10 @@
 /// Tooltips of the inputs: meaning, unit, usual values, default.
 #pragma once
 
-#include "design/input.h"
 #include "forms/calc/frm_calc.h"
 #include "qt/widget_kit.h"
 
 namespace mero::forms {
-
-/// The tooltip of an input.
-[[nodiscard]] QString tipOf(const design::PanelInput& input);
 
 /// Of the fields of the first tab that are built.
 void giveSiteTips(const qt::WidgetKit& kit, const frmCalc& form);

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "design/input_guide.h"
 #include "forms/dialogs/layout/dialog_windows.h"
 #include "forms/dialogs/layout/rain_curve_view.h"
 #include "qt/buttons.h"
@@ -12,6 +13,7 @@
 #include "qt/field_grid.h"
 #include "qt/look.h"
 #include "qt/text_fields.h"
+#include "qt/texts.h"
 
 namespace mero::forms {
 namespace {
@@ -34,9 +36,12 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     auto& choice = *new QWidget(&side);
     qt::FieldGrid fields(kit(), choice);
     choice.layout()->setContentsMargins(0, 0, 0, 0);
-    fields.widget(QStringLiteral("Stanice"), qt::makeDropList(kit(), form_->cboSelStanice, choice));
+    QComboBox& station = qt::makeDropList(kit(), form_->cboSelStanice, choice);
+    station.setToolTip(qt::shown(design::explanation({design::Input::Station})));
+    fields.widget(QStringLiteral("Stanice"), station);
     QComboBox& periodicity = qt::makeDropList(kit(), form_->cboSelPeriod, choice);
     periodicity.setMinimumContentsLength(8);
+    periodicity.setToolTip(qt::shown(design::explanation({design::Input::Periodicity})));
     QPushButton& help = qt::makeButton(kit(), form_->cmdEdit, choice);
     help.setAccessibleName(QStringLiteral("Nápověda"));
     help.setFixedWidth(help.sizeHint().height() * 5 / 4);
