@@ -94,11 +94,18 @@ std::optional<std::string> TraceDesk::askSavePath(const std::string& /*suggested
     return answer;
 }
 
+void TraceDesk::setPageNote(const std::string& text) {
+    page_note_ = text;
+    if (inner_ != nullptr) {
+        inner_->setPageNote(text);
+    }
+}
+
 platform::PdfResult TraceDesk::makePdf(const std::string& document_path, const std::string& target_path) {
     if (inner_ != nullptr) {
         return inner_->makePdf(document_path, target_path);
     }
-    return pdf_maker_ ? pdf_maker_(document_path, target_path) : platform::PdfResult::NoMeans;
+    return pdf_maker_ ? pdf_maker_(document_path, target_path, page_note_) : platform::PdfResult::NoMeans;
 }
 
 void TraceDesk::saved(const std::string& path) {

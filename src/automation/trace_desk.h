@@ -16,8 +16,8 @@ namespace mero::automation {
 
 class TraceDesk : public platform::Desk {
   public:
-    using PdfMaker =
-        std::function<platform::PdfResult(const std::string& document_path, const std::string& target_path)>;
+    using PdfMaker = std::function<platform::PdfResult(
+        const std::string& document_path, const std::string& target_path, const std::string& page_note)>;
 
     /// @param trace  receives the lines; flushed after each
     /// @param inner  the real desk of a window, which shows the same things; null without a window
@@ -36,6 +36,7 @@ class TraceDesk : public platform::Desk {
     void formOpened(const std::string& form) override;
     void formClosed(const std::string& form) override;
     void navigated(const std::string& view, const std::string& path) override;
+    void setPageNote(const std::string& text) override;
     void openPrintPreview(const std::string& path) override;
     std::optional<std::string> askSavePath(const std::string& suggested_path) override;
     platform::PdfResult makePdf(const std::string& document_path, const std::string& target_path) override;
@@ -47,6 +48,7 @@ class TraceDesk : public platform::Desk {
     platform::Desk* inner_;
     std::string folder_;
     PdfMaker pdf_maker_;
+    std::string page_note_;
     std::optional<std::string> save_answer_;
 };
 

@@ -59,6 +59,8 @@ class Desk {
     virtual void formClosed(const std::string& form) = 0;
     /// A browser view was sent to a local file.
     virtual void navigated(const std::string& view, const std::string& path) = 0;
+    /// The line at the foot of the pages that are printed from now on; "" for none.
+    virtual void setPageNote(const std::string& /*text*/) {}
     /// The print preview is opened on a document.
     virtual void openPrintPreview(const std::string& path) = 0;
     /// Shows the save dialog. @return the chosen path, empty when the user cancels

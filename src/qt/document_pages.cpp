@@ -103,6 +103,18 @@ void paintFoot(QPainter& painter, const LocalDocument& document, const PageRoom&
         painter.fontMetrics().elidedText(subject, Qt::ElideRight, static_cast<int>(left.width())));
 }
 
+/// The note stands in a line of its own, above the page number's.
+void paintNote(QPainter& painter, const LocalDocument& document, const PageRoom& room, const QString& note) {
+    QFont font = document.defaultFont();
+    font.setPointSizeF(kFootPoints);
+    painter.setFont(QFont(font, painter.device()));
+    painter.setPen(Qt::black);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QRectF line(0, room.paper.height() - 2 * metrics.height(), room.paper.width(), metrics.height());
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignBottom,
+                     metrics.elidedText(note, Qt::ElideRight, static_cast<int>(line.width())));
+}
+
 }  // namespace
 
 QPageLayout paperLayout() {
@@ -110,7 +122,7 @@ QPageLayout paperLayout() {
             QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter};
 }
 
-int paintPages(LocalDocument& document, QPagedPaintDevice& device) {
+int paintPages(LocalDocument& document, QPagedPaintDevice& device, const QString& note) {
     PageRoom room = roomOn(device);
     document.documentLayout()->setPaintDevice(&device);
     document.setDocumentMargin(0);
@@ -132,6 +144,7 @@ int paintPages(LocalDocument& document, QPagedPaintDevice& device) {
         first = false;
         const auto at = static_cast<std::size_t>(page);
         paintContent(painter, document, room, breaks[at - 1], breaks[at]);
+        paintNote(painter, document, room, note);
         // The first page begins with it.
         paintFoot(painter, document, room, QStringLiteral("%1 / %2").arg(page).arg(pages),
                   page == 1 ? QString() : subjectOf(document));

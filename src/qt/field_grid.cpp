@@ -5,6 +5,7 @@
 
 #include <QRadioButton>
 
+#include "qt/field_note.h"
 #include "qt/look.h"
 #include "qt/section_title.h"
 
@@ -85,7 +86,8 @@ QLabel& FieldGrid::caption(const QString& text) {
     return label;
 }
 
-QLineEdit& FieldGrid::place(QLineEdit& line, const QString& text, const QString& unit) {
+QLineEdit& FieldGrid::place(QLineEdit& line, const platform::TextBox& box, const QString& text,
+                            const QString& unit) {
     QLabel& label = caption(text);
     line.setFixedWidth(textWidth(line, kNumberCharacters));
     label.setBuddy(&line);
@@ -96,17 +98,18 @@ QLineEdit& FieldGrid::place(QLineEdit& line, const QString& text, const QString&
         unit_label->setTextFormat(Qt::PlainText);
         grid_->addWidget(unit_label, row_, kUnit);
     }
-    ++row_;
+    last_ = row_++;
+    note(box);
     return line;
 }
 
 QLineEdit& FieldGrid::input(platform::TextBox& box, const QString& text, const QString& unit,
                             numbers::NumberField kind) {
-    return place(makeNumberLine(*kit_, box, *parent_, NumberEntry{kind, unit}), text, unit);
+    return place(makeNumberLine(*kit_, box, *parent_, NumberEntry{kind, unit}), box, text, unit);
 }
 
 QLineEdit& FieldGrid::result(platform::TextBox& box, const QString& text, const QString& unit) {
-    QLineEdit& line = place(makeLineEdit(*kit_, box, *parent_), text, unit);
+    QLineEdit& line = place(makeLineEdit(*kit_, box, *parent_), box, text, unit);
     showAsResult(line);
     growWithText(line);
     return line;
@@ -162,11 +165,11 @@ void FieldGrid::pair(const QString& text, QWidget& first, QWidget& second) {
 }
 
 void FieldGrid::beside(QWidget& widget) {
-    grid_->addWidget(&widget, row_ - 1, kBeside);
+    grid_->addWidget(&widget, last_, kBeside);
 }
 
 void FieldGrid::besideField(QWidget& widget) {
-    grid_->addWidget(&widget, row_ - 1, kUnit, Qt::AlignLeft | Qt::AlignVCenter);
+    grid_->addWidget(&widget, last_, kUnit, Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void FieldGrid::line(QWidget& widget) {
@@ -181,6 +184,11 @@ void FieldGrid::wide(QWidget& widget) {
 
 void FieldGrid::space() {
     grid_->setRowMinimumHeight(row_, gap(*parent_));
+    ++row_;
+}
+
+void FieldGrid::note(const platform::Control& control) {
+    grid_->addWidget(&makeFieldNote(control, *parent_), row_, kCaption, 1, kRest + 1);
     ++row_;
 }
 

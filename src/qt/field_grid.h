@@ -53,6 +53,8 @@ class FieldGrid {
     void wide(QWidget& widget);
     /// A small gap before the next row.
     void space();
+    /// A line for a remark about the control below the last row, hidden until it has a text.
+    void note(const platform::Control& control);
     /// Keeps the rows together at the top.
     void end();
 
@@ -60,12 +62,14 @@ class FieldGrid {
 
   private:
     QLabel& caption(const QString& text);
-    QLineEdit& place(QLineEdit& line, const QString& caption, const QString& unit);
+    QLineEdit& place(QLineEdit& line, const platform::TextBox& box, const QString& caption,
+                     const QString& unit);
 
     WidgetKit* kit_;
     QWidget* parent_;
     QGridLayout* grid_;
     int row_ = 0;
+    int last_ = 0;  ///< row of the last field
 };
 
 }  // namespace mero::qt

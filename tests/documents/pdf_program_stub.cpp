@@ -7,7 +7,7 @@
 #include <string>
 
 int main(int argc, char** argv) {
-    if (argc != 4 || std::string(argv[1]) != "--export-pdf") {
+    if ((argc != 4 && argc != 5) || std::string(argv[1]) != "--export-pdf") {
         return 2;
     }
     const std::string document = argv[2];
@@ -23,6 +23,6 @@ int main(int argc, char** argv) {
     if (document == "unreadable") {
         return 1;
     }
-    std::ofstream(argv[3]) << document;
+    std::ofstream(argv[3]) << document << (argc == 5 ? ", " + std::string(argv[4]) : "");
     return 0;
 }

@@ -190,7 +190,7 @@ class Inputs(unittest.TestCase):
 
     def test_the_tables_are_those_of_the_program(self):
         for table in input_tables(TEXT):
-            printed = [tuple(row[:3]) for _, row in table.rows]
+            printed = [tuple(row[:4]) for _, row in table.rows]
             fields = [field.row() for field in tables.inputs[table.type_number]]
             # The first tab mixes inputs and results; a panel shows its inputs in the table's order.
             order = sorted if table.type_number == 0 else list

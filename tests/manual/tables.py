@@ -27,18 +27,19 @@ class Field:
     opening: str = ""
     kind: str = "text"
     options: tuple[str, ...] = ()
+    usual: str = ""
 
-    def row(self) -> tuple[str, str, str]:
-        """Caption, unit and default as the manual's tables of inputs print them."""
+    def row(self) -> tuple[str, str, str, str]:
+        """Caption, unit, default and usual values as the manual's tables of inputs print them."""
         default = "–" if self.kind in ("choice", "truth") else f"`{self.opening}`" if self.opening else "prázdné"
-        return self.caption, self.unit or "–", default
+        return self.caption, self.unit or "–", default, self.usual
 
 
 def field_of(row: dict, type_number: int) -> Field:
     path = row.get("path", "")
     box = LISTS.get(path) or OPTIONS.get(path, "").replace("#", str(type_number)) or row["box"]
     return Field(row["caption"].rstrip(":"), row.get("unit", ""), box, row.get("opening", ""), row.get("kind", "text"),
-                 tuple(row.get("options", ())))
+                 tuple(row.get("options", ())), row.get("usual", ""))
 
 
 class Tables:

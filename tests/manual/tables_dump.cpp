@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "design/input.h"
+#include "design/input_guide.h"
 #include "design/quantity.h"
 #include "design/text_input.h"
 #include "design/verdict.h"
@@ -43,6 +44,7 @@ Json ofInput(const PanelInput& on_panel, FacilityType type) {
             {"caption", on_panel.caption == nullptr ? row.caption : on_panel.caption},
             {"unit", row.unit},
             {"opening", has_text ? openingText(on_panel) : ""},
+            {"usual", has_text ? guide(on_panel.input).usual : ""},
             {"box", controlName(row.box, type)},
             {"options", options}};
 }

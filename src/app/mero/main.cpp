@@ -45,7 +45,7 @@ constexpr int kClockPeriodMs = 1000;
 
 constexpr const char* kHelp =
     "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--palette light|dark] [--script SCRIPT]\n"
-    "       mero --export-pdf REPORT FILE\n"
+    "       mero --export-pdf REPORT FILE [NOTE]\n"
     "\n"
     "Design of stormwater infiltration facilities.\n"
     "\n"
@@ -55,8 +55,9 @@ constexpr const char* kHelp =
     "                    the window's colours, whatever the desktop's are\n"
     "  --script SCRIPT   works the window from a script (a UTF-8 file, - for standard input), prints the\n"
     "                    trace, one JSON object per line, and exits when the script ends\n"
-    "  --export-pdf REPORT FILE\n"
-    "                    makes a PDF file of a report file, without a window; for mero-batch\n"
+    "  --export-pdf REPORT FILE [NOTE]\n"
+    "                    makes a PDF file of a report file, with the note at the foot of its pages, without\n"
+    "                    a window; for mero-batch\n"
     "  --help            this text\n"
     "  --version         the version\n"
     "\n"
@@ -180,11 +181,12 @@ class Mero {
 };
 
 /// Needs no display on any desktop.
-int exportPdf(int& argc, char** argv, const std::string& report, const std::string& file) {
+int exportPdf(int& argc, char** argv, const std::string& report, const std::string& file,
+              const std::string& note) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     numbers::useNumericCLocale();
-    return app::makePdfFile(report, file, report::viewHtml) == platform::PdfResult::Made ? 0 : 1;
+    return app::makePdfFile(report, file, report::viewHtml, note) == platform::PdfResult::Made ? 0 : 1;
 }
 
 }  // namespace
@@ -196,11 +198,12 @@ int main(int argc, char** argv) {
         // All arguments belong to this program; Qt gets none of them.
         int window_system_arguments = 1;
         if (!arguments.empty() && arguments.front() == "--export-pdf") {
-            if (arguments.size() != 3) {
+            if (arguments.size() != 3 && arguments.size() != 4) {
                 throw app::UsageError("--export-pdf needs a report file and the file to make");
             }
             return exportPdf(window_system_arguments, argv, std::string(arguments[1]),
-                             std::string(arguments[2]));
+                             std::string(arguments[2]),
+                             std::string(arguments.size() == 4 ? arguments[3] : ""));
         }
         const app::RunOptions options = app::parseRunOptions(arguments, app::ScriptArgument::WithOption);
         if (options.help || options.version) {

@@ -16,7 +16,7 @@ namespace mero::app {
 using platform::PdfResult;
 
 PdfResult makePdfFile(const std::string& document_path, const std::string& target_path,
-                      const qt::Decoder& decode) {
+                      const qt::Decoder& decode, const std::string& page_note) {
     constexpr int kDotsPerInch = 600;
     const QString path = qt::shown(document_path);
     qt::LocalDocument document(decode);
@@ -31,7 +31,7 @@ PdfResult makePdfFile(const std::string& document_path, const std::string& targe
         writer.setPageLayout(qt::paperLayout());
         writer.setCreator(QString::fromLatin1(platform::kApplicationTitle));
         writer.setTitle(QFileInfo(path).fileName());
-        qt::paintPages(document, writer);
+        qt::paintPages(document, writer, qt::shown(page_note));
     }
     QFile file(qt::shown(target_path));
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&

@@ -144,8 +144,9 @@ void QtDesk::openPrintPreview(const std::string& path) {
     printer.setDocName(QFileInfo(shown(path)).fileName());
     QPrintPreviewDialog preview(&printer, window());
     preview.setWindowTitle(QStringLiteral("Náhled před tiskem"));
-    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &document,
-                     [&document](QPrinter* target) { qt::paintPages(document, *target); });
+    QObject::connect(
+        &preview, &QPrintPreviewDialog::paintRequested, &document,
+        [&document, note = shown(page_note_)](QPrinter* target) { qt::paintPages(document, *target, note); });
     preview.exec();
 }
 
@@ -176,7 +177,7 @@ void tellBesideFields(QtDesk& desk, qt::Typing& typing) {
 }
 
 platform::PdfResult QtDesk::makePdf(const std::string& document_path, const std::string& target_path) {
-    return makePdfFile(document_path, target_path, decode_);
+    return makePdfFile(document_path, target_path, decode_, page_note_);
 }
 
 }  // namespace mero::app

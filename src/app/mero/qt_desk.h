@@ -38,6 +38,7 @@ class QtDesk : public platform::Desk {
     void formOpened(const std::string& form) override;
     void formClosed(const std::string& form) override;
     void navigated(const std::string& view, const std::string& path) override;
+    void setPageNote(const std::string& text) override { page_note_ = text; }
     void openPrintPreview(const std::string& path) override;
     std::optional<std::string> askSavePath(const std::string& suggested_path) override;
     platform::PdfResult makePdf(const std::string& document_path, const std::string& target_path) override;
@@ -51,6 +52,7 @@ class QtDesk : public platform::Desk {
 
     Sitter sitter_;
     qt::Decoder decode_;
+    std::string page_note_;
     QPointer<QWidget> main_window_;
     QString last_folder_;  ///< where a file was saved last, empty before
     QObject while_there_;  ///< disconnects processes that end after this desk

@@ -3,6 +3,7 @@
 /// design procedures of the type over the window.
 #include "design/procedures.h"
 #include "forms/calc/frm_calc.h"
+#include "forms/calc/result_state.h"
 
 namespace mero::forms {
 
@@ -49,20 +50,38 @@ void frmCalc::CalcDesign() {
                    [&]<FacilityType type>() { design::calculateDesign(design::OfType<type>(), sink); });
 }
 
-void frmCalc::cmdCalcul_Click(int Index) {
-    const auto index = static_cast<FacilityType>(Index);
-    WindowSink sink(*this, index);
-    const bool passed = data::withType(index, [&]<FacilityType type>() {
-        return !design::checks::kChecks<type>.empty() &&
-               design::checks::pass<type>(sink, optSelTypPudy5[1].selected());
+bool frmCalc::calculate(FacilityType type) {
+    WindowSink sink(*this, type);
+    const bool passed = data::withType(type, [&]<FacilityType of>() {
+        return design::checks::pass<of>(sink, optSelTypPudy5[1].selected());
     });
     if (!passed) {
-        return;
+        return false;
     }
-    if (index == FacilityType::Shaft) {
+    if (type == FacilityType::Shaft) {
         CalcInfiltArea();
     }
     CalcDesign();
+    return true;
+}
+
+void frmCalc::cmdCalcul_Click(int Index) {
+    const auto type = static_cast<FacilityType>(Index);
+    const bool has_checks =
+        data::withType(type, []<FacilityType of>() { return !design::checks::kChecks<of>.empty(); });
+    if (!has_checks) {
+        return;
+    }
+    record_.begin(type);
+    try {
+        const bool calculated = calculate(type) && SelectedType == type;
+        record_.end(type, calculated ? CalculationEnd::Done : CalculationEnd::Refused,
+                    calculationState(*this, type));
+    } catch (const RuntimeError& error) {
+        record_.tell(type, {.id = design::verdictOf(error), .values = {}});
+        record_.end(type, CalculationEnd::Failed, calculationState(*this, type));
+        throw;
+    }
 }
 
 void frmCalc::cmdOK_Click(int Index) {

@@ -11,6 +11,7 @@
 
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
+#include "forms/calc/calculation_record.h"
 #include "forms/calc/frm_calc_controls.h"
 #include "forms/calc/window_sink.h"
 #include "forms/dialogs/frm_coef_dialog.h"
@@ -94,6 +95,9 @@ class frmCalc : public frmCalcControls {
 
     [[nodiscard]] const data::modPublicVariables& values() const { return *values_; }
     [[nodiscard]] platform::modRegSettings& regSettings() { return reg_settings_; }
+    [[nodiscard]] const CalculationRecord& record() const { return record_; }
+    [[nodiscard]] CalculationRecord& record() { return record_; }
+    [[nodiscard]] const ResultBoxes& resultBoxes() const { return result_boxes_; }
 
   private:
     /// The design procedures write the window through it.
@@ -108,6 +112,8 @@ class frmCalc : public frmCalcControls {
     void bindEach(const ControlArray<T>& array, std::type_identity_t<std::function<void()> T::*> event,
                   void (frmCalc::*handler)(int));
 
+    /// Checks and calculates. @return false when the checks refuse the inputs
+    bool calculate(FacilityType type);
     void showInflow();
     void error(const std::string& text);
     void hideResultPanels();
@@ -129,6 +135,7 @@ class frmCalc : public frmCalcControls {
     [[nodiscard]] bool keepReport();
 
     ResultBoxes result_boxes_;
+    CalculationRecord record_;
     data::modPublicVariables* values_;
     platform::Desk* desk_;
     platform::Clock* clock_;

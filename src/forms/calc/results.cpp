@@ -110,6 +110,7 @@ void frmCalc::cmdSaveResults_Click() {
 void frmCalc::saveResults(const std::string& path) {
     auto pdf = platform::PdfResult::Made;
     bool saved = false;
+    desk_->setPageNote(intDialog.demonstrationNote());
     if (report::isPdfPath(path)) {
         saved = keepReport() && report::replaceWhole(path, [&](const std::string& fresh_path) {
                     pdf = desk_->makePdf(values_->ResultsFilePath, fresh_path);
@@ -133,6 +134,7 @@ void frmCalc::saveResults(const std::string& path) {
 
 void frmCalc::cmdPrint_Click() {
     static_cast<void>(keepReport());
+    desk_->setPageNote(intDialog.demonstrationNote());
     desk_->openPrintPreview(values_->ResultsFilePath);
 }
 

@@ -7,9 +7,9 @@
 #include "design/messages.h"
 #include "design/verdict.h"
 #include "forms/calc/frm_calc.h"
+#include "forms/calc/result_state.h"
 
 namespace mero::forms {
-namespace {
 
 int selectedOption(const platform::ControlArray<platform::OptionButton>& options) {
     constexpr int kNoneSelected = -1;
@@ -18,8 +18,6 @@ int selectedOption(const platform::ControlArray<platform::OptionButton>& options
     }
     return options[1].selected() ? 1 : kNoneSelected;
 }
-
-}  // namespace
 
 ResultBoxes::ResultBoxes(const frmCalcControls& form) {
     for (const FacilityType type : data::kFacilityTypes) {
@@ -78,6 +76,7 @@ void WindowSink::tellTogether(std::span<const design::VerdictId> ids) {
     std::vector<design::Verdict> verdicts;
     for (const design::VerdictId id : ids) {
         verdicts.push_back(design::verdict(id, numbers()));
+        form_->record_.tell(type_, verdicts.back());
     }
     for (const design::Message& message : design::messages(verdicts)) {
         form_->desk_->showMessage(design::box(message));
@@ -104,6 +103,9 @@ void WindowSink::abandonType() {
 
 void WindowSink::complete() {
     form_->calculated_ = true;
+    if (calculatesLive(type_)) {
+        form_->record_.end(type_, CalculationEnd::Done, calculationState(*form_, type_));
+    }
 }
 
 }  // namespace mero::forms

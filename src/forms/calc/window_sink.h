@@ -13,6 +13,9 @@ namespace mero::forms {
 
 class frmCalc;
 
+/// The selected one of two options, -1 when none is.
+[[nodiscard]] int selectedOption(const platform::ControlArray<platform::OptionButton>& options);
+
 /// The boxes of each panel that show results; null where the panel has none.
 class ResultBoxes {
   public:

@@ -68,7 +68,7 @@ void frmIntDialog::Form_Load() {
     cmdOK.setEnabled(false);
     editor_.close();
     cmdCloseHelp_Click();
-    lblDemo.hide();
+    lblDemo.setVisible(demonstration_.inUse(*values_));
 
     cboSelStanice.clear();
     for (const std::string& station : values_->StaniceNazev) {
@@ -116,8 +116,10 @@ void frmIntDialog::cboSelPeriod_Click() {
     values_->VybranaPeriodicita = cboSelPeriod.text();
     const int position = cboSelPeriod.position();
     if (cboSelStanice.position() >= 1 && position < data::kPeriodicityCount) {
+        demonstration_.tableTaken(*values_);
         values_->IntenzitaDeste = values_->IntenzitaStanice[static_cast<std::size_t>(position)];
     }
+    lblDemo.setVisible(lblDemo.visible() || demonstration_.inUse(*values_));
     buildGrid();
     cmdOK.setEnabled(true);
 }
@@ -143,17 +145,21 @@ void frmIntDialog::txtSChange_Change() {
     const platform::GridCell cell = editor_.cell();
     const float value = numbers::toSingle(numbers::leadingNumber(txtSChange.text()));
     if (cell.column == kDurationColumn) {
+        demonstration_.durationTyped(*values_);
         values_->DobaTrvani[row0(cell.row)] = value;
         fgIntDeste.setText(cell, numbers::fixed(value, 0));
     } else if (cell.column == kIntensityColumn) {
+        demonstration_.intensityTyped(*values_, row0(cell.row));
         values_->IntenzitaDeste[row0(cell.row)] = value;
+        lblDemo.setVisible(demonstration_.inUse(*values_));
         fgIntDeste.setText(cell, numbers::fixed(value, 1));
     }
 }
 
 void frmIntDialog::ReadStationTable(std::int16_t station_number, const std::string& database_path) {
     const data::StationTable table = database_->read(station_number, database_path);
-    lblDemo.setVisible(table.demonstration);
+    demonstration_.stationRead(table.demonstration);
+    lblDemo.setVisible(table.demonstration || demonstration_.inUse(*values_));
     design::readStation(table, values_->IntenzitaStanice, values_->DobaStanice);
 }
 
@@ -187,6 +193,10 @@ std::array<calc::Rain, calc::kRainRows> frmIntDialog::rains() const {
 
 calc::Rain frmIntDialog::pickedRain() const {
     return {values_->VybranaDoba, values_->VybranaIntenzita};
+}
+
+std::string frmIntDialog::demonstrationNote() const {
+    return demonstration_.inUse(*values_) ? lblDemo.text() : "";
 }
 
 void frmIntDialog::cmdEdit_Click() {

@@ -12,6 +12,7 @@
 #include "data/mod_public_variables.h"
 #include "data/rain_database.h"
 #include "forms/dialogs/cell_editor.h"
+#include "forms/dialogs/demonstration_use.h"
 #include "forms/dialogs/dialog.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/drop_list.h"
@@ -40,7 +41,8 @@ class frmIntDialog : public Dialog {
     platform::Button cmdEdit{*this, "cmdEdit", "?"};
     platform::TextBox txtHelp;
     platform::Button cmdCloseHelp{*this, "cmdCloseHelp", "Zavřít"};
-    /// Shown while the station's values come from a database that is marked as a demonstration.
+    /// Shown while the station's values, or any rain in use, come from a database that is marked as a
+    /// demonstration.
     platform::Label lblDemo;
 
     void cboSelStanice_Click();
@@ -54,6 +56,8 @@ class frmIntDialog : public Dialog {
     /// The nine rows of the table and the picked row, for a picture of them.
     [[nodiscard]] std::array<calc::Rain, calc::kRainRows> rains() const;
     [[nodiscard]] calc::Rain pickedRain() const;
+    /// The note of the demonstration database while any rain in use comes from one, else "".
+    [[nodiscard]] std::string demonstrationNote() const;
 
   protected:
     void Form_Load() override;
@@ -68,6 +72,7 @@ class frmIntDialog : public Dialog {
     data::modPublicVariables* values_;
     data::RainDatabase* database_;
     Target target_;
+    DemonstrationUse demonstration_;
     CellEditor editor_{fgIntDeste, txtSChange};
 };
 

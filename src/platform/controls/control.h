@@ -4,8 +4,8 @@
 #pragma once
 
 #include <functional>
+#include <list>
 #include <string>
-#include <vector>
 
 namespace mero::platform {
 
@@ -74,7 +74,8 @@ class Control {
     Control* container_;
     bool enabled_ = true;
     bool visible_ = true;
-    std::vector<Observer> observers_;
+    /// An observer may add others while it runs, as a page that is built when its tab is chosen does.
+    std::list<Observer> observers_;
 };
 
 }  // namespace mero::platform

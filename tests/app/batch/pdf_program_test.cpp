@@ -23,6 +23,12 @@ TEST_F(PdfProgram, IsGivenDocumentAndTarget) {
     EXPECT_EQ(folder.read("a b.pdf"), "/složka/Mero_dům č. 1");
 }
 
+TEST_F(PdfProgram, IsGivenTheNoteOfThePages) {
+    EXPECT_EQ(makePdfBy(MERO_PDF_PROGRAM_STUB, "x", folder.file("y"), kPdfTimeLimit, "ukázkové hodnoty"),
+              PdfResult::Made);
+    EXPECT_EQ(folder.read("y"), "x, ukázkové hodnoty");
+}
+
 TEST_F(PdfProgram, ThatFailsOrCrashesMakesNone) {
     EXPECT_EQ(make("unreadable"), PdfResult::Failed);
     EXPECT_EQ(make("crash"), PdfResult::Failed);

@@ -96,6 +96,16 @@ TEST_F(PdfFile, TheSecondPageCarriesTheProjectsNameAndAllResults) {
     }
 }
 
+TEST_F(PdfFile, HasTheNoteAtTheFootOfItsPagesOnlyWhenThereIsOne) {
+    ASSERT_EQ(make(1, pdf), PdfResult::Made);
+    EXPECT_THAT(told("pdftotext", {"-layout", pdf_path, "-"}), Not(HasSubstr("jsou ukázkové")));
+    ASSERT_EQ(
+        makePdfFile(folder.file("Mero_Test"), pdf, report::viewHtml, "Hodnoty databáze dešťů jsou ukázkové."),
+        PdfResult::Made);
+    EXPECT_THAT(told("pdftotext", {"-layout", pdf_path, "-"}),
+                HasSubstr("Hodnoty databáze dešťů jsou ukázkové."));
+}
+
 TEST_F(PdfFile, IsA4WithItsFontsInside) {
     ASSERT_EQ(make(2, pdf), PdfResult::Made);
     EXPECT_THAT(told("pdfinfo", {pdf_path}), HasSubstr("(A4)"));

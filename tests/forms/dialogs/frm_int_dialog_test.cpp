@@ -369,6 +369,31 @@ TEST_F(RainDialogTest, TheDemonstrationNoteFollowsTheDatabase) {
     EXPECT_FALSE(d.lblDemo.visible());
 }
 
+TEST_F(RainDialogTest, TheDemonstrationNoteStaysWhileAnyRainInUseIsOne) {
+    p.rain.tables[84].demonstration = true;
+    p.select(d.cboSelStanice, kBrno);
+    EXPECT_EQ(d.demonstrationNote(), "") << "read, but not in use before a periodicity is chosen";
+    p.select(d.cboSelPeriod, 4);
+    p.cell(d.fgIntDeste, 2, 2);
+    EXPECT_NE(d.demonstrationNote(), "");
+
+    for (int row = 1; row <= data::kDurationCount; ++row) {
+        EXPECT_TRUE(d.lblDemo.visible()) << "row " << row << " is still a demonstration value";
+        p.cell(d.fgIntDeste, row, 1);
+        p.paste(d.txtSChange, "100");
+    }
+    EXPECT_TRUE(d.lblDemo.visible()) << "the picked rain is";
+    p.close(d);
+    p.click(p.window().cmdEdit[0]);
+    EXPECT_TRUE(d.lblDemo.visible()) << "also when the dialog opens again with own values";
+
+    p.cell(d.fgIntDeste, 3, 2);
+    EXPECT_EQ(d.demonstrationNote(), "") << "all rains are own ones now";
+    p.close(d);
+    p.click(p.window().cmdEdit[0]);
+    EXPECT_FALSE(d.lblDemo.visible());
+}
+
 TEST_F(RainDialogTest, HelpIsShownAndHidden) {
     EXPECT_EQ(d.txtHelp.text(),
               "Nápověda:\r\nU plošného vsakování (vsakování \r\nbez akumulace) volte dobu trvání \r\n"

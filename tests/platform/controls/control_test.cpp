@@ -85,6 +85,28 @@ TEST_F(ControlTest, EveryChangeReachesTheObservers) {
     EXPECT_EQ(panel.top(), 3000);
 }
 
+TEST_F(ControlTest, AnObserverMayAddOthersWhileItRuns) {
+    constexpr int kMany = 100;
+    int told = 0;
+    bool added = false;
+    const std::string kept = "a text that is too long to stand inside of the function object";
+    std::string seen;
+    panel.observe([&, kept](Aspect) {
+        if (!added) {
+            added = true;
+            for (int i = 0; i < kMany; ++i) {
+                panel.observe([&told](Aspect) { ++told; });
+            }
+        }
+        seen = kept;
+    });
+    panel.hide();
+    EXPECT_EQ(seen, kept);
+    told = 0;
+    panel.show();
+    EXPECT_EQ(told, kMany);
+}
+
 TEST_F(ControlTest, ButtonsLabelsAndArrowsRunTheirHandlers) {
     std::vector<std::string> runs;
     Button button{form, "cmd", "OK"};

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "forms/calc/layout/judgement_pane.h"
 #include "qt/buttons.h"
 
 namespace mero::forms {
@@ -17,11 +18,12 @@ void buildTechnologyPage(qt::WidgetKit& kit, frmCalcControls& form, const qt::Do
     column->addWidget(&view);
 }
 
-void buildResultsPage(qt::WidgetKit& kit, frmCalcControls& form, const qt::DocumentServices& services,
+void buildResultsPage(qt::WidgetKit& kit, frmCalc& form, const qt::DocumentServices& services,
                       QWidget& page) {
     auto* column = new QVBoxLayout(&page);
     QTextBrowser& view = qt::makeDocumentView(kit, form.wbShowResults, services, page);
     qt::describe(view, QString::fromStdString(form.SSTab1.captions()[kTabResults]));
+    addReportState(kit, form, page, *column, view);
     column->addWidget(&view, 1);
     auto* row = new QHBoxLayout;
     row->addStretch(1);

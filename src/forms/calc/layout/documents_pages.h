@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-#include "forms/calc/frm_calc_controls.h"
+#include "forms/calc/frm_calc.h"
 #include "qt/document_view.h"
 #include "qt/widget_kit.h"
 
@@ -12,7 +12,6 @@ namespace mero::forms {
 
 void buildTechnologyPage(qt::WidgetKit& kit, frmCalcControls& form, const qt::DocumentServices& services,
                          QWidget& page);
-void buildResultsPage(qt::WidgetKit& kit, frmCalcControls& form, const qt::DocumentServices& services,
-                      QWidget& page);
+void buildResultsPage(qt::WidgetKit& kit, frmCalc& form, const qt::DocumentServices& services, QWidget& page);
 
 }  // namespace mero::forms

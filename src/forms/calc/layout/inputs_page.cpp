@@ -8,6 +8,8 @@
 #include "design/input.h"
 #include "design/quantity.h"
 #include "design/text_input.h"
+#include "forms/calc/layout/field_remarks.h"
+#include "forms/calc/layout/field_tips.h"
 #include "forms/calc/layout/guided_choice.h"
 #include "forms/calc/layout/selection_guide.h"
 #include "qt/buttons.h"
@@ -100,6 +102,8 @@ void buildInputsPage(qt::WidgetKit& kit, frmCalc& form, QWidget& page) {
     time.setAccessibleDescription(QStringLiteral("Aktuální čas"));
     foot->addWidget(&time);
     column->addLayout(foot);
+    showSiteRemarks(kit, form, content);
+    giveSiteTips(kit, form);
 }
 
 }  // namespace mero::forms

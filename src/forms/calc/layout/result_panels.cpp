@@ -9,6 +9,9 @@
 
 #include "design/input.h"
 #include "design/quantity.h"
+#include "forms/calc/layout/field_remarks.h"
+#include "forms/calc/layout/field_tips.h"
+#include "forms/calc/layout/judgement_pane.h"
 #include "forms/calc/layout/panel_columns.h"
 #include "forms/calc/layout/picture_pane.h"
 #include "forms/calc/layout/result_rows.h"
@@ -109,6 +112,7 @@ class InputRows {
         QPushButton& edit = qt::makeButton(*kit_, form_->cmdEdit[type_], row);
         row.layout()->addWidget(&edit);
         fields_->line(row);
+        fields_->note(form_->chkSelPretok[type_]);
         const QString heading = QString::fromStdString(form_->chkSelPretok[type_].text());
         edit.setAccessibleName(edit.text() + QLatin1String(": ") + heading);
 
@@ -208,6 +212,10 @@ void buildResultPanel(qt::WidgetKit& kit, frmCalc& form, FacilityType type, QWid
     inputs.line(calculate);
     inputs.end();
     results.end();
+    // The Tab key comes to them after inputs and results, which are built before.
+    addResultState(kit, form, type, results_side, *results_column, results_box);
+    showPanelRemarks(kit, form, type, inputs_box);
+    givePanelTips(kit, form, type);
 }
 
 }  // namespace mero::forms

@@ -5,11 +5,13 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "design/input_guide.h"
 #include "design/quantity.h"
 #include "forms/dialogs/layout/dialog_windows.h"
 #include "platform/numbers/number_text.h"
 #include "qt/buttons.h"
 #include "qt/cell_editor_box.h"
+#include "qt/field_note.h"
 #include "qt/grid_clipboard.h"
 #include "qt/look.h"
 #include "qt/text_fields.h"
@@ -69,6 +71,31 @@ void enter(QWidget& field, const QString& text) {
     line.insert(text);
 }
 
+/// A number too large for any type is high, too; no error may leave an observer.
+bool isHighRunoff(const std::string& text) {
+    try {
+        return numbers::leadingNumber(text) > design::kMostRunoff;
+    } catch (const RuntimeError&) {
+        return true;
+    }
+}
+
+/// Remarks a coefficient that is larger than any surface has.
+QLabel& makeRunoffNote(frmDialog& form, QWidget& parent) {
+    QLabel& note = qt::makeFieldNote(form.txtSoucinitel, parent);
+    const auto tell = [&form, &note] {
+        const bool high = isHighRunoff(form.txtSoucinitel.text());
+        qt::tellInNote(note, high ? QStringLiteral("Součinitel odtoku je větší než 1.") : QString(), true);
+    };
+    qt::follow(form.txtSoucinitel, note, [tell](platform::Aspect aspect) {
+        if (aspect == platform::Aspect::Text) {
+            tell();
+        }
+    });
+    tell();
+    return note;
+}
+
 }  // namespace
 
 void AreaWindow::build(QWidget& content) {
@@ -81,6 +108,7 @@ void AreaWindow::build(QWidget& content) {
     surfaces.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     column->addWidget(&surfaces, 1);
     column->addWidget(&buildEntry(content));
+    column->addWidget(&makeRunoffNote(*form_, content));
     column->addWidget(&buildEntries(content));
     column->addWidget(&buildFoot(content));
 }

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "design/input.h"
+#include "design/input_guide.h"
 #include "design/quantity.h"
 #include "forms/dialogs/layout/dialog_windows.h"
 #include "forms/dialogs/layout/rain_curve_view.h"
@@ -14,6 +15,7 @@
 #include "qt/field_grid.h"
 #include "qt/look.h"
 #include "qt/text_fields.h"
+#include "qt/texts.h"
 
 namespace mero::forms {
 namespace {
@@ -40,9 +42,12 @@ QWidget& RainWindow::buildTable(QWidget& parent) {
     auto& choice = *new QWidget(&side);
     qt::FieldGrid fields(kit(), choice);
     choice.layout()->setContentsMargins(0, 0, 0, 0);
-    fields.widget(QStringLiteral("Stanice"), qt::makeDropList(kit(), form_->cboSelStanice, choice));
+    QComboBox& station = qt::makeDropList(kit(), form_->cboSelStanice, choice);
+    station.setToolTip(qt::shown(design::explanation({design::Input::Station})));
+    fields.widget(QStringLiteral("Stanice"), station);
     QComboBox& periodicity = qt::makeDropList(kit(), form_->cboSelPeriod, choice);
     periodicity.setMinimumContentsLength(8);
+    periodicity.setToolTip(qt::shown(design::explanation({design::Input::Periodicity})));
     QPushButton& help = qt::makeButton(kit(), form_->cmdEdit, choice);
     help.setAccessibleName(QStringLiteral("Nápověda"));
     help.setFixedWidth(help.sizeHint().height() * 5 / 4);
