@@ -227,7 +227,11 @@ void NumberLine::removeText(qsizetype from, qsizetype to) {
 void NumberLine::change(const FieldText& after) {
     const QString before = text();
     const QString wanted = shown(after.whole());
+    const auto cursor = static_cast<qsizetype>(after.left.size());
     if (wanted == before) {
+        // The same text over the selected one ends the selection, so that the next key does not replace it.
+        deselect();
+        setCursorPosition(static_cast<int>(cursor));
         return;
     }
     // Only what differs is replaced, so that keys typed one after the other are undone together.
@@ -238,7 +242,6 @@ void NumberLine::change(const FieldText& after) {
         }
         return length;
     };
-    const auto cursor = static_cast<qsizetype>(after.left.size());
     const qsizetype shorter = std::min(before.size(), wanted.size());
     const qsizetype head = common(before.constData(), wanted.constData(), std::min(shorter, cursor));
     const qsizetype tail =

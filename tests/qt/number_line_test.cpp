@@ -11,6 +11,8 @@
 #include <QMimeData>
 #include <QTest>
 #include <QTimer>
+#include <array>
+#include <random>
 #include <vector>
 
 #include "qt/balloon.h"
@@ -75,6 +77,37 @@ TEST_F(NumberFieldTest, TheKeypadsDecimalKeyIsAPointWhateverItTypes) {
     QTest::keyClick(&line, ',', Qt::KeypadModifier);
     QTest::keyClicks(&line, "5");
     EXPECT_EQ(box.text(), "1.5");
+}
+
+TEST_F(NumberFieldTest, ADigitOverTheSameSelectedDigitEndsTheSelection) {
+    QTest::keyClicks(&line, "1");
+    line.selectAll();
+    QTest::keyClicks(&line, "1,5");
+    EXPECT_EQ(box.text(), "1.5");
+}
+
+TEST_F(NumberFieldTest, DigitsAndEditingKeysDoWhatTheyDoInAnyField) {
+    QLineEdit& plain = window.put(*new QLineEdit(&window));
+    constexpr std::array kKeys{Qt::Key_1,    Qt::Key_1,   Qt::Key_2,    Qt::Key_Backspace, Qt::Key_Delete,
+                               Qt::Key_Home, Qt::Key_End, Qt::Key_Left, Qt::Key_Right};
+    std::mt19937 random(20261121);
+    for (int step = 0; step < 3000; ++step) {
+        const Qt::Key key = kKeys.at(random() % kKeys.size());
+        const bool moves =
+            key == Qt::Key_Home || key == Qt::Key_End || key == Qt::Key_Left || key == Qt::Key_Right;
+        const bool selects = moves && random() % 3 == 0;
+        const auto modifiers = selects ? Qt::ShiftModifier : Qt::NoModifier;
+        for (QLineEdit* field : {static_cast<QLineEdit*>(&line), &plain}) {
+            QTest::keyClick(field, key, modifiers);
+        }
+        ASSERT_EQ(line.text().toStdString(), plain.text().toStdString()) << step;
+        ASSERT_EQ(line.cursorPosition(), plain.cursorPosition()) << step << ' ' << qPrintable(plain.text());
+        ASSERT_EQ(line.selectedText(), plain.selectedText()) << step << ' ' << qPrintable(plain.text());
+        if (plain.text().size() > 30) {  // longer ones are more than a Single holds
+            line.clear();
+            plain.clear();
+        }
+    }
 }
 
 TEST_F(NumberFieldTest, BlanksThatGroupDigitsAreNotTyped) {
