@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// mero-jet-dump FILE...: prints the tables of rain databases, to be compared with what other readers find.
 /// Numbers are printed as their bits, texts as their bytes, dates as whole seconds.
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdio>
@@ -72,7 +73,9 @@ void print(const char* path) {
     std::cout << "file " << path << '\n';
     try {
         const jet::Database database({reinterpret_cast<const std::uint8_t*>(content.data()), content.size()});
-        for (const jet::CatalogueEntry& entry : database.catalogue().tables()) {
+        auto tables = database.catalogue().tables();
+        std::ranges::sort(tables, {}, &jet::CatalogueEntry::name);
+        for (const jet::CatalogueEntry& entry : tables) {
             if (!entry.name.starts_with("MSys")) {
                 print(database, entry);
             }

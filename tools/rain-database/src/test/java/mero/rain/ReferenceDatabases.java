@@ -25,6 +25,7 @@ import java.util.ArrayList;
 import java.util.List;
 import java.util.Random;
 import java.util.Set;
+import java.util.TreeSet;
 
 /**
  * Writes random databases and, beside each, what Jackcess reads back from it: all types of columns, tables without
@@ -175,7 +176,7 @@ public final class ReferenceDatabases {
                 PrintStream out = new PrintStream(Files.newOutputStream(target), false, StandardCharsets.UTF_8)) {
             database.setDateTimeType(DateTimeType.LOCAL_DATE_TIME);
             out.print("file " + file + "\n");
-            Set<String> names = database.getTableNames();
+            Set<String> names = new TreeSet<>(database.getTableNames());
             for (String name : names) {
                 dump(database.getTable(name), out);
             }
