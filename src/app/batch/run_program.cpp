@@ -104,6 +104,7 @@ class Attributes {
 
 std::optional<pid_t> start(std::vector<std::string>& command) {
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (std::string& argument : command) {
         arguments.push_back(argument.data());
     }
