@@ -7,13 +7,29 @@
 #include <utility>
 
 namespace mero::picture {
+namespace {
+
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+/// Where the first word of the text ends. A number stays together with its unit and its groups of digits.
+std::size_t endOfWord(std::string_view text) {
+    std::size_t blank = text.find(' ');
+    while (blank != std::string_view::npos && blank > 0 && isDigit(text[blank - 1])) {
+        blank = text.find(' ', blank + 1);
+    }
+    return std::min(blank, text.size());
+}
+
+}  // namespace
 
 std::vector<std::string> brokenLines(std::string_view text, double width, const TextSizes& sizes,
                                      Emphasis emphasis) {
     std::vector<std::string> lines;
     std::string line;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find(' '), text.size());
+        const std::size_t end = endOfWord(text);
         const std::string word(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
         std::string longer = line;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Breaks texts into lines and centres them.
-/// Lines break at blanks only.
+/// Lines break at blanks only, and not behind a number.
 #pragma once
 
 #include <string>

@@ -4,6 +4,7 @@
 #include "qt/field_grid.h"
 
 #include <QRadioButton>
+#include <QScreen>
 
 #include "qt/field_note.h"
 #include "qt/look.h"
@@ -17,16 +18,22 @@ enum Column { kCaption, kField, kUnit, kBeside, kRest };
 /// Room for a number of a result's larger font, too.
 constexpr int kNumberCharacters = 15;
 constexpr int kLongestCaptionLine = 36;
+/// On a screen narrower than this [characters] captions have shorter lines, so that one need not scroll
+/// sideways.
+constexpr int kNarrowScreen = 90;
+constexpr int kLongestNarrowLine = 34;
 constexpr int kLeastAreaLines = 3;
 /// A text area takes the free space before the empty end of the grid does.
 constexpr int kAreaStretch = 1000;
 
 /// The text in lines of about equal length, none longer than a caption may be, except for a longer word.
-QString broken(const QString& text) {
-    if (text.length() <= kLongestCaptionLine) {
+QString broken(const QString& text, const QWidget& widget) {
+    const bool narrow = widget.screen()->availableGeometry().width() < textWidth(widget, kNarrowScreen);
+    const int longest = narrow ? kLongestNarrowLine : kLongestCaptionLine;
+    if (text.length() <= longest) {
         return text;
     }
-    const auto lines = text.length() / kLongestCaptionLine + 1;
+    const auto lines = text.length() / longest + 1;
     const auto line_length = text.length() / lines;
     QString result;
     qsizetype length = 0;
@@ -63,7 +70,7 @@ FieldGrid::FieldGrid(WidgetKit& kit, QWidget& parent)
 }
 
 int FieldGrid::captionWidth(const QWidget& widget, const QString& caption) {
-    return widget.fontMetrics().size(Qt::TextShowMnemonic, broken(caption)).width();
+    return widget.fontMetrics().size(Qt::TextShowMnemonic, broken(caption, widget)).width();
 }
 
 void FieldGrid::align(const FieldColumns& least) {
@@ -80,7 +87,7 @@ void FieldGrid::section(const QString& title) {
 }
 
 QLabel& FieldGrid::caption(const QString& text) {
-    auto& label = *new QLabel(broken(text), parent_);
+    auto& label = *new QLabel(broken(text, *parent_), parent_);
     label.setTextFormat(Qt::PlainText);
     grid_->addWidget(&label, row_, kCaption, Qt::AlignLeft | Qt::AlignVCenter);
     return label;

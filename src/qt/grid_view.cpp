@@ -21,6 +21,10 @@
 namespace mero::qt {
 namespace {
 
+/// At fractional scales a dialog may get a pixel or two less than it asks for; no scroll bar should come of
+/// it.
+constexpr int kLostByRounding = 2;
+
 using platform::Aspect;
 using platform::GridCell;
 
@@ -200,7 +204,7 @@ int GridView::rowsHeight(int available, int rows) const {
 QSize GridView::sizeHint() const {
     const int wanted = textWidth(*this, room_.characters);
     const int given = isVisible() ? width() : wanted;
-    return {wanted, horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
+    return {wanted, horizontalHeader()->sizeHint().height() + 2 * frameWidth() + kLostByRounding +
                         rowsHeight(given - 2 * frameWidth(), room_.rows)};
 }
 

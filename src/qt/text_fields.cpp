@@ -13,6 +13,16 @@
 namespace mero::qt {
 namespace {
 
+/// A text area that asks for no more height than it needs: a page with wrapped notes is as high as all of it
+/// asks for, and would scroll for lines that nobody has written. It still takes what height is left.
+class TextArea : public QPlainTextEdit {
+  public:
+    using QPlainTextEdit::QPlainTextEdit;
+    [[nodiscard]] QSize sizeHint() const override {
+        return {QPlainTextEdit::sizeHint().width(), minimumSizeHint().height()};
+    }
+};
+
 using platform::Aspect;
 using platform::Key;
 using platform::TextBox;
@@ -115,7 +125,7 @@ NumberLine& makeNumberLine(WidgetKit& kit, TextBox& box, QWidget& parent, std::o
 }
 
 QPlainTextEdit& makeTextArea(WidgetKit& kit, TextBox& box, QWidget& parent) {
-    auto& area = *new QPlainTextEdit(withPlainBreaks(box.text()), &parent);
+    auto& area = *new TextArea(withPlainBreaks(box.text()), &parent);
     area.setTabChangesFocus(true);
     area.setFocusPolicy(Qt::StrongFocus);
     bindBox(kit, box, area);

@@ -19,6 +19,12 @@ TEST(TextLines, BreakBetweenWords) {
     EXPECT_THAT(brokenLines("", 91, plainSizes()), IsEmpty());
 }
 
+TEST(TextLines, ANumberStaysWithItsUnitAndItsGroups) {
+    // 14 characters of 7 would fit "strana 1 013.0".
+    EXPECT_THAT(brokenLines("strana 1 013.0 m", 98, plainSizes()), ElementsAre("strana", "1 013.0 m"));
+    EXPECT_THAT(brokenLines("déšť 15 min trval", 84, plainSizes()), ElementsAre("déšť 15 min", "trval"));
+}
+
 TEST(TextLines, AWordThatIsTooWideMakesTheTextUnusable) {
     EXPECT_THAT(brokenLines("dvě jednadvacet", 70, plainSizes()), IsEmpty());
 }

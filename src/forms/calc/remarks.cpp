@@ -36,10 +36,17 @@ std::string withUnit(float value, Input input) {
     return general(value) + (unit.empty() || unit.find(':') != std::string::npos ? "" : " " + unit);
 }
 
+/// "1e-7", as the guide writes its usual values; the general text of a number is "1E-07".
+std::string limit(float value) {
+    std::string text = general(value);
+    const std::size_t exponent = text.find("E-0");
+    return exponent == std::string::npos ? text : text.replace(exponent, 3, "e-");
+}
+
 std::string plausibleRange(Input input) {
     const design::InputGuide& row = design::guide(input);
     const std::string usual = row.usual;
-    return "Neobvyklá hodnota: čeká se " + general(row.least) + " až " + general(row.most) +
+    return "Neobvyklá hodnota: čeká se " + limit(row.least) + " až " + limit(row.most) +
            (usual.empty() ? "." : ", obvykle " + usual + ".");
 }
 

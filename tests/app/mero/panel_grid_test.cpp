@@ -2,6 +2,7 @@
 /// The six panels stand on one grid, and the frames of the design tab are in line.
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTableView>
 #include <set>
@@ -86,6 +87,30 @@ TEST_F(PanelGrid, TheFramesEndInLineInAVeryWideWindow) {
     const int right = place("Výběr typu vsakování").right();
     EXPECT_EQ(place("Výsledky").right(), right);
     EXPECT_EQ(place("Řez a bilance dešťů").right(), right);
+}
+
+TEST_F(PanelGrid, NothingScrollsOnASmallScreen) {
+    // A screen of 1024 x 768 less the frame of the window.
+    window.resize(1020, 728);
+    const auto scrolls = [this] {
+        QApplication::processEvents();
+        for (const auto* area : window.findChildren<QScrollArea*>()) {
+            if (area->isVisible() && area->window() == &window &&
+                (area->verticalScrollBar()->maximum() > 0 || area->horizontalScrollBar()->maximum() > 0)) {
+                return true;
+            }
+        }
+        return false;
+    };
+    for (int type = 1; type <= 6; ++type) {
+        choose(type);
+        if (type >= 3 && type <= 4) {
+            run("click cmdCalcul(" + std::to_string(type) + ")");
+        }
+        EXPECT_FALSE(scrolls()) << "type " << type << " with its list of judgements and its pictures";
+    }
+    run("tab 0");
+    EXPECT_FALSE(scrolls()) << "the first tab with its remarks";
 }
 
 TEST_F(PanelGrid, TheAreasDialogShowsAllSurfacesWhereTheScreenHasRoom) {

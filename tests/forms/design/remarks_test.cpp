@@ -42,7 +42,7 @@ TEST_F(RemarksTest, CoefficientsBeyondTheirLimitsAreRemarked) {
     EXPECT_EQ(onFirstTab(window.txtSoucFiltrace), "") << "the limit itself is plausible";
     project.set(window.txtSoucFiltrace, "0.02");
     EXPECT_EQ(onFirstTab(window.txtSoucFiltrace),
-              "Neobvyklá hodnota: čeká se 1E-07 až 0.01, obvykle 1e-6 až 1e-3.");
+              "Neobvyklá hodnota: čeká se 1e-7 až 0.01, obvykle 1e-6 až 1e-3.");
     project.set(window.txtSoucFiltrace, "1e-7");
     EXPECT_EQ(onFirstTab(window.txtSoucFiltrace), "");
     project.set(window.txtSoucFiltrace, "9e-8");

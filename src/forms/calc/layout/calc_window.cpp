@@ -25,7 +25,7 @@ namespace {
 
 /// The size that the window asks for, where the screen has room for it.
 constexpr int kWidthCharacters = 166;
-constexpr int kHeightLines = 48;
+constexpr int kHeightLines = 52;
 
 /// True for the guards that refuse to go on before the first tab is filled in.
 bool asksForSite(design::VerdictId id) {

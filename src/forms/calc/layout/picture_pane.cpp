@@ -22,10 +22,12 @@ constexpr int kNarrowPair = 90;
 constexpr int kHighPair = 28;
 /// Beside each other they do not fit into less [characters].
 constexpr int kLeastPair = 62;
-constexpr QSize kSectionRoom{44, 13};
-constexpr QSize kLeastSection{30, 8};
-constexpr QSize kChartRoom{36, 10};
-constexpr QSize kLeastChart{26, 7};
+/// The pane takes the height that its panel leaves. A panel with wrapped notes asks for preferred heights, so
+/// what the pictures would like is no more than what they need; otherwise small screens scroll.
+constexpr QSize kSectionRoom{44, 10};
+constexpr QSize kLeastSection{30, 10};
+constexpr QSize kChartRoom{36, 9};
+constexpr QSize kLeastChart{26, 9};
 
 class PicturePane : public QGroupBox {
   public:

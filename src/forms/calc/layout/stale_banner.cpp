@@ -14,7 +14,8 @@
 namespace mero::forms {
 namespace {
 
-constexpr float kFadedOpacity = 0.45F;
+/// Clearly greyed, and still legible: texts keep a contrast of some 4 : 1 on light and dark desktops.
+constexpr float kFadedOpacity = 0.55F;
 constexpr double kTint = 0.16;
 constexpr QRgb kAmber = 0xffe08a00;
 
