@@ -170,6 +170,21 @@ TEST_F(Person, MovesPastTypesThatCannotBeChosenYetWithoutAMessage) {
     EXPECT_EQ(program.window().SelectedType, data::FacilityType::Trench);
 }
 
+TEST_F(Person, CannotChooseATypePastTheGuardWhenATabGivesTheListItsFocusBack) {
+    run({"click cmdEdit(1)", "set frmDialog.txtSoucinitel 1", "set frmDialog.txtPlocha 1000",
+         "click frmDialog.cmdZapsat", "click frmDialog.OKButton"});
+    program.window().SSTab1.userSelect(1);
+    QTest::mouseClick(&widget<QRadioButton>("optSelType(0)"), Qt::LeftButton, {}, {8, 8});
+    auto& types = widget<QComboBox>("cboSelType");
+    types.setFocus(Qt::OtherFocusReason);
+    trace.str("");
+    QTest::keyClick(&types, Qt::Key_Down);
+    QTest::keyClick(&types, Qt::Key_Return);
+    EXPECT_THAT(trace.str(), testing::HasSubstr("Zadejte součinitel filtrace podloží"));
+    EXPECT_EQ(program.window().SelectedType, data::FacilityType::None) << "nothing is calculated with kf = 0";
+    EXPECT_EQ(window.focusWidget(), kit.find(program.window().txtSoucFiltrace));
+}
+
 TEST_F(Person, FindsTheFieldAgainAfterADialog) {
     auto& button = widget<QPushButton>("cmdEdit(2)");
     button.setFocus();
