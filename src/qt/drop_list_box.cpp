@@ -145,16 +145,20 @@ QComboBox& makeMovingList(WidgetKit& kit, DropList& list, QWidget& parent) {
     const auto is_moved = [&list, &combo] {
         return combo.isEnabled() && combo.currentIndex() != list.position();
     };
-    // Nobody chooses past the guard on entering; where it leads away, the choice waits.
+    // Nobody chooses past the guard on entering. Its message leads to a field only after its box is closed.
     const auto choose_entered = [&kit, &list, &combo, enter](int position) {
-        if (kit.servesPerson() && !combo.entered()) {
-            kit.enter(enter);
-            if (!combo.isVisible()) {
-                showPosition(combo, list);
-                return;
-            }
+        if (!kit.servesPerson() || combo.entered()) {
+            choose(kit, list, combo, position);
+            return;
         }
-        choose(kit, list, combo, position);
+        // The list that the guard leaves must not take the entry.
+        showPosition(combo, list);
+        kit.enter(enter);
+        later(combo, [&kit, &list, &combo, position] {
+            if (combo.isVisible() && position < combo.count()) {
+                choose(kit, list, combo, position);
+            }
+        });
     };
     combo.take = [&combo, is_moved, choose_entered] {
         if (is_moved()) {
