@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <functional>
+#include <utility>
 
 #include "qt/field_keys.h"
 #include "qt/program_style.h"
@@ -37,6 +38,9 @@ class MovingList : public QComboBox {
 
     /// True while a key or the wheel moves in the closed list.
     [[nodiscard]] bool moves() const { return moves_; }
+    /// False while the focus came by code, as with a tab that gives it back to the list.
+    [[nodiscard]] bool entered() const { return entered_; }
+    void noteEntering() { entered_ = true; }
     /// Called with Enter and when the list is left.
     std::function<void()> take = [] {};
     /// Called with Escape; false when there is nothing to take back.
@@ -59,6 +63,7 @@ class MovingList : public QComboBox {
         QComboBox::focusOutEvent(event);
         if (countsAsLeaving(event->reason())) {
             take();
+            entered_ = false;
         }
     }
 
@@ -70,6 +75,7 @@ class MovingList : public QComboBox {
     }
 
     bool moves_ = false;
+    bool entered_ = false;
 };
 
 void showItems(QComboBox& combo, const DropList& list) {
@@ -95,7 +101,7 @@ void showPosition(QComboBox& combo, const DropList& list) {
 }
 
 /// Binds the list to its box, except for the person's choice.
-void bindList(WidgetKit& kit, DropList& list, QComboBox& combo) {
+void bindList(WidgetKit& kit, DropList& list, QComboBox& combo, std::function<void()> got) {
     auto* style = new ListStyle;
     style->setParent(&combo);
     combo.setStyle(style);
@@ -104,7 +110,7 @@ void bindList(WidgetKit& kit, DropList& list, QComboBox& combo) {
     keepWheelForFocus(combo);
     showItems(combo, list);
     bindCommon(kit, list, combo);
-    bindFocus(kit, combo, [&list] { list.userGotFocus(); }, {});
+    bindFocus(kit, combo, std::move(got), {});
     follow(list, combo, [&list, &combo](Aspect aspect) {
         if (aspect == Aspect::Items) {
             showItems(combo, list);
@@ -123,7 +129,7 @@ void choose(const WidgetKit& kit, DropList& list, QComboBox& combo, int position
 
 QComboBox& makeDropList(WidgetKit& kit, DropList& list, QWidget& parent) {
     auto& combo = *new QComboBox(&parent);
-    bindList(kit, list, combo);
+    bindList(kit, list, combo, [&list] { list.userGotFocus(); });
     QObject::connect(&combo, &QComboBox::activated, &combo,
                      [&kit, &list, &combo](int position) { choose(kit, list, combo, position); });
     return combo;
@@ -131,13 +137,32 @@ QComboBox& makeDropList(WidgetKit& kit, DropList& list, QWidget& parent) {
 
 QComboBox& makeMovingList(WidgetKit& kit, DropList& list, QWidget& parent) {
     auto& combo = *new MovingList(&parent);
-    bindList(kit, list, combo);
+    const auto enter = [&list, &combo] {
+        combo.noteEntering();
+        list.userGotFocus();
+    };
+    bindList(kit, list, combo, enter);
     const auto is_moved = [&list, &combo] {
         return combo.isEnabled() && combo.currentIndex() != list.position();
     };
-    combo.take = [&kit, &list, &combo, is_moved] {
+    // Nobody chooses past the guard on entering. Its message leads to a field only after its box is closed.
+    const auto choose_entered = [&kit, &list, &combo, enter](int position) {
+        if (!kit.servesPerson() || combo.entered()) {
+            choose(kit, list, combo, position);
+            return;
+        }
+        // The list that the guard leaves must not take the entry.
+        showPosition(combo, list);
+        kit.enter(enter);
+        later(combo, [&kit, &list, &combo, position] {
+            if (combo.isVisible() && position < combo.count()) {
+                choose(kit, list, combo, position);
+            }
+        });
+    };
+    combo.take = [&combo, is_moved, choose_entered] {
         if (is_moved()) {
-            choose(kit, list, combo, combo.currentIndex());
+            choose_entered(combo.currentIndex());
         }
     };
     combo.take_back = [&list, &combo, is_moved] {
@@ -145,9 +170,9 @@ QComboBox& makeMovingList(WidgetKit& kit, DropList& list, QWidget& parent) {
         showPosition(combo, list);
         return moved;
     };
-    QObject::connect(&combo, &QComboBox::activated, &combo, [&kit, &list, &combo](int position) {
+    QObject::connect(&combo, &QComboBox::activated, &combo, [&combo, choose_entered](int position) {
         if (!combo.moves()) {
-            choose(kit, list, combo, position);
+            choose_entered(position);
         }
     });
     return combo;

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcutEvent>
 #include <optional>
 
 namespace mero::qt {
@@ -84,6 +85,12 @@ class MnemonicFocus : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Shortcut) {
             button_->setFocus(Qt::ShortcutFocusReason);
+            auto* button = qobject_cast<QAbstractButton*>(button_);
+            if (button != nullptr && !dynamic_cast<QShortcutEvent&>(*event).isAmbiguous()) {
+                // At once: Qt's click comes later, below a box that leaving the field may open meanwhile.
+                button->click();
+                return true;
+            }
         }
         return QObject::eventFilter(watched, event);
     }

@@ -32,7 +32,8 @@ class MovedList : public testing::Test {
         list.clicked = [this] { chosen.push_back(list.position()); };
         window.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        combo.setFocus();
+        next.setFocus();
+        combo.setFocus(Qt::TabFocusReason);
     }
     void turnWheel() {
         QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
@@ -101,6 +102,23 @@ TEST_F(MovedList, ARefusedChoiceShowsWhatIsChosen) {
     };
     QTest::keyClick(&combo, Qt::Key_Down);
     QTest::keyClick(&combo, Qt::Key_Return);
+    EXPECT_EQ(combo.currentText(), "[Vyber]");
+}
+
+TEST_F(MovedList, AFocusThatCameByCodeIsGuardedBeforeTheChoice) {
+    int guards = 0;
+    list.got_focus = [this, &guards] {
+        ++guards;
+        combo.hide();
+    };
+    next.setFocus(Qt::TabFocusReason);
+    combo.setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(guards, 0);
+    QTest::keyClick(&combo, Qt::Key_Down);
+    QTest::keyClick(&combo, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(guards, 1);
+    EXPECT_THAT(chosen, IsEmpty()) << "the guard led away";
     EXPECT_EQ(combo.currentText(), "[Vyber]");
 }
 

@@ -66,6 +66,9 @@ class Collector {
         for (const design::Verdict& verdict : last_->verdicts) {
             addVerdict(verdict);
         }
+        if (last_->end == CalculationEnd::Running) {
+            return std::move(found_);
+        }
         if (last_->end == CalculationEnd::Refused || last_->end == CalculationEnd::Failed) {
             notJudged("Výpočet neproběhl celý, návrh není posouzen.");
             return std::move(found_);
@@ -136,6 +139,9 @@ class Collector {
 
     /// The numbers of verdicts whose texts have none.
     [[nodiscard]] std::string compared(VerdictId id) const {
+        if (last_->end == CalculationEnd::Running) {
+            return "";  // while a box of the calculation is open, the numbers are still those of the last one
+        }
         const DesignNumbers& at = numbers();
         switch (id) {
             case VerdictId::ShaftGroundwaterTooHigh:

@@ -64,6 +64,20 @@ TEST_F(FieldRemarks, ARunoffCoefficientAboveOneIsRemarkedInItsDialog) {
     EXPECT_TRUE(note.isVisible());
 }
 
+TEST_F(FieldRemarks, TheRemarkOfTheRunoffCoefficientMovesNothingInItsDialog) {
+    run("click cmdEdit(1)");
+    const auto& areas = program.window().areaDialog;
+    const auto place = [this, &areas] {
+        QApplication::processEvents();
+        const QWidget& button = *kit.find(areas.OKButton);
+        return QRect(button.mapTo(button.window(), QPoint()), button.size());
+    };
+    const QRect before = place();
+    run("set frmDialog.txtSoucinitel 2");
+    EXPECT_EQ(place(), before);
+    EXPECT_TRUE(kit.find(areas)->rect().contains(place()));
+}
+
 TEST_F(FieldRemarks, WaitWhileAPersonTypes) {
     auto& line = widget<QLineEdit>("txtSoucFiltrace");
     window.activateWindow();

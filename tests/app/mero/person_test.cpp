@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "app/mero/main_window.h"
+#include "design/messages.h"
 #include "qt/grid_view.h"
 
 namespace mero::app {
@@ -167,7 +168,33 @@ TEST_F(Person, MovesPastTypesThatCannotBeChosenYetWithoutAMessage) {
     EXPECT_EQ(trace.str(), "");
     EXPECT_EQ(program.window().SelectedType, data::FacilityType::None);
     QTest::keyClick(&types, Qt::Key_Return);
+    QApplication::processEvents();
     EXPECT_EQ(program.window().SelectedType, data::FacilityType::Trench);
+}
+
+TEST_F(Person, CannotChooseATypePastTheGuardWhenATabGivesTheListItsFocusBack) {
+    run({"click cmdEdit(1)", "set frmDialog.txtSoucinitel 1", "set frmDialog.txtPlocha 1000",
+         "click frmDialog.cmdZapsat", "click frmDialog.OKButton"});
+    run({"click cmdEdit(0)", "select frmIntDialog.cboSelStanice 1", "select frmIntDialog.cboSelPeriod 1",
+         "cell frmIntDialog.fgIntDeste 3 2", "click frmIntDialog.cmdOK"});
+    // The box is closed at once, which leads to the field.
+    auto& list = program.window().cboSelType;
+    list.got_focus = [this, guard = list.got_focus] {
+        guard();
+        window.returnToField(design::box(design::VerdictId::FiltrationMissing));
+    };
+    program.window().SSTab1.userSelect(1);
+    QTest::mouseClick(&widget<QRadioButton>("optSelType(0)"), Qt::LeftButton, {}, {8, 8});
+    auto& types = widget<QComboBox>("cboSelType");
+    types.setFocus(Qt::OtherFocusReason);
+    trace.str("");
+    QTest::keyClick(&types, Qt::Key_Down);
+    QTest::keyClick(&types, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_THAT(trace.str(), testing::HasSubstr("Zadejte součinitel filtrace podloží"));
+    EXPECT_EQ(program.window().SelectedType, data::FacilityType::None) << "nothing is calculated with kf = 0";
+    EXPECT_EQ(types.currentIndex(), 0);
+    EXPECT_EQ(window.focusWidget(), kit.find(program.window().txtSoucFiltrace));
 }
 
 TEST_F(Person, FindsTheFieldAgainAfterADialog) {

@@ -56,6 +56,17 @@ TEST_F(Judgements, ThereAreNoneBeforeTheCalculation) {
     EXPECT_EQ(countedRain(window, Trench), "");
 }
 
+// While a verdict's box is open, the result boxes show the new numbers, and the state is still the former
+// one.
+TEST_F(Judgements, AVerdictWhoseBoxIsStillOpenHasNoNumbersOfTheCalculationBefore) {
+    project.site("70", "1e-4");
+    tank("20");
+    ASSERT_THAT(lines(Tank), Contains(HasSubstr("Objem nádrže je dostačující. ( 200.00")));
+    window.record().begin(Tank);
+    window.record().tell(Tank, {design::VerdictId::TankVolumeSufficient, {}});
+    EXPECT_THAT(lines(Tank), ElementsAre("✓ Objem nádrže je dostačující."));
+}
+
 // Level 1.41 m (30 min, 100 l/(s.ha)); needed depth 1 + 1.41 + 2 = 4.41 m, bottom 1 + 1.41 + 0.5 = 2.91 m,
 // filter (1.2^2 + 2 * 1.41 * 1.2) / 1^2 * 1e-4 = 4.8e-4 m/s.
 TEST_F(Judgements, AShaftSaysWhatHoldsAndThatTheGroundwaterIsMissing) {

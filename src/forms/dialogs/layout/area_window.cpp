@@ -83,6 +83,11 @@ bool isHighRunoff(const std::string& text) {
 /// Remarks a coefficient that is larger than any surface has.
 QLabel& makeRunoffNote(frmDialog& form, QWidget& parent) {
     QLabel& note = qt::makeFieldNote(form.txtSoucinitel, parent);
+    // Its line is free from the start, so that the buttons below stay in view when it appears.
+    note.setWordWrap(false);
+    QSizePolicy policy = note.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    note.setSizePolicy(policy);
     const auto tell = [&form, &note] {
         const bool high = isHighRunoff(form.txtSoucinitel.text());
         qt::tellInNote(note, high ? QStringLiteral("Součinitel odtoku je větší než 1.") : QString(), true);
