@@ -51,6 +51,8 @@ std::optional<QString> askWhereToSave(QWidget* parent, const QString& suggested_
     QFileDialog dialog(parent, QStringLiteral("Uložit výsledky"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
+    // Without the columns of kinds and dates, which are in the language of the machine.
+    dialog.setViewMode(QFileDialog::List);
     dialog.setNameFilters({QString::fromUtf8(kHtmlFilter), QString::fromUtf8(kPdfFilter)});
     // In Czech also where the window system's own translation is not installed; so is the question about an
     // existing file.
