@@ -145,23 +145,27 @@ enum class GroundwaterVerdict { DeepEnough, TooHigh };
                                                                           : GroundwaterVerdict::DeepEnough;
 }
 
+/// What the bottom of a shaft stays above the required embedding depth [m].
+inline constexpr double kBottomClearance = 0.5;
+
 enum class BottomVerdict { FarEnough, TooClose };
 
 /// The bottom of the shaft must stay half a metre above the required embedding depth (not above the
 /// groundwater of the site); exactly half a metre is enough.
 [[nodiscard]] constexpr BottomVerdict judgeBottom(float depth_m, float required_embedding_m) {
-    constexpr double kClearance = 0.5;
-    return static_cast<double>(depth_m) + kClearance > static_cast<double>(required_embedding_m)
+    return static_cast<double>(depth_m) + kBottomClearance > static_cast<double>(required_embedding_m)
                ? BottomVerdict::TooClose
                : BottomVerdict::FarEnough;
 }
+
+/// The most permeable filter that can be built [m/s].
+inline constexpr float kMostPermeableFilter = 0.001F;
 
 enum class FilterVerdict { Sufficient, TooPermeable };
 
 /// A filter up to 10^-3 m/s (in Single precision, the limit included) can be built.
 [[nodiscard]] constexpr FilterVerdict judgeFilter(float required_permeability_m_s) {
-    constexpr float kLargestPermeability = 0.001F;
-    return required_permeability_m_s <= kLargestPermeability ? FilterVerdict::Sufficient
+    return required_permeability_m_s <= kMostPermeableFilter ? FilterVerdict::Sufficient
                                                              : FilterVerdict::TooPermeable;
 }
 

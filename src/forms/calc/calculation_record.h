@@ -16,11 +16,6 @@ namespace mero::forms {
 
 using data::FacilityType;
 
-/// Is the type calculated while its inputs change, without the calculate button?
-[[nodiscard]] constexpr bool calculatesLive(FacilityType type) {
-    return type == FacilityType::Surface || type == FacilityType::Swale;
-}
-
 /// Inputs and results at one moment: the stored numbers, the rain table, the options.
 struct CalculationState {
     data::DesignNumbers numbers;

@@ -3,6 +3,7 @@
 #include "forms/calc/judgements.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "calc/shaft.h"
@@ -145,14 +146,13 @@ class Collector {
         const DesignNumbers& at = numbers();
         switch (id) {
             case VerdictId::ShaftGroundwaterTooHigh:
-                return " ( " + metres(at.txtHPV) + " < " + metres(at.txtPotrHloubkaZahl) + " )";
+                return groundwaterLevels(" < ");
             case VerdictId::ShaftBottomTooClose:
-                return " ( " + fixed(at.txtHloubkaSachty, 2) + " + 0.5 > " + metres(at.txtPotrHloubkaZahl) +
-                       " )";
+                return bottomDepths(" > ");
             case VerdictId::ShaftFilterSufficient:
-                return " ( " + numbers::scientific(at.txtSoucFiltrPruleh, 1) + " ≤ 1.0E-03 m/s )";
+                return filters(" ≤ ");
             case VerdictId::ShaftFilterTooPermeable:
-                return " ( " + numbers::scientific(at.txtSoucFiltrPruleh, 1) + " > 1.0E-03 m/s )";
+                return filters(" > ");
             case VerdictId::TankVolumeSufficient:
                 return " ( " + fixed(at.txtVypObjNadrz, 2) + " ≥ " + fixed(at.txtObjAkum, 2) + " m³ )";
             case VerdictId::TankVolumeTooSmall:
@@ -164,6 +164,20 @@ class Collector {
             default:
                 return "";
         }
+    }
+
+    /// The level of the groundwater, whose sign does not count, and the one that the shaft requires.
+    [[nodiscard]] std::string groundwaterLevels(const std::string& sign) const {
+        return " ( " + metres(std::fabs(numbers().txtHPV)) + sign + metres(numbers().txtPotrHloubkaZahl) +
+               " )";
+    }
+    [[nodiscard]] std::string bottomDepths(const std::string& sign) const {
+        return " ( " + fixed(numbers().txtHloubkaSachty, 2) + " + " + general(calc::shaft::kBottomClearance) +
+               sign + metres(numbers().txtPotrHloubkaZahl) + " )";
+    }
+    [[nodiscard]] std::string filters(const std::string& sign) const {
+        return " ( " + numbers::scientific(numbers().txtSoucFiltrPruleh, 1) + sign +
+               numbers::scientific(calc::shaft::kMostPermeableFilter, 1) + " m/s )";
     }
 
     /// Mean and assumed infiltration flow, in l/s: in m3/s small ones would show as 0.
@@ -207,20 +221,16 @@ class Collector {
         }
     }
     void ofShaft() {
-        const DesignNumbers& at = numbers();
         const bool too_high = told(VerdictId::ShaftGroundwaterTooHigh);
         const bool too_close = told(VerdictId::ShaftBottomTooClose);
-        if (at.txtHPV != 0.0F && !too_high) {
-            holds("Hladina podzemní vody leží dost hluboko. ( " + metres(at.txtHPV) + " ≥ " +
-                      metres(at.txtPotrHloubkaZahl) + " )",
+        if (numbers().txtHPV != 0.0F && !too_high) {
+            holds("Hladina podzemní vody leží dost hluboko." + groundwaterLevels(" ≥ "),
                   VerdictId::ShaftGroundwaterTooHigh);
         }
         if (too_high) {
             notJudged("Dno šachty: výpočet skončil předchozím posouzením.");
         } else if (!too_close) {
-            holds("Dno šachty je dost vysoko. ( " + fixed(at.txtHloubkaSachty, 2) + " + 0.5 ≤ " +
-                      metres(at.txtPotrHloubkaZahl) + " )",
-                  VerdictId::ShaftBottomTooClose);
+            holds("Dno šachty je dost vysoko." + bottomDepths(" ≤ "), VerdictId::ShaftBottomTooClose);
         }
         if (too_high || too_close) {
             notJudged("Propustnost filtru: výpočet skončil předchozím posouzením.");

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "design/input.h"
 #include "design/messages.h"
 #include "design/verdict.h"
 #include "forms/calc/frm_calc.h"
@@ -103,7 +104,7 @@ void WindowSink::abandonType() {
 
 void WindowSink::complete() {
     form_->calculated_ = true;
-    if (calculatesLive(type_)) {
+    if (design::isLive(type_)) {
         form_->record_.end(type_, CalculationEnd::Done, calculationState(*form_, type_));
     }
 }

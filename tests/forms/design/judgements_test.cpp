@@ -86,6 +86,13 @@ TEST_F(Judgements, AShaftNamesTheGroundwaterThatIsDeepEnough) {
     EXPECT_THAT(lines(Shaft), Contains("✓ Hladina podzemní vody leží dost hluboko. ( 5.00 m ≥ 4.41 m )"));
 }
 
+TEST_F(Judgements, TheSignOfTheGroundwaterDoesNotCountAndIsNotShown) {
+    project.site("70", "1e-4");
+    groundwater("-5");
+    shaft("0.5");
+    EXPECT_THAT(lines(Shaft), Contains("✓ Hladina podzemní vody leží dost hluboko. ( 5.00 m ≥ 4.41 m )"));
+}
+
 TEST_F(Judgements, AShaftThatStopsSaysWhatItDidNotReach) {
     project.site("70", "1e-4");
     groundwater("3");

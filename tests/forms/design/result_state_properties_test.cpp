@@ -64,7 +64,7 @@ class RandomPerson {
         if (form().SelectedType == None || !form().picResults[form().SelectedType].onScreen()) {
             return;
         }
-        if (calculatesLive(form().SelectedType)) {
+        if (design::isLive(form().SelectedType)) {
             project.select(form().cboSelType, form().cboSelType.position());
         } else {
             project.calculate();

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "design/input.h"
 #include "forms/calc/judgements.h"
 #include "forms/calc/layout/after_event.h"
 #include "forms/calc/layout/concerned_field.h"
@@ -58,7 +59,7 @@ void setValid(QLineEdit& result, bool valid) {
 }
 
 QString calculateCaption(const frmCalc& form, FacilityType type) {
-    return calculatesLive(type) ? QStringLiteral("Přepočítat") : qt::shown(form.cmdCalcul[type].text());
+    return design::isLive(type) ? QStringLiteral("Přepočítat") : qt::shown(form.cmdCalcul[type].text());
 }
 
 }  // namespace

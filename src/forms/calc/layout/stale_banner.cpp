@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <utility>
 
+#include "design/input.h"
 #include "qt/look.h"
 
 namespace mero::forms {
@@ -114,7 +115,7 @@ bool isFaded(const QWidget& widget) {
 
 void calculateAnew(qt::WidgetKit& kit, frmCalc& form, FacilityType type) {
     kit.enter([&form, type] {
-        if (calculatesLive(type)) {
+        if (design::isLive(type)) {
             form.cboSelType.userSelect(form.cboSelType.position());
         } else {
             form.cmdCalcul[type].userClick();
