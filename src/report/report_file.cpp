@@ -15,8 +15,8 @@
 #include <string>
 #include <system_error>
 
+#include "platform/files/whole_file.h"
 #include "report/code_page.h"
-#include "report/whole_file.h"
 
 namespace mero::report {
 namespace {
@@ -103,7 +103,8 @@ WriteResult writeBytes(const std::string& path, std::string_view bytes) {
     }
     // Another program in this folder may be reading a report of the same name: it gets the complete old or
     // new one.
-    return replaceWhole(path, bytes, OnDisk::NotRequired) ? WriteResult::Written : writeInPlace(path, bytes);
+    return platform::replaceWhole(path, bytes, platform::OnDisk::NotRequired) ? WriteResult::Written
+                                                                              : writeInPlace(path, bytes);
 }
 
 }  // namespace

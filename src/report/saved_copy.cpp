@@ -12,8 +12,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "platform/files/whole_file.h"
 #include "report/code_page.h"
-#include "report/whole_file.h"
 
 namespace mero::report {
 namespace {
@@ -79,7 +79,7 @@ bool saveCopyOf(std::string html, const std::string& program_folder, const std::
         html.replace(logo_at, kLogoReference.size(),
                      logo ? "src=\"data:image/gif;base64," + base64(*logo) + "\"" : "alt=\"\"");
     }
-    return replaceWhole(target_path, html);
+    return platform::replaceWhole(target_path, html);
 }
 
 bool isPdfPath(std::string_view path) {

@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "report/whole_file.h"
+#include "platform/files/whole_file.h"
 
 namespace mero::app {
 namespace {
@@ -48,7 +48,7 @@ void fillFile(const fs::path& file, const fs::path& original) {
         return fs::copy_file(original, fresh, fs::copy_options::overwrite_existing, failed) &&
                (fs::permissions(fresh, fs::perms::owner_write, fs::perm_options::add, failed), !failed);
     };
-    static_cast<void>(report::replaceWhole(file.string(), copy));
+    static_cast<void>(platform::replaceWhole(file.string(), copy));
 }
 
 /// Copies the missing files of the rain database and the pages; files that the user replaced stay.

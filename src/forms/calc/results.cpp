@@ -4,12 +4,12 @@
 #include "design/messages.h"
 #include "forms/calc/frm_calc.h"
 #include "forms/calc/report_data.h"
+#include "platform/files/whole_file.h"
 #include "report/code_page.h"
 #include "report/documents.h"
 #include "report/html_report.h"
 #include "report/report_file.h"
 #include "report/saved_copy.h"
-#include "report/whole_file.h"
 
 namespace mero::forms {
 void frmCalc::SSTab1_Click(int PreviousTab) {
@@ -112,7 +112,7 @@ void frmCalc::saveResults(const std::string& path) {
     bool saved = false;
     desk_->setPageNote(intDialog.demonstrationNote());
     if (report::isPdfPath(path)) {
-        saved = keepReport() && report::replaceWhole(path, [&](const std::string& fresh_path) {
+        saved = keepReport() && platform::replaceWhole(path, [&](const std::string& fresh_path) {
                     pdf = desk_->makePdf(values_->ResultsFilePath, fresh_path);
                     return pdf == platform::PdfResult::Made;
                 });

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Writes the new file, flushes it to the disk and renames it.
 /// A rename within one folder is atomic.
-#include "report/whole_file.h"
+#include "platform/files/whole_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -12,7 +12,7 @@
 #include <optional>
 #include <system_error>
 
-namespace mero::report {
+namespace mero::platform {
 namespace {
 
 namespace fs = std::filesystem;
@@ -106,4 +106,4 @@ bool replaceWhole(const std::string& path, std::string_view content, OnDisk on_d
     return replaceWhole(path, write, on_disk);
 }
 
-}  // namespace mero::report
+}  // namespace mero::platform

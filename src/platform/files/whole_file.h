@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace mero::report {
+namespace mero::platform {
 
 /// Whether the new file must be flushed to the disk before it replaces the old one, so that even a loss of
 /// power leaves one of them complete; flushing can take long.
@@ -28,4 +28,4 @@ enum class OnDisk { Required, NotRequired };
 [[nodiscard]] bool replaceWhole(const std::string& path, std::string_view content,
                                 OnDisk on_disk = OnDisk::Required);
 
-}  // namespace mero::report
+}  // namespace mero::platform

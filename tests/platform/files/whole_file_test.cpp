@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// Files are replaced completely or not at all, under real faults.
-#include "report/whole_file.h"
+#include "platform/files/whole_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -14,7 +14,7 @@
 #include "support/temporary_folder.h"
 #include "support/unprivileged.h"
 
-namespace mero::report {
+namespace mero::platform {
 namespace {
 
 namespace fs = std::filesystem;
@@ -122,4 +122,4 @@ TEST_F(WholeFile, NeedsAFolderAndAName) {
 }
 
 }  // namespace
-}  // namespace mero::report
+}  // namespace mero::platform
