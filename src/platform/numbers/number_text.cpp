@@ -279,6 +279,10 @@ float strictSingle(std::string_view text) {
     return strict<float>(text);
 }
 
+double strictDouble(std::string_view text) {
+    return strict<double>(text);
+}
+
 std::int16_t strictInteger(std::string_view text) {
     return toInteger(strict<double>(text));
 }

@@ -16,6 +16,9 @@ namespace mero::numbers {
 /// @throws RuntimeError TypeMismatch when the text is not a number, Overflow when a Single cannot hold it
 [[nodiscard]] float strictSingle(std::string_view text);
 
+/// The same grammar and errors for a double.
+[[nodiscard]] double strictDouble(std::string_view text);
+
 /// Strict reading to a 16-bit Integer, halves to even ("2.5" gives 2). Same grammar and errors.
 [[nodiscard]] std::int16_t strictInteger(std::string_view text);
 
