@@ -3,6 +3,7 @@
 #include "rain/extremes.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <functional>
 
@@ -68,33 +69,41 @@ std::vector<YearRange> yearsOf(const MeasuredSeries& series, const RunningSums& 
     return years;
 }
 
+/// A window by its last interval.
 struct Peak {
-    std::size_t at = 0;
+    std::size_t end = 0;
     double depth_mm = 0.0;
 };
 
-/// The highest window of each block, without those that lie too close to a higher one.
-std::vector<Peak> separatedPeaks(const RunningSums& sums, const YearRange& year, std::size_t length,
-                                 std::size_t separation) {
+/// The highest window of each event. A window ends within its event.
+/// @param gap intervals without rain that separate events
+std::vector<Peak> peaksOf(const MeasuredSeries& series, const RunningSums& sums, std::size_t length,
+                          std::size_t gap) {
     std::vector<Peak> peaks;
-    for (std::size_t block = year.begin; block < year.end; block += separation) {
-        Peak highest;
-        const std::size_t end = std::min(block + separation, year.end);
-        for (std::size_t at = block; at < end && at + length <= year.end; ++at) {
-            if (sums.isWhole(at, length) && sums.depth(at, length) > highest.depth_mm) {
-                highest = {at, sums.depth(at, length)};
-            }
-        }
-        if (highest.depth_mm <= 0.0) {
+    std::size_t last_wet = 0;
+    for (std::size_t at = 0; at < series.depths_mm.size(); ++at) {
+        if (!(series.depths_mm[at] > 0.0F)) {
             continue;
         }
-        if (peaks.empty() || highest.at - peaks.back().at >= separation) {
-            peaks.push_back(highest);
-        } else if (highest.depth_mm > peaks.back().depth_mm) {
-            peaks.back() = highest;
+        if (peaks.empty() || at - last_wet > gap) {
+            peaks.push_back({at, 0.0});
+        }
+        // Between two wet intervals of an event the sum only falls.
+        last_wet = at;
+        if (at + 1 < length || !sums.isWhole(at + 1 - length, length)) {
+            continue;
+        }
+        const double depth = sums.depth(at + 1 - length, length);
+        if (depth > peaks.back().depth_mm) {
+            peaks.back() = {at, depth};
         }
     }
     return peaks;
+}
+
+bool isInAny(const std::vector<YearRange>& years, const Peak& peak) {
+    return std::ranges::any_of(
+        years, [&peak](const YearRange& year) { return peak.end >= year.begin && peak.end < year.end; });
 }
 
 double highestIn(const RunningSums& sums, const YearRange& year, std::size_t length) {
@@ -127,20 +136,21 @@ std::vector<Extremes> extremesOf(const MeasuredSeries& series, std::span<const i
             continue;
         }
         const auto length = static_cast<std::size_t>(duration / series.interval_min);
-        const auto separation =
+        const auto gap =
             static_cast<std::size_t>(std::max(duration, kEventSeparation_min) / series.interval_min);
         Extremes of;
         of.duration_min = duration;
         for (const YearRange& year : years) {
             of.annual.push_back({year.coverage.year, highestIn(sums, year, length)});
-            for (const Peak& peak :
-                 separatedPeaks(sums, year, length, std::max<std::size_t>(separation, 1))) {
+        }
+        for (const Peak& peak : peaksOf(series, sums, length, gap)) {
+            if (peak.depth_mm > 0.0 && isInAny(years, peak)) {
                 of.peaks_mm.push_back(peak.depth_mm);
             }
         }
         std::ranges::sort(of.peaks_mm, std::ranges::greater());
         const auto wanted =
-            static_cast<std::size_t>(std::ceil(kPeaksPerYear * static_cast<double>(years.size())));
+            static_cast<std::size_t>(std::floor(kPeaksPerYear * static_cast<double>(years.size())));
         of.peaks_mm.resize(std::min(of.peaks_mm.size(), wanted));
         all.push_back(std::move(of));
     }
@@ -148,8 +158,9 @@ std::vector<Extremes> extremesOf(const MeasuredSeries& series, std::span<const i
 }
 
 double intervalCorrection(int intervals) {
-    constexpr double kOfOneInterval = 0.14;
-    return 1.0 + kOfOneInterval / intervals;
+    constexpr std::array kFactors{1.14, 1.07, 1.04, 1.03};
+    const auto at = static_cast<std::size_t>(intervals) - 1;
+    return at < kFactors.size() ? kFactors[at] : 1.0;
 }
 
 }  // namespace mero::rain

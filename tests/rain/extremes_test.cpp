@@ -77,19 +77,29 @@ TEST(Extremes, PeaksOfOneEventCountOnce) {
     EXPECT_EQ(extremes[0].peaks_mm, (std::vector<double>{8.0, 3.0}));
 }
 
+TEST(Extremes, LongDurationsJoinEventsThatAShortOneSeparates) {
+    MeasuredSeries series = dryYears(2023, 2023);
+    series.depths_mm[10 * kIntervalsOfDay] = 8.0F;
+    series.depths_mm[10 * kIntervalsOfDay + 48] = 7.0F;  // eight hours later
+    EXPECT_EQ(extremesOf(series, std::array{10})[0].peaks_mm, (std::vector<double>{8.0, 7.0}));
+    EXPECT_EQ(extremesOf(series, std::array{720})[0].peaks_mm, (std::vector<double>{15.0}));
+}
+
 TEST(Extremes, ThePartialSeriesKeepsTheHighest) {
     MeasuredSeries series = dryYears(2023, 2023);
     for (std::size_t event = 0; event < 9; ++event) {
         series.depths_mm[(10 + 20 * event) * kIntervalsOfDay] = 1.0F + static_cast<float>(event);
     }
-    // 2.7 for a year, rounded up.
-    EXPECT_EQ(extremesOf(series, std::array{10})[0].peaks_mm, (std::vector<double>{9.0, 8.0, 7.0}));
+    // Euler's number for a year, rounded down.
+    EXPECT_EQ(extremesOf(series, std::array{10})[0].peaks_mm, (std::vector<double>{9.0, 8.0}));
 }
 
 TEST(Extremes, TheCorrectionFades) {
     EXPECT_DOUBLE_EQ(intervalCorrection(1), 1.14);
     EXPECT_DOUBLE_EQ(intervalCorrection(2), 1.07);
-    EXPECT_NEAR(intervalCorrection(144), 1.001, 0.0001);
+    EXPECT_DOUBLE_EQ(intervalCorrection(4), 1.03);
+    EXPECT_DOUBLE_EQ(intervalCorrection(5), 1.0);
+    EXPECT_DOUBLE_EQ(intervalCorrection(144), 1.0);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/batch/design_command.h"
+#include "app/batch/rain_command.h"
 #include "app/batch/run_command.h"
 #include "app/batch/stations_command.h"
 #include "app/batch/sweep_command.h"
@@ -20,11 +21,12 @@ struct Command {
     int (*run)(std::span<const std::string_view> arguments);
 };
 
-constexpr std::array<Command, 4> kCommands{{
+constexpr std::array<Command, 5> kCommands{{
     {"run", mero::app::runCommand},
     {"design", mero::app::designCommand},
     {"sweep", mero::app::sweepCommand},
     {"stations", mero::app::stationsCommand},
+    {"rain", mero::app::rainCommand},
 }};
 
 constexpr const char* kHelp =
@@ -34,6 +36,7 @@ constexpr const char* kHelp =
     "  design PROJECT.json     designs a project file and prints results and verdicts\n"
     "  sweep PROJECT.json      designs all variants of a project file, as CSV and as a plot\n"
     "  stations [STATION]      lists the rain-gauge stations, or prints the table of one\n"
+    "  rain SOURCE             rain table of a file, of the total of a day, or of measured rain\n"
     "\n"
     "  COMMAND --help          more about a command\n"
     "  --help                  this text\n"

@@ -35,13 +35,13 @@ holds() {
 }
 
 # Help and version.
-for command in run design sweep stations; do
+for command in run design sweep stations rain; do
     expect 0 "$command --help" "$batch" $command --help
     holds out "usage: mero-batch $command" "$command --help"
     holds out "Exit status:" "$command --help"
 done
 expect 0 "help" "$batch" --help
-for command in run design sweep stations; do holds out "  $command " "help"; done
+for command in run design sweep stations rain; do holds out "  $command " "help"; done
 expect 0 "version" "$batch" --version
 expect 2 "no command" "$batch"
 expect 2 "unknown command" "$batch" devise

@@ -8,7 +8,7 @@ batch=$1
 page=$2
 . "$(dirname -- "$0")/../../support/manual_page.sh"
 
-for command in run design sweep stations; do
+for command in run design sweep stations rain; do
     options=$("$batch" $command --help | options_of_help)
     [ -n "$options" ] || fail "the help of $command names no options"
     for word in $options $command; do
