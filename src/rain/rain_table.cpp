@@ -227,6 +227,9 @@ class TableReader {
         std::erase_if(table_.columns, [](const TableColumn& column) {
             return std::ranges::none_of(column.values, [](const auto& value) { return value.has_value(); });
         });
+        if (table_.columns.empty()) {
+            throw std::invalid_argument("nenalezeny sloupce s dobou trvání a hodnotami");
+        }
     }
 
     void guessUnits() {

@@ -47,6 +47,11 @@ TEST(RainTable, AWrongUnitIsNoticed) {
               "Déšť 5 min má 300.0 mm: to je neobvykle mnoho, zkontrolujte jednotky.");
 }
 
+TEST(RainTable, DurationsWithoutAnyValueAreNoTable) {
+    EXPECT_THROW(static_cast<void>(readRainTable("a,1,2\n3,-,-\n")), std::invalid_argument);
+    EXPECT_THROW(static_cast<void>(readRainTable("a;1;2\n3;;\n4;;\n")), std::invalid_argument);
+}
+
 TEST(RainTable, LongTablesAreRefusedBeforeTheyAreRead) {
     EXPECT_THROW(static_cast<void>(readRainTable(std::string(kLongestTable + 1, '1'))),
                  std::invalid_argument);
