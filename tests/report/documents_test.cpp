@@ -18,6 +18,18 @@ TEST(ReportPath, TakesTheNameAsTyped) {
     EXPECT_EQ(reportPath("/opt/mero", " x.html "), "/opt/mero/Mero_ x.html ");
 }
 
+TEST(ReportPath, IsDirectlyInTheFolderUnlessTheNameHoldsASlash) {
+    EXPECT_TRUE(isDirectlyIn("/opt/mero", reportPath("/opt/mero", "Test")));
+    EXPECT_TRUE(isDirectlyIn("/opt/mero", reportPath("/opt/mero", "..")));
+    EXPECT_TRUE(isDirectlyIn("/opt/mero", reportPath("/opt/mero", "a\\b")));
+    for (const char* name : {"a/b", "/", "/../../x", "../x"}) {
+        EXPECT_FALSE(isDirectlyIn("/opt/mero", reportPath("/opt/mero", name))) << name;
+    }
+    EXPECT_FALSE(isDirectlyIn("/opt/mero", ""));
+    EXPECT_FALSE(isDirectlyIn("/opt/mero", "/opt/mero2"));
+    EXPECT_FALSE(isDirectlyIn("/opt/mero", "/opt/Mero_Test"));
+}
+
 TEST(DescriptionPagePath, IsNumberedByType) {
     EXPECT_EQ(descriptionPagePath("/opt/mero", data::FacilityType::Surface), "/opt/mero/Webs/Desc01.htm");
     EXPECT_EQ(descriptionPagePath("/opt/mero", data::FacilityType::Trench), "/opt/mero/Webs/Desc04.htm");
