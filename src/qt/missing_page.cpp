@@ -35,11 +35,11 @@ std::optional<QString> below(const QString& path, Condition condition) {
 /// The file's name; it contains slashes where they are part of a project's name, also where folders of these
 /// names exist. The program's folder is the one with the pages in it.
 QString nameOf(const QString& path) {
-    const auto holds_pages = [](const QString& folder) {
-        return QFileInfo(folder + QLatin1String("Webs")).isDir();
+    const auto holds_report = [&path](const QString& folder) {
+        return path.startsWith(folder + kReport) && QFileInfo(folder + QLatin1String("Webs")).isDir();
     };
     const auto exists = [](const QString& folder) { return QFileInfo(folder).isDir(); };
-    return below(path, holds_pages).value_or(below(path, exists).value_or(path));
+    return below(path, holds_report).value_or(below(path, exists).value_or(path));
 }
 
 QString cause(const QString& path) {

@@ -20,7 +20,7 @@ bool isIn(const fs::path& folder, const fs::path& path) {
         return false;
     }
     const fs::path relative = fs::weakly_canonical(path, failure).lexically_relative(real_folder);
-    return !failure && !relative.empty() && *relative.begin() != "..";
+    return !failure && !relative.empty() && *relative.begin() != ".." && relative != ".";
 }
 
 }  // namespace

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "support/temporary_folder.h"
+
 namespace mero::report {
 namespace {
 
@@ -28,6 +32,20 @@ TEST(ReportPath, IsDirectlyInTheFolderUnlessTheNameHoldsASlash) {
     EXPECT_FALSE(isDirectlyIn("/opt/mero", ""));
     EXPECT_FALSE(isDirectlyIn("/opt/mero", "/opt/mero2"));
     EXPECT_FALSE(isDirectlyIn("/opt/mero", "/opt/Mero_Test"));
+}
+
+TEST(ProgramFile, IsTheDatabaseOrAPageAlsoThroughALink) {
+    const test::TemporaryFolder folder;
+    std::filesystem::create_directory(folder.file("Webs"));
+    folder.write("mero.mdb", "rain");
+    std::filesystem::create_symlink(folder.file("mero.mdb"), folder.file("link"));
+    for (const char* name : {"mero.mdb", "link", "Webs/Desc01.htm", "Webs/new/x", "./Webs/../Webs/x"}) {
+        EXPECT_TRUE(isProgramFile(folder.path(), folder.file(name))) << name;
+    }
+    for (const char* name : {"Webs", "Webs.html", "x.html", "Webs/../x.html", "..", "none/mero.mdb"}) {
+        EXPECT_FALSE(isProgramFile(folder.path(), folder.file(name))) << name;
+    }
+    EXPECT_FALSE(isProgramFile(folder.file("none"), folder.file("none/Webs/x"))) << "no such folder";
 }
 
 TEST(DescriptionPagePath, IsNumberedByType) {

@@ -117,9 +117,9 @@ TEST_F(MessageFields, OnTheTankPanel) {
 TEST_F(MessageFields, OnTheSwalePanel) {
     enterSite();
     choose("0", "2");
-    for (const Lead& lead : {Lead{VerdictId::SwaleFiltrationNotPositive, "txtSoucFiltrPruleh(2)"},
-                             Lead{VerdictId::SafetyFactorNotPositive, "txtSoucBezp(2)"},
-                             Lead{VerdictId::TrenchWidthNotPositive, ""}}) {
+    for (const Lead& lead :
+         {Lead{VerdictId::SafetyFactorNotPositive, "txtSoucBezp(2)"},
+          Lead{VerdictId::SwaleFiltrationNotPositive, ""}, Lead{VerdictId::TrenchWidthNotPositive, ""}}) {
         EXPECT_EQ(concerned(lead.id), lead.field) << design::info(lead.id).code;
     }
 }
