@@ -3,6 +3,7 @@
 /// A word with blanks stands in double quotes; \" \\ \n \r \t inside are escapes.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -21,6 +22,9 @@ struct Word {
     std::string text;
     bool quoted = false;
 };
+
+/// Most bytes of a line.
+inline constexpr std::size_t kLongestLine = std::size_t{64} * 1024 * 1024;
 
 /// The words of a line; none for a blank line and for a comment (first character "#").
 /// @throws ScriptError for an unclosed quote, an unknown escape, text adjacent to a quote, bytes that are not

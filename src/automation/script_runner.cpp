@@ -3,11 +3,32 @@
 /// The actions are in script_actions.cpp.
 #include "automation/script_runner.h"
 
+#include <streambuf>
 #include <utility>
 
 #include "platform/numbers/number_text.h"
 
 namespace mero::automation {
+namespace {
+
+/// Like std::getline, but ends after one byte more than a line may have, so that endless input needs no
+/// endless memory.
+bool readLine(std::istream& script, std::string& line) {
+    line.clear();
+    std::streambuf& input = *script.rdbuf();
+    for (int byte = input.sbumpc(); byte != std::streambuf::traits_type::eof(); byte = input.sbumpc()) {
+        if (byte == '\n') {
+            return true;
+        }
+        line += static_cast<char>(byte);
+        if (line.size() > kLongestLine) {
+            return true;
+        }
+    }
+    return !line.empty();
+}
+
+}  // namespace
 
 ScriptRunner::ScriptRunner(forms::Program& program, User& user, TraceDesk& desk, std::ostream& diagnostics,
                            std::string script_name)
@@ -20,7 +41,7 @@ ScriptRunner::ScriptRunner(forms::Program& program, User& user, TraceDesk& desk,
 int ScriptRunner::run(std::istream& script, const std::function<bool()>& stop) {
     std::string line;
     Step step = program_->ended() ? Step::ProgramEnded : Step::Continue;
-    for (int number = 1; step == Step::Continue && !stop() && std::getline(script, line); ++number) {
+    for (int number = 1; step == Step::Continue && !stop() && readLine(script, line); ++number) {
         step = execute(line, number);
     }
     return exitStatus(step);
@@ -37,6 +58,9 @@ ScriptRunner::Step ScriptRunner::execute(std::string_view line, int line_number)
         line.remove_prefix(kByteOrderMark.size());
     }
     try {
+        if (line.size() > kLongestLine) {
+            throw ScriptError("the line is longer than 64 MB");
+        }
         Words words = splitLine(line);
         if (!words.empty()) {
             const auto entry = actions().find(words.front().text);

@@ -346,10 +346,12 @@ inline constexpr auto kPanel<Tank> = panel(BottomLength, BottomWidth, TankDepth,
 /// The text of the box when the window opens.
 [[nodiscard]] std::string openingText(const PanelInput& input);
 
-/// The caption without the colon at its end.
+/// A caption of a box without the colon at its end.
+[[nodiscard]] constexpr std::string_view withoutColon(std::string_view caption) {
+    return caption.substr(0, caption.size() - (caption.ends_with(':') ? 1 : 0));
+}
 [[nodiscard]] constexpr std::string_view captionOf(Input input) {
-    const std::string_view caption = info(input).caption;
-    return caption.substr(0, caption.find(':'));
+    return withoutColon(info(input).caption);
 }
 /// The label in the results report.
 [[nodiscard]] constexpr std::string_view reportLabel(Input input) {

@@ -5,14 +5,13 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
-#include <set>
 #include <vector>
 
 #include "platform/controls/text_box.h"
+#include "platform/files/bounded_read.h"
 #include "platform/numbers/number_text.h"
+#include "project/name_scan.h"
 #include "project/project.h"
 #include "project/shown_text.h"
 
@@ -42,53 +41,16 @@ std::string syntaxReason(const std::string& what) {
     return shownText(colon == std::string::npos ? what : what.substr(colon + 2), kLongestPath);
 }
 
-/// Finds a name that stands twice in one object.
-class NameWatch {
-  public:
-    void see(json::parse_event_t event, const json& parsed) {
-        if (event == json::parse_event_t::object_start) {
-            open_.emplace_back();
-        } else if (event == json::parse_event_t::object_end) {
-            open_.pop_back();
-        } else if (event == json::parse_event_t::key) {
-            Names& names = open_.back();
-            names.last = parsed.get<std::string>();
-            if (!names.seen.insert(names.last).second && doubled_.empty()) {
-                doubled_ = path();
-            }
-        }
-    }
-    /// Path of the first doubled name, empty without one.
-    [[nodiscard]] const std::string& doubled() const { return doubled_; }
-
-  private:
-    struct Names {
-        std::set<std::string> seen;
-        std::string last;
-    };
-
-    [[nodiscard]] std::string path() const {
-        std::string text;
-        for (const Names& names : open_) {
-            text += (text.empty() ? "" : ".") + names.last;
-        }
-        return text;
-    }
-
-    std::vector<Names> open_;
-    std::string doubled_;
-};
-
 json parse(std::string_view document, const std::string& file) {
-    NameWatch watch;
-    const auto see = [&](int, json::parse_event_t event, const json& parsed) {
-        watch.see(event, parsed);
-        return true;
-    };
+    // Checked before the values are stored: they need much more memory than the text.
+    const NameScan names(document);
+    if (names.tooDeep()) {
+        throw ProjectError(file + ": objects and lists stand within each other too deeply");
+    }
     try {
-        json parsed = json::parse(document, see);
-        if (!watch.doubled().empty()) {
-            throw ProjectError(file + ": " + shownText(watch.doubled(), kLongestPath) +
+        json parsed = json::parse(document);
+        if (!names.doubled().empty()) {
+            throw ProjectError(file + ": " + shownText(names.doubled(), kLongestPath) +
                                ": stands twice; expected each name once");
         }
         return parsed;
@@ -349,15 +311,11 @@ Project readProject(std::string_view document, const std::string& file) {
 }
 
 Project readProjectFile(const std::string& file) {
-    std::string document;
-    try {
-        std::ifstream stream(file, std::ios::binary);
-        stream.exceptions(std::ios::badbit | std::ios::failbit);
-        document.assign(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
-    } catch (const std::ios_base::failure&) {  // no such file, no permission, a folder
-        throw ProjectError(file + ": cannot be read");
+    const platform::FileContent document = platform::readTextFile(file);
+    if (document.failure != platform::ReadFailure::None) {  // also a folder, a device
+        throw ProjectError(file + ": cannot be read" + platform::detailOf(document.failure));
     }
-    return readProject(document, file);
+    return readProject(document.bytes, file);
 }
 
 }  // namespace mero::project

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-/// Finds out what of a path is the name: everything below the last folder that exists.
+/// Finds out what of a path is the name: everything below the program's folder or, where that is not found,
+/// below the last folder that exists.
 #include "qt/missing_page.h"
 
 #include <QFileInfo>
 #include <algorithm>
+#include <optional>
 
 namespace mero::qt {
 namespace {
@@ -18,20 +20,26 @@ constexpr qsizetype kLongestProposal = 200;
 /// Other systems refuse more than this one does, and files are handed on.
 constexpr QLatin1String kRefusedSomewhere("/\\:*?\"<>|");
 
-/// The part of the path below the last folder that exists; it contains slashes where they are part of a name.
-QString nameOf(const QString& path) {
-    qsizetype end = path.size();
-    while (end > 0) {
-        const qsizetype slash = path.lastIndexOf(QLatin1Char('/'), end - 1);
-        if (slash < 0) {
-            return path;
-        }
-        if (QFileInfo(path.left(slash + 1)).isDir()) {
+/// The part of the path below the last folder that satisfies the condition; nothing without one.
+template <typename Condition>
+std::optional<QString> below(const QString& path, Condition condition) {
+    for (qsizetype slash = path.lastIndexOf(QLatin1Char('/')); slash >= 0;
+         slash = slash > 0 ? path.lastIndexOf(QLatin1Char('/'), slash - 1) : -1) {
+        if (condition(path.left(slash + 1))) {
             return path.mid(slash + 1);
         }
-        end = slash;
     }
-    return path;
+    return std::nullopt;
+}
+
+/// The file's name; it contains slashes where they are part of a project's name, also where folders of these
+/// names exist. The program's folder is the one with the pages in it.
+QString nameOf(const QString& path) {
+    const auto holds_report = [&path](const QString& folder) {
+        return path.startsWith(folder + kReport) && QFileInfo(folder + QLatin1String("Webs")).isDir();
+    };
+    const auto exists = [](const QString& folder) { return QFileInfo(folder).isDir(); };
+    return below(path, holds_report).value_or(below(path, exists).value_or(path));
 }
 
 QString cause(const QString& path) {

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QToolButton>
 #include <utility>
 
@@ -42,7 +43,9 @@ void NoticeBar::tell(const QString& text, const std::vector<Offer>& offers) {
         row_->insertWidget(row_->count() - 1, button);
         offers_.push_back(button);
     }
-    text_->setToolTip(text);
+    whole_ = text;
+    // A tool tip takes mark-up in a file name for its own.
+    text_->setToolTip(Qt::convertFromPlainText(text));
     setAccessibleName(text);
     show();
     elide();
@@ -57,7 +60,7 @@ void NoticeBar::resizeEvent(QResizeEvent* event) {
 
 void NoticeBar::elide() {
     row_->activate();
-    text_->setText(fontMetrics().elidedText(text_->toolTip(), Qt::ElideMiddle, text_->width()));
+    text_->setText(fontMetrics().elidedText(whole_, Qt::ElideMiddle, text_->width()));
 }
 
 }  // namespace mero::qt

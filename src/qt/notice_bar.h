@@ -22,7 +22,7 @@ class NoticeBar : public QFrame {
 
     /// Shows the text in place of an earlier one. The focus stays where it is; a screen reader says the text.
     void tell(const QString& text, const std::vector<Offer>& offers);
-    [[nodiscard]] QString text() const { return text_->toolTip(); }
+    [[nodiscard]] QString text() const { return whole_; }
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -32,6 +32,7 @@ class NoticeBar : public QFrame {
 
     QHBoxLayout* row_;
     QLabel* text_;
+    QString whole_;  ///< the label may show a part of it
     std::vector<QWidget*> offers_;
 };
 

@@ -58,7 +58,7 @@ void WidgetKit::enter(const std::function<void()>& event) const {
 }
 
 void WidgetKit::enterTyped(QWidget& field, const std::function<void()>& event) const {
-    if (runsFocusHandlers()) {
+    if (servesPerson()) {
         typing_->run(field, [&] { gate_(event); });
     } else {
         gate_(event);
@@ -102,7 +102,7 @@ void bindCommon(WidgetKit& kit, platform::Control& control, QWidget& widget) {
 }
 
 void bindFocus(WidgetKit& kit, QWidget& widget, std::function<void()> got, std::function<void()> lost) {
-    if (kit.runsFocusHandlers()) {
+    if (kit.servesPerson()) {
         widget.installEventFilter(new FocusFilter(kit, widget, std::move(got), std::move(lost)));
     }
 }

@@ -35,9 +35,8 @@ class WidgetKit {
     /// Runs the event of leaving a field.
     void enterLeaving(const std::function<void()>& event) const { gate_(event); }
     [[nodiscard]] Typing& typing() const { return *typing_; }
-    [[nodiscard]] bool runsFocusHandlers() const { return focus_events_ == FocusEvents::RunHandlers; }
     /// True when a person works at the window, and not a script.
-    [[nodiscard]] bool servesPerson() const { return runsFocusHandlers(); }
+    [[nodiscard]] bool servesPerson() const { return focus_events_ == FocusEvents::RunHandlers; }
 
     void add(const platform::Control& control, QWidget& widget) { widgets_[&control] = &widget; }
     /// The widget of a control, null until it is built.

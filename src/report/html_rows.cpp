@@ -50,14 +50,16 @@ std::string optionHeader(std::string_view caption) {
     return rows;
 }
 
-std::string withBreakTags(std::string text) {
+std::string withBreakTags(const std::string& text) {
     constexpr std::string_view kLineEnd = "\r\n";
-    constexpr std::string_view kTag = "<br>";
-    for (std::size_t at = text.find(kLineEnd); at != std::string::npos;
-         at = text.find(kLineEnd, at + kTag.size())) {
-        text.replace(at, kLineEnd.size(), kTag);
+    std::string tagged;
+    std::size_t begin = 0;
+    for (std::size_t at = text.find(kLineEnd); at != std::string::npos; at = text.find(kLineEnd, begin)) {
+        tagged.append(text, begin, at - begin);
+        tagged += "<br>";
+        begin = at + kLineEnd.size();
     }
-    return text;
+    return tagged.append(text, begin, std::string::npos);
 }
 
 }  // namespace mero::report

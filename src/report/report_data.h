@@ -53,6 +53,6 @@ struct ReportData {
 };
 
 /// Replaces every CR LF pair by a line-break tag, as the description has it in the report.
-[[nodiscard]] std::string withBreakTags(std::string text);
+[[nodiscard]] std::string withBreakTags(const std::string& text);
 
 }  // namespace mero::report

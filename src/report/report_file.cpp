@@ -26,7 +26,7 @@ class OpenFile {
   public:
     /// Opening a pipe without a reader fails instead of blocking.
     explicit OpenFile(const std::string& path, int flags = 0)
-        : descriptor_(open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | flags, 0666)) {
+        : descriptor_(open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW | flags, 0666)) {
         if (isOpen()) {
             static_cast<void>(fcntl(descriptor_, F_SETFL, 0));  // writing to a pipe with a reader may block
         }
@@ -79,7 +79,7 @@ bool isDenied(const std::string& path) {
     return !old.isOpen() && isPermissionDenied(errno);
 }
 
-/// For cases where no new file can replace the old one: a protected folder, a full disk, a link to a device.
+/// For cases where no new file can replace the old one: a protected folder, a full disk, a pipe.
 WriteResult writeInPlace(const std::string& path, std::string_view bytes) {
     OpenFile file(path, O_CREAT | O_TRUNC);
     if (!file.isOpen()) {
@@ -103,8 +103,9 @@ WriteResult writeBytes(const std::string& path, std::string_view bytes) {
     }
     // Another program in this folder may be reading a report of the same name: it gets the complete old or
     // new one.
-    return platform::replaceWhole(path, bytes, platform::OnDisk::NotRequired) ? WriteResult::Written
-                                                                              : writeInPlace(path, bytes);
+    const bool replaced =
+        platform::replaceWhole(path, bytes, platform::OnDisk::NotRequired, platform::Links::Refused);
+    return replaced ? WriteResult::Written : writeInPlace(path, bytes);
 }
 
 }  // namespace

@@ -13,7 +13,8 @@ enum class WriteResult {
     Failed,            ///< any other error; an incomplete report file is removed
 };
 
-/// Creates or overwrites the file with the text in windows-1250. The path is a POSIX path in UTF-8.
+/// Creates or overwrites the file with the text in windows-1250. The path is a POSIX path in UTF-8. A link in
+/// the file's place is not followed and stays: Failed.
 /// If the folder is writable, a program that reads the file meanwhile gets the complete old or new report.
 [[nodiscard]] WriteResult writeReport(const std::string& path, std::string_view html_utf8);
 

@@ -109,6 +109,22 @@ class Screen(FaultTest):
             program.terminate()
             self.assertIn(b"the program's folder /proc/nowhere/mero cannot be made", program.communicate()[1])
 
+    def test_a_person_is_told_that_the_home_is_not_set(self):
+        programs = self.installed()
+        current = self.scratch / "current"
+        current.mkdir()
+        for home in (None, "", "relative"):
+            with self.subTest(home=home), Display() as display:
+                program = subprocess.Popen([str(programs / "mero")], cwd=current, stderr=subprocess.PIPE,
+                                           env=environment(XDG_DATA_HOME=None, HOME=home, **display.variables()))
+                box = display.find_window("^MERO$")
+                subprocess.run(["xdotool", "windowfocus", "--sync", box, "key", "--clearmodifiers", "Return"],
+                               check=True, env=environment(DISPLAY=display.name), timeout=TIME_LIMIT_S)
+                errors = program.communicate(timeout=TIME_LIMIT_S)[1]
+                self.assertEqual(program.returncode, 2)
+                self.assertIn(b"HOME is not set to a full path (give --folder DIR)", errors)
+                self.assertEqual([path.name for path in current.iterdir()], [])
+
 
 if __name__ == "__main__":
     unittest.main()

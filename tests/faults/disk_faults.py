@@ -60,6 +60,19 @@ class NoPermission(FaultTest):
         self.assertIn("Zprávu se nepodařilo uložit do souboru /nonexistent/a.html.", done.stdout)
 
     @on_each_front
+    def test_an_installed_copy_makes_no_folder_without_a_home(self, front):
+        programs = self.installed()
+        script = self.scratch / "s.mero"
+        script.write_text("\n".join(REPORT))
+        for home in (None, "", "relative", "."):
+            before = set(os.listdir("/"))
+            done = self.run_command(command(front, str(script), programs=programs),
+                                    env=environment(XDG_DATA_HOME=None, HOME=home))
+            self.assertEqual((done.returncode, done.stdout), (2, ""))
+            self.assertIn("HOME is not set to a full path (give --folder DIR)", done.stderr)
+            self.assertEqual(set(os.listdir("/")), before, "the current folder is the root")
+
+    @on_each_front
     def test_an_installed_copy_works_in_the_users_folder(self, front):
         programs = self.installed()
         home = self.scratch / "home"

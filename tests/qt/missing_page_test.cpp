@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -28,6 +29,17 @@ TEST_F(ProjectName, WithASlashIsNamedAsTheCause) {
     EXPECT_TRUE(isBlamed(report("../x")));
     EXPECT_TRUE(isBlamed(report("/")));
     EXPECT_TRUE(missingPage(report("<b>/")).contains("&lt;b&gt;/"));
+}
+
+// With folders of these names the path leads to a place where a file could be.
+TEST_F(ProjectName, WithASlashIsNamedAlsoWhereItLeadsToAFolder) {
+    QDir(folder.path()).mkdir("Webs");
+    QDir(folder.path()).mkpath("Mero_/b");
+    EXPECT_TRUE(missingPage(report("/b/hala")).contains("<b>/b/hala</b>: je v něm lomítko"));
+    EXPECT_TRUE(isBlamed(report("/../../hala")));
+    EXPECT_FALSE(isBlamed(report("hala")));
+    EXPECT_FALSE(isBlamed(folder.filePath("Webs/Desc04.htm")));
+    EXPECT_EQ(savableName(report("/b/hala.html")), "Mero_-b-hala.html");
 }
 
 TEST_F(ProjectName, ThatIsTooLongIsNamedAsTheCause) {

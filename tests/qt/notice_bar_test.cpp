@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTextDocument>
 #include <QToolButton>
 
 #include "qt/bench_form.h"
@@ -52,6 +53,19 @@ TEST_F(Notice, OffersWhatCanBeDone) {
     ASSERT_EQ(buttons().size(), 1) << "the offers of the earlier text are gone";
     buttons()[0]->click();
     EXPECT_EQ(opened, 11);
+}
+
+TEST_F(Notice, ShowsMarkUpInAFileNameAsItIs) {
+    const QString text = "Uloženo: /x/<b>hala<b> & sklad.html";
+    window.resize(2000, 200);
+    bar.tell(text, {});
+    QApplication::processEvents();
+    const auto* label = bar.findChild<QLabel*>();
+    EXPECT_EQ(label->text(), text);
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+    QTextDocument tip;
+    tip.setHtml(label->toolTip());
+    EXPECT_EQ(tip.toPlainText(), text);
 }
 
 TEST_F(Notice, ALongPathDoesNotWidenTheWindow) {

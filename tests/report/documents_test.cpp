@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "support/temporary_folder.h"
+
 namespace mero::report {
 namespace {
 
@@ -16,6 +20,32 @@ TEST(ReportPath, IsNamedAfterTheProject) {
 TEST(ReportPath, TakesTheNameAsTyped) {
     EXPECT_EQ(reportPath("/opt/mero", "a/b"), "/opt/mero/Mero_a/b");
     EXPECT_EQ(reportPath("/opt/mero", " x.html "), "/opt/mero/Mero_ x.html ");
+}
+
+TEST(ReportPath, IsDirectlyInTheFolderUnlessTheNameHoldsASlash) {
+    EXPECT_TRUE(isDirectlyIn("/opt/mero", reportPath("/opt/mero", "Test")));
+    EXPECT_TRUE(isDirectlyIn("/opt/mero", reportPath("/opt/mero", "..")));
+    EXPECT_TRUE(isDirectlyIn("/opt/mero", reportPath("/opt/mero", "a\\b")));
+    for (const char* name : {"a/b", "/", "/../../x", "../x"}) {
+        EXPECT_FALSE(isDirectlyIn("/opt/mero", reportPath("/opt/mero", name))) << name;
+    }
+    EXPECT_FALSE(isDirectlyIn("/opt/mero", ""));
+    EXPECT_FALSE(isDirectlyIn("/opt/mero", "/opt/mero2"));
+    EXPECT_FALSE(isDirectlyIn("/opt/mero", "/opt/Mero_Test"));
+}
+
+TEST(ProgramFile, IsTheDatabaseOrAPageAlsoThroughALink) {
+    const test::TemporaryFolder folder;
+    std::filesystem::create_directory(folder.file("Webs"));
+    folder.write("mero.mdb", "rain");
+    std::filesystem::create_symlink(folder.file("mero.mdb"), folder.file("link"));
+    for (const char* name : {"mero.mdb", "link", "Webs/Desc01.htm", "Webs/new/x", "./Webs/../Webs/x"}) {
+        EXPECT_TRUE(isProgramFile(folder.path(), folder.file(name))) << name;
+    }
+    for (const char* name : {"Webs", "Webs.html", "x.html", "Webs/../x.html", "..", "none/mero.mdb"}) {
+        EXPECT_FALSE(isProgramFile(folder.path(), folder.file(name))) << name;
+    }
+    EXPECT_FALSE(isProgramFile(folder.file("none"), folder.file("none/Webs/x"))) << "no such folder";
 }
 
 TEST(DescriptionPagePath, IsNumberedByType) {

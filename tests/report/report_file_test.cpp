@@ -208,6 +208,18 @@ TEST_F(ReportFile, LeavesADeviceThatThePathLeadsTo) {
     EXPECT_TRUE(fs::is_symlink(path("Test")));
 }
 
+TEST_F(ReportFile, IsNotWrittenOrRemovedThroughALink) {
+    put(path("cizí"), "other");
+    fs::create_symlink(path("cizí"), path("Test"));
+    fs::create_symlink(path("není"), path("nikam"));
+    EXPECT_EQ(writeReport(path("Test"), "x"), WriteResult::Failed);
+    EXPECT_EQ(writeReport(path("nikam"), "x"), WriteResult::Failed);
+    EXPECT_TRUE(fs::is_symlink(path("Test")));
+    EXPECT_FALSE(fs::exists(path("není")));
+    removeReport(path("Test"));
+    EXPECT_EQ(contentOf(path("cizí")), "other");
+}
+
 TEST_F(ReportFile, IsRemovedWithoutComplaint) {
     put(path("Test"), "x");
     removeReport(path("Test"));

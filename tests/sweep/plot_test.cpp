@@ -136,6 +136,19 @@ TEST(Plot, ResultsOverSeveralDecadesGetALogarithmicAxisToo) {
     EXPECT_FALSE(surfaceOver("1e-5:1e-2:4").y.logarithmic);
 }
 
+TEST(Plot, ALinearRangeKeepsBothAxesLinearWhateverTheResults) {
+    // The same results as above, 480.9 m2 and 3.1 m2, from a list and from a range.
+    for (const char* filtration : {"1e-4,1e-2", "1e-4:1e-2:9.9e-3"}) {
+        const Chart chart = chartOf(
+            {std::string("subsoil.filtration_coefficient_m_s=") + filtration, "facility.type=surface"},
+            {"infiltration_area_m2", "", ""});
+        ASSERT_THAT(chart.series, SizeIs(1));
+        EXPECT_GT(*chart.series[0].values.front() / *chart.series[0].values.back(), 100.0);
+        EXPECT_FALSE(chart.x.logarithmic) << filtration;
+        EXPECT_FALSE(chart.y.logarithmic) << filtration;
+    }
+}
+
 TEST(Plot, AxisAndLinesDifferAndHaveTheirLimits) {
     const auto check = [](const std::vector<std::string>& texts, const PlotWish& wish) {
         return [=] { checkPlot(variants(texts), wish); };

@@ -8,6 +8,8 @@
 
 #include "app/batch/design_output.h"
 #include "app/batch/failures.h"
+#include "app/batch/output_file.h"
+#include "app/batch/used_files.h"
 #include "app/common/command_line.h"
 #include "app/common/program_folder.h"
 #include "design/design.h"
@@ -15,8 +17,8 @@
 #include "project/prepare_site.h"
 #include "project/read_project.h"
 #include "project/report_data.h"
+#include "report/code_page.h"
 #include "report/html_report.h"
-#include "report/report_file.h"
 
 namespace mero::app {
 namespace {
@@ -74,8 +76,9 @@ int writeReport(const Options& options, const project::Project& project, const d
     }
     const platform::DateTime now = options.moment ? *options.moment : platform::SystemClock().now();
     const std::string html = report::htmlReport(project::reportData(project, site, result, now));
-    if (report::writeReport(options.report, html) != report::WriteResult::Written) {
-        std::cerr << "mero-batch: the report cannot be written: " << options.report << '\n';
+    OutputFile file(options.report);
+    if (!file.write(report::toWindows1250(html)) || !file.finish()) {
+        std::cerr << "mero-batch: " << file.failure() << '\n';
         return kFailed;
     }
     return kDone;
@@ -85,6 +88,8 @@ int designProject(const Options& options) {
     if (options.project.empty()) {
         throw UsageError("which project? (see mero-batch design --help)");
     }
+    requireSeparateFiles({{"the project file", options.project}, rainDatabaseIn(options.folder)},
+                         {{"--report", options.report}});
     const project::Project project = project::readProjectFile(options.project);
     project::RainStore rain;
     const int station = project.inputs.rain.station;

@@ -3,15 +3,16 @@
 #include "app/batch/rain_command.h"
 
 #include <cmath>
-#include <fstream>
 #include <functional>
 #include <iostream>
-#include <iterator>
 #include <stdexcept>
+#include <utility>
 
 #include "app/batch/failures.h"
 #include "app/batch/rain_rows.h"
 #include "app/common/command_line.h"
+#include "platform/files/bounded_read.h"
+#include "platform/files/same_file.h"
 #include "platform/files/whole_file.h"
 #include "platform/numbers/number_text.h"
 #include "platform/numbers/runtime_error.h"
@@ -108,14 +109,15 @@ Options parse(std::span<const std::string_view> arguments) {
     return options;
 }
 
-std::string contentOf(const std::string& file) {
-    try {
-        std::ifstream stream(file, std::ios::binary);
-        stream.exceptions(std::ios::badbit | std::ios::failbit);
-        return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    } catch (const std::ios_base::failure&) {
-        throw UsageError(file + ": cannot be read");
+/// Twenty years of ten-minute values take some 60 MB.
+constexpr std::size_t kLongestSeries = std::size_t{1024} * 1024 * 1024;
+
+std::string contentOf(const std::string& file, std::size_t most_bytes = platform::kLongestTextFile) {
+    platform::FileContent content = platform::readBounded(file, most_bytes);
+    if (content.failure != platform::ReadFailure::None) {
+        throw UsageError(file + ": cannot be read" + platform::detailOf(content.failure));
     }
+    return std::move(content.bytes);
 }
 
 rain::DurationUnit durationUnit(const Options& options, const rain::RainTable& table) {
@@ -223,7 +225,7 @@ RainRows fromSeries(const Options& options) {
     try {
         rain::SeriesReader reader;
         for (const std::string& file : options.files) {
-            reader.add(contentOf(file), file);
+            reader.add(contentOf(file, kLongestSeries), file);
         }
         const rain::MeasuredSeries series =
             reader.finish(options.only_wet ? rain::Unlisted::Dry : rain::Unlisted::Missing);
@@ -278,6 +280,11 @@ int rainCommand(std::span<const std::string_view> arguments) {
         if (options.help) {
             std::cout << kHelp;
             return kDone;
+        }
+        for (const std::string& file : options.files) {
+            if (!options.into.empty() && platform::isSameFile(file, options.into)) {
+                throw UsageError("--into: " + options.into + " is the source");
+            }
         }
         RainRows rain = rowsOf(options);
         rain.return_period_years = options.return_period_years;

@@ -8,10 +8,11 @@
 
 #include <array>
 #include <cerrno>
-#include <fstream>
 #include <iostream>
 #include <memory>
+#include <sstream>
 #include <streambuf>
+#include <utility>
 
 #include "app/batch/pdf_program.h"
 #include "app/common/end_signals.h"
@@ -22,6 +23,7 @@
 #include "automation/script_runner.h"
 #include "automation/trace_desk.h"
 #include "data/rain_database.h"
+#include "platform/files/bounded_read.h"
 
 namespace mero::app {
 namespace {
@@ -113,14 +115,12 @@ int runCommand(std::span<const std::string_view> arguments) {
             std::istream lines(&input);
             return runScript(options, lines, signals);
         }
-        std::ifstream script(options.script);
-        if (!script || script.peek() == std::ifstream::traits_type::eof()) {
-            if (!script.eof()) {
-                throw UsageError("cannot read the script " + options.script);
-            }
-            script.clear();
+        platform::FileContent script = platform::readTextFile(options.script);
+        if (script.failure != platform::ReadFailure::None) {
+            throw UsageError("cannot read the script " + options.script + platform::detailOf(script.failure));
         }
-        return runScript(options, script, signals);
+        std::istringstream lines(std::move(script.bytes));
+        return runScript(options, lines, signals);
     } catch (const UsageError& error) {
         std::cerr << "mero-batch: " << error.what() << '\n';
         return kUnusable;

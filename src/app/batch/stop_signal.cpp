@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// The signal handler sets a lock-free atomic flag.
-/// A second Ctrl-C ends the program at once.
+/// A second signal ends the program at once.
 #include "app/batch/stop_signal.h"
 
 #include <csignal>
@@ -21,8 +21,13 @@ const std::atomic<bool>& stopOnSignals() {
     action.sa_handler = [](int) { flag().store(true, std::memory_order_relaxed); };
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction before {};
+        sigaction(number, nullptr, &before);
+        if (before.sa_handler != SIG_IGN) {  // as under nohup
+            sigaction(number, &action, nullptr);
+        }
+    }
     return flag();
 }
 

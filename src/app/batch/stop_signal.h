@@ -6,7 +6,8 @@
 
 namespace mero::app {
 
-/// Installs handlers for SIGINT and SIGTERM that set the flag instead of ending the program.
+/// Installs handlers for SIGINT, SIGTERM and SIGHUP that set the flag instead of ending the program. A signal
+/// that is ignored stays ignored.
 /// The flag is shared by the process, as its signal handlers are.
 [[nodiscard]] const std::atomic<bool>& stopOnSignals();
 

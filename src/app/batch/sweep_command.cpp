@@ -9,9 +9,10 @@
 #include <vector>
 
 #include "app/batch/failures.h"
+#include "app/batch/output_file.h"
 #include "app/batch/progress.h"
-#include "app/batch/row_file.h"
 #include "app/batch/stop_signal.h"
+#include "app/batch/used_files.h"
 #include "app/common/command_line.h"
 #include "app/common/program_folder.h"
 #include "project/read_project.h"
@@ -35,7 +36,9 @@ constexpr const char* kHelp =
     "                          0.6:2.0:0.1          a range FROM:TO:STEP, TO included\n"
     "                          log:1e-6:1e-3:20     20 values with a constant ratio, log:FROM:TO:COUNT\n"
     "                          all                  every station, periodicity, duration, or choice\n"
-    "  --out FILE            the CSV file; without --out and --plot the rows go to standard output\n"
+    "  --out FILE            the CSV file, written when it is complete; without --out and --plot the rows "
+    "go\n"
+    "                        to standard output\n"
     "  --plot FILE.svg       draws a result over a varied value, one line per value of a second one;\n"
     "                        further varied values stay at their first value\n"
     "  --plot-result NAME    the result to draw, by the name of its column\n"
@@ -44,7 +47,8 @@ constexpr const char* kHelp =
     "  --threads N           by default as many as there are processors\n"
     "  --folder DIR          the program's folder, which holds mero.mdb\n"
     "\n"
-    "Progress is shown on standard error when that is a terminal. Ctrl-C ends with the rows so far.\n"
+    "Progress is shown on standard error when that is a terminal. Ctrl-C ends with the rows so far,\n"
+    "which are kept in FILE.part.\n"
     "Exit status: 0 done; 1 a file cannot be written or the rain database cannot be read; 2 the project or "
     "the\n"
     "arguments cannot be used, nothing was written; 130 ended by Ctrl-C.\n";
@@ -105,6 +109,12 @@ sweep::Variants variantsOf(const Options& options) {
     return {project, std::move(variations)};
 }
 
+void requireFilesOf(const Options& options) {
+    const std::string part = options.out.empty() ? "" : OutputFile::partPath(options.out);
+    requireSeparateFiles({{"the project file", options.project}, rainDatabaseIn(options.folder)},
+                         {{"--plot", options.plot}, {"--out", options.out}, {"the unfinished --out", part}});
+}
+
 project::RainStore rainOf(const sweep::Variants& variants, const Options& options) {
     project::RainStore rain;
     data::MdbRainDatabase database;
@@ -123,8 +133,8 @@ project::RainStore rainOf(const sweep::Variants& variants, const Options& option
 
 int writeRows(const sweep::Variants& variants, const project::RainStore& rain, const Options& options) {
     const sweep::CsvTable table(variants, rain);
+    OutputFile file(options.out);
     const std::atomic<bool>& stop = stopOnSignals();
-    RowFile file(options.out);
     Progress progress(variants.count());
     sweep::SweepOutcome outcome{.end = sweep::SweepEnd::WriteFailed};
     if (file.write(table.header())) {
@@ -138,21 +148,25 @@ int writeRows(const sweep::Variants& variants, const project::RainStore& rain, c
                              .stop = &stop});
     }
     progress.finish();
-    if (outcome.end == sweep::SweepEnd::WriteFailed || !file.close()) {
+    const bool stopped = outcome.end == sweep::SweepEnd::Stopped;
+    if (stopped) {
+        std::cerr << "mero-batch: stopped after " << outcome.rows_written << " of " << variants.count()
+                  << " rows\n";
+    }
+    if (outcome.end == sweep::SweepEnd::WriteFailed || !(stopped ? file.finishPart() : file.finish())) {
         std::cerr << "mero-batch: " << file.failure() << '\n';
         return kFailed;
     }
-    if (outcome.end == sweep::SweepEnd::Stopped) {
-        std::cerr << "mero-batch: stopped after " << outcome.rows_written << " of " << variants.count()
-                  << " rows\n";
-        return kInterrupted;
+    if (!file.partName().empty()) {
+        std::cerr << "mero-batch: these rows are in " << file.partName() << '\n';
     }
-    return kDone;
+    return stopped ? kInterrupted : kDone;
 }
 
 int drawPlot(const sweep::Variants& variants, const project::RainStore& rain, const Options& options) {
-    RowFile file(options.plot);
-    if (!file.write(sweep::plotSvg(sweep::plotOf(variants, rain, options.wish))) || !file.close()) {
+    const std::string plot = sweep::plotSvg(sweep::plotOf(variants, rain, options.wish));
+    OutputFile file(options.plot);
+    if (!file.write(plot) || !file.finish()) {
         std::cerr << "mero-batch: " << file.failure() << '\n';
         return kFailed;
     }
@@ -160,6 +174,7 @@ int drawPlot(const sweep::Variants& variants, const project::RainStore& rain, co
 }
 
 int sweepProject(const Options& options) {
+    requireFilesOf(options);
     const sweep::Variants variants = variantsOf(options);
     if (!options.plot.empty()) {
         sweep::checkPlot(variants, options.wish);

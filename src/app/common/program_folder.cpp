@@ -5,10 +5,11 @@
 
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
+#include "platform/files/leftovers.h"
+#include "platform/files/user_folders.h"
 #include "platform/files/whole_file.h"
 
 namespace mero::app {
@@ -26,15 +27,6 @@ bool canBeWritten(const fs::path& folder) {
     return access(folder.c_str(), W_OK) == 0;
 }
 
-fs::path userDataFolder() {
-    const char* data_home = std::getenv("XDG_DATA_HOME");
-    if (data_home != nullptr && *data_home == '/') {
-        return fs::path(data_home) / "mero";
-    }
-    const char* home = std::getenv("HOME");
-    return fs::path(home != nullptr ? home : "/") / ".local/share/mero";
-}
-
 /// Copies a missing file atomically: a partial copy, left by a full disk or by another program that starts at
 /// the same moment, would be taken for the user's own file. The copy is writable even if the original is not.
 void fillFile(const fs::path& file, const fs::path& original) {
@@ -49,6 +41,20 @@ void fillFile(const fs::path& file, const fs::path& original) {
                (fs::permissions(fresh, fs::perms::owner_write, fs::perm_options::add, failed), !failed);
     };
     static_cast<void>(platform::replaceWhole(file.string(), copy));
+}
+
+/// A run that was killed while it filled the folder leaves temporary files in it, also below.
+void removeLeftoversOf(const fs::path& folder) {
+    platform::removeLeftovers(folder.string());
+    std::error_code ended;
+    fs::recursive_directory_iterator entry(folder / kPages, ended);
+    platform::removeLeftovers((folder / kPages).string());
+    for (; !ended && entry != fs::recursive_directory_iterator(); entry.increment(ended)) {
+        std::error_code failure;
+        if (entry->is_directory(failure)) {
+            platform::removeLeftovers(entry->path().string());
+        }
+    }
 }
 
 /// Copies the missing files of the rain database and the pages; files that the user replaced stay.
@@ -75,21 +81,38 @@ std::string executableFolder() {
     return failure ? std::string(".") : executable.parent_path().string();
 }
 
-std::string defaultProgramFolder() {
+DefaultFolder findDefaultFolder() {
     const fs::path beside = executableFolder();
     std::error_code failure;
     const bool own_folder = fs::is_directory(beside / kPages, failure);
     if (own_folder && canBeWritten(beside)) {
-        return beside.string();
+        return {.path = beside.string(), .filled_from = {}};
     }
-    const fs::path folder = userDataFolder();
     // A read-only unpacked archive has its data beside the programs.
-    fillWithMissing(folder, own_folder ? beside : beside / kInstalledData);
-    return folder.string();
+    return {.path = platform::userFolder(platform::UserFolder::Data).value_or(""),
+            .filled_from = (own_folder ? beside : beside / kInstalledData).string()};
+}
+
+std::string defaultProgramFolder() {
+    const DefaultFolder folder = findDefaultFolder();
+    if (folder.path.empty()) {
+        throw NoFolderError(
+            "there is no folder for the rain database and the report: HOME is not set to a full path "
+            "(give --folder DIR)");
+    }
+    removeLeftoversOf(folder.path);
+    if (!folder.filled_from.empty()) {
+        fillWithMissing(folder.path, folder.filled_from);
+    }
+    return folder.path;
 }
 
 std::string folderOrDefault(const std::string& folder) {
-    return folder.empty() ? defaultProgramFolder() : folder;
+    if (folder.empty()) {
+        return defaultProgramFolder();
+    }
+    removeLeftoversOf(folder);
+    return folder;
 }
 
 bool folderExists(const std::string& folder) {

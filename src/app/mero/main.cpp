@@ -4,12 +4,11 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QLibraryInfo>
+#include <QMessageBox>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <QTranslator>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -30,6 +29,10 @@
 #include "data/rain_database.h"
 #include "forms/calc/layout/calc_window.h"
 #include "forms/calc/program.h"
+#include "platform/files/bounded_read.h"
+#include "platform/files/leftovers.h"
+#include "platform/files/same_file.h"
+#include "platform/files/whole_file.h"
 #include "platform/locale_settings.h"
 #include "platform/numbers/numeric_locale.h"
 #include "qt/palettes.h"
@@ -66,14 +69,11 @@ constexpr const char* kHelp =
     "file was not made, 2 unusable script or arguments.\n";
 
 std::string readScript(const std::string& path) {
-    try {
-        std::ifstream file;
-        file.exceptions(std::ios::badbit | std::ios::failbit);
-        file.open(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    } catch (const std::ios_base::failure&) {  // missing file, no permission, a folder
-        throw app::UsageError("cannot read the script " + path);
+    platform::FileContent script = platform::readTextFile(path);
+    if (script.failure != platform::ReadFailure::None) {
+        throw app::UsageError("cannot read the script " + path + platform::detailOf(script.failure));
     }
+    return std::move(script.bytes);
 }
 
 /// The window system's own texts (context menus, file dialogs) in the program's language, where installed.
@@ -180,13 +180,32 @@ class Mero {
     forms::CalcWindow window_;
 };
 
+void tellOfNoFolder() {
+    QMessageBox box(
+        QMessageBox::Critical, QString::fromLatin1(platform::kApplicationTitle),
+        QStringLiteral("Není složka pro databázi dešťů a výsledky, protože proměnná prostředí HOME "
+                       "není nastavena na úplnou cestu. Nastavte ji, nebo program spusťte s "
+                       "volbou --folder SLOŽKA."));
+    box.setObjectName(QStringLiteral("message"));
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 /// Needs no display on any desktop.
 int exportPdf(int& argc, char** argv, const std::string& report, const std::string& file,
               const std::string& note) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     numbers::useNumericCLocale();
-    return app::makePdfFile(report, file, report::viewHtml, note) == platform::PdfResult::Made ? 0 : 1;
+    const auto make = [&](const std::string& path) {
+        return app::makePdfFile(report, path, report::viewHtml, note) == platform::PdfResult::Made;
+    };
+    if (platform::isSameFile(report, file)) {
+        return 1;
+    }
+    // Another program's temporary file is put in its place by that program.
+    const bool temporary = platform::isTemporaryName(file.substr(file.rfind('/') + 1));
+    return (temporary ? make(file) : platform::replaceWhole(file, make)) ? 0 : 1;
 }
 
 }  // namespace
@@ -232,7 +251,15 @@ int main(int argc, char** argv) {
         QApplication::setQuitOnLastWindowClosed(false);
         app::wearIcon();
         const app::EndSignals end_signals;
-        const int status = Mero(options, std::move(script), end_signals).run();
+        int status = 0;
+        try {
+            status = Mero(options, std::move(script), end_signals).run();
+        } catch (const app::NoFolderError&) {
+            if (options.script.empty()) {
+                tellOfNoFolder();
+            }
+            throw;
+        }
         end_signals.passOn();
         return status;
     } catch (const app::UsageError& error) {

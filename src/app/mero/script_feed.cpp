@@ -23,7 +23,7 @@ ScriptFeed::ScriptFeed(automation::ScriptRunner& runner, std::function<void(int)
 
 void ScriptFeed::feedAll(const std::string& script) {
     pending_ = script;
-    performLines();
+    performLines(0);
     if (!done_ && !pending_.empty()) {
         perform(std::exchange(pending_, {}));
     }
@@ -43,8 +43,12 @@ void ScriptFeed::readMore() {
     std::array<char, kChunkBytes> chunk{};
     const ssize_t count = read(STDIN_FILENO, chunk.data(), chunk.size());
     if (count > 0) {
+        const std::size_t searched = pending_.size();
         pending_.append(chunk.data(), static_cast<std::size_t>(count));
-        performLines();
+        performLines(searched);
+        if (!done_ && pending_.size() > automation::kLongestLine) {
+            perform(std::exchange(pending_, {}));  // which refuses it
+        }
     } else if (count == 0 || errno != EINTR) {
         if (!pending_.empty()) {
             perform(std::exchange(pending_, {}));
@@ -54,13 +58,15 @@ void ScriptFeed::readMore() {
     notifier_->setEnabled(!done_);
 }
 
-void ScriptFeed::performLines() {
-    for (std::size_t end = pending_.find('\n'); end != std::string::npos && !done_;
-         end = pending_.find('\n')) {
-        const std::string line = pending_.substr(0, end);
-        pending_.erase(0, end + 1);
+void ScriptFeed::performLines(std::size_t search_from) {
+    std::size_t begin = 0;
+    for (std::size_t end = pending_.find('\n', search_from); end != std::string::npos && !done_;
+         end = pending_.find('\n', begin)) {
+        const std::string line = pending_.substr(begin, end - begin);
+        begin = end + 1;
         perform(line);
     }
+    pending_.erase(0, begin);
 }
 
 void ScriptFeed::perform(const std::string& line) {

@@ -25,7 +25,8 @@ class ScriptFeed : public QObject {
 
   private:
     void readMore();
-    void performLines();
+    /// @param search_from where in the pending text the next line break may stand at the earliest
+    void performLines(std::size_t search_from);
     void perform(const std::string& line);
     void finish();
 

@@ -146,7 +146,6 @@ class frmCalc : public frmCalcControls {
     std::string shown_report_;
     /// Files of reports that this program wrote and has not removed: also those of former project names.
     std::set<std::string> written_reports_;
-    bool calculated_ = false;  ///< set when a design was completed
 };
 
 }  // namespace mero::forms

@@ -4,6 +4,7 @@
 #include "design/messages.h"
 #include "forms/calc/frm_calc.h"
 #include "forms/calc/report_data.h"
+#include "platform/files/same_file.h"
 #include "platform/files/whole_file.h"
 #include "report/code_page.h"
 #include "report/documents.h"
@@ -81,6 +82,9 @@ void frmCalc::BuildResultsHtml() {
 }
 
 report::WriteResult frmCalc::writeReport(const std::string& html) {
+    if (!report::isDirectlyIn(folder_, values_->ResultsFilePath)) {
+        return report::WriteResult::Failed;
+    }
     const report::WriteResult result = report::writeReport(values_->ResultsFilePath, html);
     if (result == report::WriteResult::Written) {
         written_reports_.insert(values_->ResultsFilePath);
@@ -89,7 +93,9 @@ report::WriteResult frmCalc::writeReport(const std::string& html) {
 }
 
 void frmCalc::removeReport(const std::string& path) {
-    report::removeReport(path);
+    if (report::isDirectlyIn(folder_, path)) {
+        report::removeReport(path);
+    }
     written_reports_.erase(path);
 }
 
@@ -108,6 +114,15 @@ void frmCalc::cmdSaveResults_Click() {
 }
 
 void frmCalc::saveResults(const std::string& path) {
+    const std::string failed = "Zprávu se nepodařilo uložit do souboru " + path + ".";
+    if (report::isProgramFile(folder_, path) || platform::isSameFile(path, values_->ResultsFilePath)) {
+        error(failed + " Tento soubor program sám používá.");
+        return;
+    }
+    if (!report::isDirectlyIn(folder_, values_->ResultsFilePath)) {
+        error(failed);
+        return;
+    }
     auto pdf = platform::PdfResult::Made;
     bool saved = false;
     desk_->setPageNote(intDialog.demonstrationNote());
@@ -129,7 +144,7 @@ void frmCalc::saveResults(const std::string& path) {
     }
     const char* reason =
         pdf == platform::PdfResult::NoMeans ? " Soubor PDF vytváří okenní program mero, který zde není." : "";
-    error("Zprávu se nepodařilo uložit do souboru " + path + "." + reason);
+    error(failed + reason);
 }
 
 void frmCalc::cmdPrint_Click() {

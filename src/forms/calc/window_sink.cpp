@@ -103,7 +103,6 @@ void WindowSink::abandonType() {
 }
 
 void WindowSink::complete() {
-    form_->calculated_ = true;
     if (design::isLive(type_)) {
         form_->record_.end(type_, CalculationEnd::Done, calculationState(*form_, type_));
     }

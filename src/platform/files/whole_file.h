@@ -7,25 +7,21 @@
 #include <string>
 #include <string_view>
 
+#include "platform/files/fresh_file.h"
+
 namespace mero::platform {
 
-/// Whether the new file must be flushed to the disk before it replaces the old one, so that even a loss of
-/// power leaves one of them complete; flushing can take long.
-enum class OnDisk { Required, NotRequired };
-
-/// Replaces a file or creates a new one.
+/// Replaces a file or creates a new one. A folder, a device or a pipe is not replaced.
 ///
-/// If the path is a link, the file that it leads to is replaced. A folder, a device or a pipe is not
-/// replaced.
 /// @param write writes the content to the empty file at the given path; returns false on failure
 /// @return false when the file could not be written or replaced; an old file is unchanged then and no
 ///         temporary file is left
 [[nodiscard]] bool replaceWhole(const std::string& path,
                                 const std::function<bool(const std::string& fresh_path)>& write,
-                                OnDisk on_disk = OnDisk::Required);
+                                OnDisk on_disk = OnDisk::Required, Links links = Links::Followed);
 
 /// The same for content in memory.
 [[nodiscard]] bool replaceWhole(const std::string& path, std::string_view content,
-                                OnDisk on_disk = OnDisk::Required);
+                                OnDisk on_disk = OnDisk::Required, Links links = Links::Followed);
 
 }  // namespace mero::platform

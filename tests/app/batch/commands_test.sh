@@ -155,19 +155,114 @@ if [ -w /dev/full ]; then
     expect 1 "full disk" "$batch" sweep "$all" --folder folder --vary facility.safety_factor=1:2:0.0001 --out /dev/full
     holds err "cannot be written: No space left on device" "full disk"
 fi
-"$batch" sweep "$projects/nadrz.json" --vary facility.safety_factor=1:2:0.00002 \
-    --vary facility.bottom_length_m=1:50:0.001 --out stopped.csv 2>err &
-sweep=$!
-tries=0
-while [ ! -s stopped.csv ] && [ $tries -lt 1000 ]; do
-    sleep 0.05
-    tries=$((tries + 1))
+# A sweep that is stopped keeps its rows beside the old file.
+echo old >stopped.csv
+for signal in INT TERM HUP; do
+    # In an own session with default signals: a background job of this shell ignores Ctrl-C.
+    python3 -c 'import os, signal, sys
+signal.signal(signal.SIGINT, signal.SIG_DFL)
+os.execv(sys.argv[1], sys.argv[1:])' "$batch" sweep "$projects/nadrz.json" --folder folder \
+        --vary facility.safety_factor=1:2:0.00002 --vary facility.bottom_length_m=1:50:0.001 --out stopped.csv 2>err &
+    sweep=$!
+    tries=0
+    while [ -z "$(find . -maxdepth 1 -name '.mero-*' -size +0)" ] && [ $tries -lt 1000 ]; do
+        sleep 0.05
+        tries=$((tries + 1))
+    done
+    kill -$signal $sweep
+    wait $sweep
+    status=$?
+    [ $status -eq 130 ] || fail "a sweep stopped by SIG$signal ends with $status: $(cat err)"
+    holds err "stopped after" "stopped sweep"
+    holds err "these rows are in $PWD/stopped.csv.part" "stopped sweep"
+    [ "$(cat stopped.csv)" = old ] || fail "a stopped sweep changes the complete file"
+    [ "$(tail -c 2 stopped.csv.part | od -An -tx1 | tr -d ' ')" = 0d0a ] || fail "a stopped sweep leaves half a row"
+    [ -z "$(find . -name '.mero-*')" ] || fail "a stopped sweep leaves a temporary file"
+    rm -f stopped.csv.part
 done
-kill -TERM $sweep
-wait $sweep
-status=$?
-[ $status -eq 130 ] || fail "a stopped sweep ends with $status: $(cat err)"
-holds err "stopped after" "stopped sweep"
-[ "$(tail -c 2 stopped.csv | od -An -tx1 | tr -d ' ')" = 0d0a ] || fail "a stopped sweep leaves half a row"
+
+# Devices and pipes are written as they are.
+expect 0 "rows to a device" "$batch" sweep "$projects/nadrz.json" --folder folder --vary facility.safety_factor=1,2 \
+    --out /dev/null --plot /dev/null
+"$batch" sweep "$projects/nadrz.json" --folder folder --vary facility.safety_factor=1,2 --out /dev/stdout 2>err | cat >piped
+[ "$(wc -l <piped)" -eq 3 ] || fail "rows to standard output by its name: $(cat err)"
+
+# No output is an input, the rain database or the other output, whatever its name.
+cp "$projects/nadrz.json" own.json
+ln -s own.json linked.json
+ln own.json hard.json
+ln -s folder other
+ln -s nowhere.csv dangling.csv
+database=$(md5sum <folder/mero.mdb)
+project=$(md5sum <own.json)
+vary="--vary facility.safety_factor=1,2"
+refused() {
+    expect 2 "$1" "$batch" "$3" own.json --folder folder $4
+    holds err "$2: nothing was written" "$1"
+    [ ! -s out ] || fail "$1: something was printed"
+}
+for file in own.json ./folder/../own.json linked.json hard.json "$PWD/own.json"; do
+    refused "report over the project" "--report $file is the project file" design "--report $file"
+    refused "rows over the project" "--out $file is the project file" sweep "$vary --out $file"
+    refused "plot over the project" "--plot $file is the project file" sweep "$vary --plot $file"
+done
+for file in folder/mero.mdb other/mero.mdb; do
+    refused "report over the database" "--report $file is the rain database" design "--report $file"
+    refused "rows over the database" "--out $file is the rain database" sweep "$vary --out $file"
+    refused "plot over the database" "--plot $file is the rain database" sweep "$vary --plot $file"
+done
+refused "rows over the plot" "--out other/x.csv is the file of --plot" sweep "$vary --plot folder/x.csv --out other/x.csv"
+refused "rows over the plot" "--out ./x.csv is the file of --plot" sweep "$vary --plot x.csv --out ./x.csv"
+cp own.json y.csv.part
+expect 2 "stopped rows over the project" "$batch" sweep y.csv.part --folder folder $vary --out y.csv
+holds err "is the project file" "stopped rows over the project"
+[ "$(md5sum <folder/mero.mdb)" = "$database" ] && [ "$(md5sum <own.json)" = "$project" ] ||
+    fail "an input was overwritten"
+[ ! -e folder/x.csv ] && [ ! -e x.csv ] && [ ! -e y.csv ] || fail "a refused output was written"
+expect 0 "a link that leads nowhere" "$batch" sweep own.json --folder folder $vary --out dangling.csv
+[ "$(wc -l <dangling.csv)" -eq 3 ] || fail "the link is not replaced"
+
+# What is no file, or too large, is refused at once.
+mkfifo pipe
+truncate -s 64M large && printf x >>large
+for file in pipe /dev/zero folder; do
+    expect 2 "project $file" timeout 20 "$batch" design "$file"
+    holds err "$file: cannot be read: it is no ordinary file" "project $file"
+    expect 2 "script $file" timeout 20 "$batch" run --folder folder "$file"
+    holds err "cannot read the script $file: it is no ordinary file" "script $file"
+done
+expect 2 "a large project" "$batch" design large
+holds err "large: cannot be read: it is larger than 64 MB" "a large project"
+expect 2 "a large script" "$batch" run --folder folder large
+holds err "cannot read the script large: it is larger than 64 MB" "a large script"
+timeout 60 "$batch" run --folder folder - </dev/zero >out 2>err
+[ $? -eq 2 ] || fail "an endless line: exit status"
+holds err "-:1: the line is longer than 64 MB" "an endless line"
+
+# Many areas and many lines take seconds, not minutes.
+python3 -c 'import json
+project = json.load(open("own.json"))
+json.dump(project | {"areas": [{"area_m2": 1, "runoff_coefficient": 0.5}] * 200000}, open("areas.json", "w"))
+project["project"]["description"] = "line\n" * 400000
+json.dump(project, open("lines.json", "w"))'
+expect 0 "200,000 areas" timeout 60 "$batch" design --folder folder areas.json
+expect 0 "400,000 lines" timeout 60 "$batch" design --folder folder --report lines.html lines.json
+
+# Without a full path in HOME an installed copy has no folder, and makes none.
+mkdir -p usr/bin usr/share/mero empty
+cp "$batch" usr/bin/
+cp folder/mero.mdb usr/share/mero/
+cp -r folder/Webs usr/share/mero/
+: >none.mero
+cp "$projects/plosne-vsakovani.json" station.json
+for home in "" relative ./x; do
+    for arguments in "design $work/station.json" "sweep $work/station.json $vary" "stations Brno" \
+        "run $work/none.mero"; do
+        (cd empty && env -u XDG_DATA_HOME HOME="$home" "$work/usr/bin/mero-batch" $arguments >../out 2>../err)
+        [ $? -eq 2 ] || fail "HOME='$home' $arguments: not refused: $(cat out err)"
+        holds err "HOME is not set to a full path (give --folder DIR)" "HOME='$home' $arguments"
+    done
+done
+[ -z "$(ls -A empty)" ] || fail "a folder was made in the current one"
 
 [ $failures -eq 0 ]

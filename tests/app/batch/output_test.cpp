@@ -3,8 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
+#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include <stdexcept>
@@ -12,7 +11,8 @@
 #include "design/verdict.h"
 
 #include "app/batch/design_output.h"
-#include "app/batch/row_file.h"
+#include "app/batch/output_file.h"
+#include "support/temporary_folder.h"
 
 namespace mero::app {
 namespace {
@@ -101,22 +101,49 @@ TEST(ResultTable, AProjectWithoutANameBeginsWithItsType) {
     EXPECT_THAT(resultTable(project, design::DesignResult()), ::testing::StartsWith("Šachtové vsakování\n"));
 }
 
-TEST(RowFile, EmptiesAnOldFileAndWritesInOrder) {
-    const std::string path = ::testing::TempDir() + "mero_row_file_test.csv";
-    std::ofstream(path) << "old and longer than what comes";
-    RowFile file(path);
+TEST(OutputFile, ReplacesAnOldFileOnlyAtItsEnd) {
+    const test::TemporaryFolder folder;
+    folder.write("rows.csv", "old and longer than what comes");
+    OutputFile file(folder.file("rows.csv"));
     EXPECT_TRUE(file.write("a,b\r\n"));
     EXPECT_TRUE(file.write(""));
     EXPECT_TRUE(file.write("1,2\r\n"));
-    EXPECT_TRUE(file.close());
-    std::ifstream stream(path, std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), "a,b\r\n1,2\r\n");
-    std::remove(path.c_str());
+    EXPECT_EQ(folder.read("rows.csv"), "old and longer than what comes");
+    EXPECT_TRUE(file.finish());
+    EXPECT_EQ(folder.read("rows.csv"), "a,b\r\n1,2\r\n");
+    EXPECT_EQ(file.partName(), "");
 }
 
-TEST(RowFile, TellsWhyItCannotWrite) {
-    EXPECT_THROW(RowFile("/nowhere/rows.csv"), std::runtime_error);
-    RowFile full("/dev/full");
+TEST(OutputFile, KeepsAPartBesideTheOldFileAlsoBehindALink) {
+    const test::TemporaryFolder folder;
+    folder.write("rows.csv", "old");
+    std::filesystem::create_symlink(folder.file("rows.csv"), folder.file("link.csv"));
+    OutputFile file(folder.file("link.csv"));
+    EXPECT_TRUE(file.write("a,b\r\n"));
+    EXPECT_TRUE(file.finishPart());
+    EXPECT_EQ(file.partName(), std::filesystem::canonical(folder.file("rows.csv")).string() + ".part");
+    EXPECT_EQ(OutputFile::partPath(folder.file("link.csv")), file.partName());
+    EXPECT_EQ(folder.read("rows.csv"), "old");
+    EXPECT_EQ(folder.read("rows.csv.part"), "a,b\r\n");
+}
+
+TEST(OutputFile, OfWhichNothingIsFinishedLeavesNothing) {
+    const test::TemporaryFolder folder;
+    { EXPECT_TRUE(OutputFile(folder.file("rows.csv")).write("a")); }
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+}
+
+TEST(OutputFile, WritesADeviceAsItIs) {
+    OutputFile file("/dev/null");
+    EXPECT_TRUE(file.write("1"));
+    EXPECT_TRUE(file.finishPart());
+    EXPECT_EQ(file.partName(), "");
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+}
+
+TEST(OutputFile, TellsWhyItCannotWrite) {
+    EXPECT_THROW(OutputFile("/nowhere/rows.csv"), std::runtime_error);
+    OutputFile full("/dev/full");
     EXPECT_FALSE(full.write("1"));
     EXPECT_THAT(full.failure(), HasSubstr("/dev/full cannot be written: "));
 }

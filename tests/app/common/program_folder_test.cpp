@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -13,34 +12,13 @@
 #include <utility>
 #include <vector>
 
+#include "support/environment.h"
 #include "support/temporary_folder.h"
 
 namespace mero::app {
 namespace {
 
-/// Sets an environment variable for one test.
-class Environment {
-  public:
-    Environment(const char* name, const std::string& value) : name_(name) {
-        if (const char* before = std::getenv(name)) {
-            before_ = before;
-        }
-        ::setenv(name, value.c_str(), 1);
-    }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-    ~Environment() {
-        if (before_) {
-            ::setenv(name_, before_->c_str(), 1);
-        } else {
-            ::unsetenv(name_);
-        }
-    }
-
-  private:
-    const char* name_;
-    std::optional<std::string> before_;
-};
+using test::Environment;
 
 TEST(ProgramFolder, TheExecutablesFolderIsFullAndHasNoTrailingSlash) {
     const std::string folder = executableFolder();
@@ -64,6 +42,22 @@ TEST(ProgramFolder, WithoutADataHomeItIsBelowTheHome) {
         const Environment data_home("XDG_DATA_HOME", unusable);
         EXPECT_EQ(defaultProgramFolder(), home.file(".local/share/mero"));
     }
+}
+
+TEST(ProgramFolder, WithoutAFullPathThereIsNone) {
+    const Environment data_home("XDG_DATA_HOME", std::nullopt);
+    const test::TemporaryFolder current;
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(current.path());
+    for (const auto& unusable : {std::optional<std::string>(), std::optional<std::string>(""),
+                                 std::optional<std::string>("relative")}) {
+        const Environment home("HOME", unusable);
+        EXPECT_EQ(findDefaultFolder().path, "");
+        EXPECT_THROW(defaultProgramFolder(), NoFolderError);
+        EXPECT_EQ(folderOrDefault("/tmp"), "/tmp");
+    }
+    std::filesystem::current_path(before);
+    EXPECT_TRUE(std::filesystem::is_empty(current.path()));
 }
 
 /// Installed data; removed after the test, also where they were made read-only.
@@ -141,6 +135,29 @@ TEST(ProgramFolder, OnlyWhatTheProgramReadsIsCopiedAndNothingElseIsLeft) {
     }
     EXPECT_THAT(found, testing::UnorderedElementsAre("mero/mero.mdb", "mero/Webs/Desc01.htm",
                                                      "mero/Webs/Desc_soubory/logo.gif"));
+}
+
+// Of a start that was killed while it copied.
+TEST(ProgramFolder, TemporaryFilesOfKilledStartsAreRemoved) {
+    const InstalledData installed(installedFolder());
+    const test::TemporaryFolder home;
+    std::filesystem::create_directories(home.file("mero/Webs/Desc_soubory"));
+    for (const char* name :
+         {"mero/.mero-abc123", "mero/Webs/.mero-abc123", "mero/Webs/Desc_soubory/.mero-abc123"}) {
+        home.write(name, "half");
+    }
+    const Environment data_home("XDG_DATA_HOME", home.path());
+    EXPECT_EQ(defaultProgramFolder(), home.file("mero"));
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(home.path())) {
+        EXPECT_NE(entry.path().filename(), ".mero-abc123") << entry.path();
+    }
+}
+
+TEST(ProgramFolder, TemporaryFilesOfKilledRunsAreRemovedFromAGivenFolder) {
+    const test::TemporaryFolder folder;
+    folder.write(".mero-abc123", "half");
+    EXPECT_EQ(folderOrDefault(folder.path()), folder.path());
+    EXPECT_FALSE(folder.has(".mero-abc123"));
 }
 
 // As on a read-only medium: the user can still write the copied folders and files.

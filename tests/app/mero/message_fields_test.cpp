@@ -114,6 +114,29 @@ TEST_F(MessageFields, OnTheTankPanel) {
     }
 }
 
+TEST_F(MessageFields, OnTheSwalePanel) {
+    enterSite();
+    choose("0", "2");
+    for (const Lead& lead :
+         {Lead{VerdictId::SafetyFactorNotPositive, "txtSoucBezp(2)"},
+          Lead{VerdictId::SwaleFiltrationNotPositive, ""}, Lead{VerdictId::TrenchWidthNotPositive, ""}}) {
+        EXPECT_EQ(concerned(lead.id), lead.field) << design::info(lead.id).code;
+    }
+}
+
+/// A list of the catalogue takes the place of the sizes that are typed.
+TEST_F(MessageFields, OnTheShaftPanelWithACatalogueShaft) {
+    enterSite();
+    choose("0", "5");
+    run("click optSelTypSachty(0)");
+    for (const Lead& lead : {Lead{VerdictId::InnerDiameterNotPositive, "txtPrumerSachtyVnit"},
+                             Lead{VerdictId::ShaftGroundwaterTooHigh, "txtPrumerSachtyVnit"},
+                             Lead{VerdictId::ShaftFilterTooPermeable, "txtPrumerSachtyVnit"},
+                             Lead{VerdictId::ShaftOuterDiameterTooSmall, "txtTloustkaSteny"}}) {
+        EXPECT_EQ(concerned(lead.id), lead.field) << design::info(lead.id).code;
+    }
+}
+
 TEST_F(MessageFields, OnTheFirstTab) {
     for (const Lead& lead : {Lead{VerdictId::DrainedAreaMissing, "cmdEdit(1)"},
                              Lead{VerdictId::InfiltrationAreaMissing, "cmdEdit(1)"},

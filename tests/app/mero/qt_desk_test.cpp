@@ -35,6 +35,7 @@ struct Seen {
     QString title;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     int boxes = 0;
+    Qt::TextFormat format = Qt::AutoText;
 };
 
 /// Closes the next box like a person and stores its content in `seen`.
@@ -42,7 +43,7 @@ void closeNextBox(Seen& seen) {
     QTimer::singleShot(0, [&seen] {
         auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        seen = {box->text(), box->windowTitle(), box->icon(), seen.boxes + 1};
+        seen = {box->text(), box->windowTitle(), box->icon(), seen.boxes + 1, box->textFormat()};
         box->accept();
     });
 }
@@ -65,6 +66,21 @@ TEST(RealDesk, WithoutATitleTheApplicationsShows) {
     EXPECT_EQ(seen.title, "MERO");
     EXPECT_EQ(seen.text, "a < b\nc");
     EXPECT_EQ(seen.icon, QMessageBox::Critical);
+}
+
+// A path or a project name in the text may hold mark-up.
+TEST(RealDesk, ShowsMarkUpAsItIs) {
+    const char* text = "Zprávu se nepodařilo uložit do souboru /x/<b>hala</b> &amp; <img src=x>.html.";
+    QtDesk desk(Sitter::Person, plain);
+    Seen seen;
+    closeNextBox(seen);
+    desk.showMessage(messageOf(critical(text)));
+    EXPECT_EQ(seen.text, text);
+    EXPECT_EQ(seen.format, Qt::PlainText);
+    closeNextBox(seen);
+    desk.reportError(RuntimeError(53, "Soubor <b>x</b> nebyl nalezen"));
+    EXPECT_EQ(seen.boxes, 2);
+    EXPECT_EQ(seen.format, Qt::PlainText);
 }
 
 TEST(RealDesk, ReportsErrorsWithNumberAndDescription) {

@@ -120,6 +120,21 @@ TEST_F(SaveDialog, AsksAboutAFileThatIsThere) {
     EXPECT_EQ(ask({choose("a.html", kHtml), answer(QMessageBox::Yes)}), path("a.html"));
 }
 
+TEST_F(SaveDialog, TheQuestionShowsMarkUpInTheNameAsItIs) {
+    folder.write("<b>hala<b> &amp;.html", "starý");
+    QString text;
+    Qt::TextFormat format = Qt::AutoText;
+    const auto read = [&](QWidget& window) {
+        auto& box = dynamic_cast<QMessageBox&>(window);
+        text = box.text();
+        format = box.textFormat();
+        box.button(QMessageBox::Yes)->click();
+    };
+    EXPECT_EQ(ask({choose("<b>hala<b> &amp;.html", kHtml), read}), path("<b>hala<b> &amp;.html"));
+    EXPECT_EQ(text, "Soubor <b>hala<b> &amp;.html už existuje. Nahradit jej?");
+    EXPECT_EQ(format, Qt::PlainText);
+}
+
 TEST_F(SaveDialog, IsCzechWhateverTranslationIsInstalled) {
     QStringList texts;
     static_cast<void>(ask({[&](QWidget& window) {

@@ -24,6 +24,16 @@ TEST_F(Feed, PerformsAllLinesAlsoTheLastWithoutItsEnd) {
     EXPECT_EQ(status, 0);
 }
 
+// Taking each line from the front of the rest would take minutes.
+TEST_F(Feed, PerformsManyLinesInLinearTime) {
+    std::string script;
+    for (int number = 0; number < 400000; ++number) {
+        script += "# a line that does nothing\n";
+    }
+    feed.feedAll(script + "echo end\n");
+    EXPECT_EQ(trace.str(), "{\"echo\": \"end\"}\n");
+}
+
 TEST_F(Feed, AnEmptyScriptEndsWell) {
     feed.feedAll("");
     EXPECT_EQ(status, 0);

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "support/test_program.h"
@@ -173,6 +174,71 @@ TEST_F(ResultsTest, ANameThatIsNoFileNameShowsTheViewWithoutAFile) {
         q.tab(kTabDesign);
         q.close(q.window());
     }
+}
+
+// The names lead to files that exist: beside the program's folder, and in a folder below it.
+TEST_F(ResultsTest, ANameWithASlashHarmsNoOtherFile) {
+    const std::string victim = p.folder.path() + "-victim";
+    std::filesystem::create_directory(p.folder.file("Mero_"));
+    const std::string beside = std::filesystem::path(victim).filename().string();
+    for (const std::string& name : {"/../../" + beside, std::string("/inside"), std::string("/")}) {
+        std::ofstream(victim) << "other";
+        p.folder.write("Mero_/inside", "other");
+        chooseSurface(name);
+        p.tab(kTabResults);
+        EXPECT_THAT(p.desk.take(), ElementsAre(navigatedTo("Mero_" + name)));
+        p.desk.save_answer = p.folder.file("kopie.html");
+        p.click(w.cmdSaveResults);
+        EXPECT_THAT(p.desk.take(), testing::Contains(HasSubstr("Zprávu se nepodařilo uložit do souboru")));
+        EXPECT_FALSE(p.folder.has("kopie.html")) << "a copy of another file";
+        p.tab(kTabDesign);
+        EXPECT_EQ(p.folder.read("Mero_/inside"), "other") << name;
+        EXPECT_EQ(p.folder.read("../" + beside), "other") << name;
+    }
+    p.close(w);
+    EXPECT_EQ(p.folder.read("Mero_/inside"), "other");
+    EXPECT_EQ(p.folder.read("../" + beside), "other");
+    std::filesystem::remove(victim);
+}
+
+TEST_F(ResultsTest, ALinkInTheReportsPlaceIsNotFollowed) {
+    const std::string victim = p.folder.path() + "-victim";
+    std::ofstream(victim) << "other";
+    std::filesystem::create_symlink(victim, p.folder.file("Mero_Test"));
+    chooseSurface();
+    p.tab(kTabResults);
+    p.tab(kTabDesign);
+    p.close(w);
+    EXPECT_EQ(p.folder.read("../" + std::filesystem::path(victim).filename().string()), "other");
+    std::filesystem::remove(victim);
+}
+
+TEST_F(ResultsTest, ACopyNeverReplacesAFileThatTheProgramUses) {
+    p.folder.write("mero.mdb", "rain");
+    std::filesystem::create_directories(p.folder.file("Webs/Desc_soubory"));
+    p.folder.write("Webs/Desc01.htm", "page");
+    p.folder.write("Webs/Desc_soubory/logo.gif", "logo");
+    std::filesystem::create_symlink(p.folder.file("mero.mdb"), p.folder.file("odkaz.html"));
+    std::filesystem::create_hard_link(p.folder.file("mero.mdb"), p.folder.file("jméno.pdf"));
+    chooseSurface();
+    p.tab(kTabResults);
+    const std::string report = p.folder.read("Mero_Test");
+    for (const char* name :
+         {"mero.mdb", "Webs/../mero.mdb", "odkaz.html", "jméno.pdf", "Mero_Test", "./Mero_Test",
+          "Webs/Desc01.htm", "Webs/nový.html", "Webs/Desc_soubory/logo.gif"}) {
+        p.desk.take();
+        p.desk.save_answer = p.folder.file(name);
+        p.click(w.cmdSaveResults);
+        EXPECT_THAT(p.desk.take(),
+                    testing::Contains("critical: Zprávu se nepodařilo uložit do souboru " +
+                                      p.folder.file(name) + ". Tento soubor program sám používá."))
+            << name;
+    }
+    EXPECT_EQ(p.folder.read("mero.mdb"), "rain");
+    EXPECT_EQ(p.folder.read("Webs/Desc01.htm"), "page");
+    EXPECT_EQ(p.folder.read("Webs/Desc_soubory/logo.gif"), "logo");
+    EXPECT_EQ(p.folder.read("Mero_Test"), report);
+    EXPECT_FALSE(p.folder.has("Webs/nový.html"));
 }
 
 TEST_F(ResultsTest, AFolderInTheReportsPlaceStaysUnharmed) {

@@ -3,6 +3,7 @@
 #include "forms/calc/layout/manual_place.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "design/input.h"
 #include "design/quantity.h"
@@ -11,9 +12,9 @@
 namespace mero::forms {
 namespace {
 
-QString withoutColon(const char* caption) {
-    QString text = QString::fromUtf8(caption);
-    return text.endsWith(QLatin1Char(':')) ? text.chopped(1) : text;
+QString inManual(std::string_view caption) {
+    const std::string_view text = design::withoutColon(caption);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 /// The caption of a box of the first tab, empty for another control.
@@ -23,12 +24,12 @@ QString captionOnFirstTab(const std::string& control) {
     }
     for (const design::TextInputInfo& row : design::textInputs()) {
         if (control == row.box) {
-            return withoutColon(row.caption);
+            return inManual(row.caption);
         }
     }
     for (const design::InputInfo& row : design::inputs()) {
         if (control == row.box) {
-            return withoutColon(row.caption);
+            return inManual(row.caption);
         }
     }
     return {};
@@ -43,7 +44,7 @@ QString captionOnPanel(const std::string& control, FacilityType type) {
     if (control.empty() || found == panel.end()) {
         return {};
     }
-    return withoutColon(found->caption == nullptr ? info(found->input).caption : found->caption);
+    return inManual(found->caption == nullptr ? info(found->input).caption : found->caption);
 }
 
 /// Surface infiltration has no chapter of its own: it has no inputs.
