@@ -114,6 +114,9 @@ constexpr std::size_t kLongestSeries = std::size_t{1024} * 1024 * 1024;
 
 std::string contentOf(const std::string& file, std::size_t most_bytes = platform::kLongestTextFile) {
     platform::FileContent content = platform::readBounded(file, most_bytes);
+    if (content.failure == platform::ReadFailure::TooLarge && most_bytes == kLongestSeries) {
+        throw UsageError(file + ": cannot be read: it is larger than 1 GB");
+    }
     if (content.failure != platform::ReadFailure::None) {
         throw UsageError(file + ": cannot be read" + platform::detailOf(content.failure));
     }

@@ -109,6 +109,12 @@ expect 2 "into a broken file" "$batch" rain total --h24 50 --return-period 10 --
 [ "$(cat broken.json)" = '{' ] || fail "a broken project was changed"
 expect 2 "into nothing" "$batch" rain total --h24 50 --return-period 10 --into missing.json
 
+cp bare.csv source.csv
+ln source.csv twin.csv
+expect 2 "into its own source" "$batch" rain table source.csv --unit l/s/ha --into twin.csv
+holds err "is the source" "into its own source"
+expect 2 "a device" "$batch" rain table /dev/zero
+
 expect 2 "no source" "$batch" rain
 expect 2 "unknown source" "$batch" rain cloud
 expect 0 "help" "$batch" rain --help
