@@ -33,8 +33,12 @@ class Program {
     /// Called once, when the program has ended.
     std::function<void()> on_ended;
 
+    [[nodiscard]] const Surroundings& surroundings() const { return surroundings_; }
     [[nodiscard]] frmCalc& window() { return window_; }
+    [[nodiscard]] const frmCalc& window() const { return window_; }
     [[nodiscard]] const data::modPublicVariables& values() const { return values_; }
+    /// For restoring another moment of the window; the forms change them by their handlers.
+    [[nodiscard]] data::modPublicVariables& restoredValues() { return values_; }
     /// The form of that name, null when there is none.
     [[nodiscard]] platform::Form* form(std::string_view name);
     /// All four forms, the main window first.
@@ -43,7 +47,7 @@ class Program {
   private:
     void end(int exit_status);
 
-    platform::Desk* desk_;
+    Surroundings surroundings_;
     data::modPublicVariables values_;
     frmCalc window_;
     bool ended_ = false;

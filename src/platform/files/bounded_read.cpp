@@ -13,10 +13,26 @@
 namespace mero::platform {
 namespace {
 
+ReadFailure failureOfOpening(int error) {
+    switch (error) {
+        case ENOENT:
+        case ENOTDIR:
+            return ReadFailure::NotFound;
+        case EACCES:
+        case EPERM:
+            return ReadFailure::NotPermitted;
+        case ENXIO:  // a socket
+        case ENODEV:
+            return ReadFailure::NoFile;
+        default:
+            return ReadFailure::Failed;
+    }
+}
+
 FileContent readAll(int descriptor, std::size_t most_bytes) {
     struct stat status {};
     if (fstat(descriptor, &status) != 0) {
-        return {.bytes = {}, .failure = ReadFailure::Unreadable};
+        return {.bytes = {}, .failure = ReadFailure::Failed};
     }
     if (!S_ISREG(status.st_mode)) {
         return {.bytes = {}, .failure = ReadFailure::NoFile};
@@ -37,7 +53,7 @@ FileContent readAll(int descriptor, std::size_t most_bytes) {
             return {.bytes = std::move(bytes)};
         }
         if (count < 0 && errno != EINTR) {
-            return {.bytes = {}, .failure = ReadFailure::Unreadable};
+            return {.bytes = {}, .failure = ReadFailure::Failed};
         }
     }
     return {.bytes = {}, .failure = ReadFailure::TooLarge};
@@ -46,10 +62,12 @@ FileContent readAll(int descriptor, std::size_t most_bytes) {
 }  // namespace
 
 FileContent readBounded(const std::string& path, std::size_t most_bytes) {
+    if (path.find('\0') != std::string::npos) {
+        return {.bytes = {}, .failure = ReadFailure::NotFound};
+    }
     const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (descriptor < 0) {
-        // A socket cannot be opened.
-        return {.bytes = {}, .failure = errno == ENXIO ? ReadFailure::NoFile : ReadFailure::Unreadable};
+        return {.bytes = {}, .failure = failureOfOpening(errno)};
     }
     FileContent content = readAll(descriptor, most_bytes);
     close(descriptor);
@@ -67,7 +85,9 @@ const char* detailOf(ReadFailure failure) {
         case ReadFailure::TooLarge:
             return ": it is larger than 64 MB";
         case ReadFailure::None:
-        case ReadFailure::Unreadable:
+        case ReadFailure::NotFound:
+        case ReadFailure::NotPermitted:
+        case ReadFailure::Failed:
             break;
     }
     return "";

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 namespace mero::platform {
@@ -10,11 +11,13 @@ namespace mero::platform {
 /// Most bytes of a text file that a user names: a project, a script.
 inline constexpr std::size_t kLongestTextFile = std::size_t{64} * 1024 * 1024;
 
-enum class ReadFailure {
+enum class ReadFailure : std::uint8_t {
     None,
-    Unreadable,  ///< missing, not permitted, or an error while reading
-    NoFile,      ///< a folder, a device, a pipe or a socket, of which nothing was read
-    TooLarge,    ///< more bytes than the limit
+    NotFound,
+    NotPermitted,
+    Failed,    ///< an error while reading
+    NoFile,    ///< a folder, a device, a pipe or a socket, of which nothing was read
+    TooLarge,  ///< more bytes than the limit
 };
 
 struct FileContent {

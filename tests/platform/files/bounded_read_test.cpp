@@ -70,12 +70,12 @@ TEST(BoundedRead, RefusesWhatIsNoFile) {
 
 TEST(BoundedRead, SaysWhatIsMissingOrForbidden) {
     const test::TemporaryFolder folder;
-    EXPECT_EQ(readTextFile(folder.file("není")).failure, ReadFailure::Unreadable);
+    EXPECT_EQ(readTextFile(folder.file("není")).failure, ReadFailure::NotFound);
     folder.write("tajný", "x");
     fs::permissions(folder.path(), fs::perms::all);
     fs::permissions(folder.file("tajný"), fs::perms::none);
     EXPECT_EQ(test::unprivileged([&] { return readTextFile(folder.file("tajný")).failure; }),
-              ReadFailure::Unreadable);
+              ReadFailure::NotPermitted);
 }
 
 }  // namespace
