@@ -78,7 +78,7 @@ void HeadlessUser::tick() {
 }
 
 void HeadlessUser::close(platform::Form& form) {
-    program_->enter([&] { form.close_requested(); });
+    program_->enter([&] { form.userCloses(); });
 }
 
 }  // namespace mero::automation

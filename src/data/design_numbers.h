@@ -15,6 +15,8 @@ struct SiteNumbers {
     float txtHPV = 0;            ///< groundwater level below the surface [m], 0: not given
     float txtOdtokDoVsak = 0;    ///< inflow into the facility [l/s]
     float txtSoucFiltrace = 0;   ///< filtration coefficient of the subsoil [m/s]
+
+    friend bool operator==(const SiteNumbers&, const SiteNumbers&) = default;
 };
 
 /// Inputs of the six panels.
@@ -36,6 +38,8 @@ struct FacilityInputs {
     float txtSirkaDnaNadrz = 0;     ///< tank bottom width [m]
     float txtHloubkaNadrz = 0;      ///< tank depth [m]
     float txtSklonSvahuNadrz = 0;   ///< tank side slope, the n of 1 : n
+
+    friend bool operator==(const FacilityInputs&, const FacilityInputs&) = default;
 };
 
 /// Pipes in the fill of a trench: the sub-panel of the overflow (combined object) or of the drain (trench).
@@ -46,6 +50,8 @@ struct PipeInputs {
     float txtSpecDrenOdtok = 0;   ///< throttled outflow [l/(s.ha)]
     float txtVystupPlocha = 0;    ///< outlet openings of the pipe [cm2/m]
     float txtVystupRychlost = 0;  ///< outlet velocity [m/s]
+
+    friend bool operator==(const PipeInputs&, const PipeInputs&) = default;
 };
 
 /// The inputs that the window opens with; all others open as 0.
@@ -76,8 +82,12 @@ struct DesignResults {
     float shaft_side1_m = 0;        ///< first inner side of a rectangular shaft; outlives an emptied box [m]
     float D_i = 0;                  ///< inner, or equivalent inner, diameter of the shaft [m]
     float D_a = 0;                  ///< outer, or equivalent outer, diameter of the shaft [m]
+
+    friend bool operator==(const DesignResults&, const DesignResults&) = default;
 };
 
-struct DesignNumbers : SiteNumbers, FacilityInputs, PipeInputs, DesignResults {};
+struct DesignNumbers : SiteNumbers, FacilityInputs, PipeInputs, DesignResults {
+    friend bool operator==(const DesignNumbers&, const DesignNumbers&) = default;
+};
 
 }  // namespace mero::data

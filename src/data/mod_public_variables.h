@@ -46,6 +46,8 @@ class OneBasedList {
     void resize(int length) { items_.resize(static_cast<std::size_t>(length)); }
     [[nodiscard]] const std::vector<T>& items() const { return items_; }
 
+    friend bool operator==(const OneBasedList&, const OneBasedList&) = default;
+
   private:
     [[nodiscard]] std::size_t checkedIndex(int position) const {
         if (position < 1 || position > length()) {
@@ -80,6 +82,8 @@ struct RainValues {
     std::array<float, kDurationCount> IntenzitaDeste{};                                   ///< [l/s.ha]
     std::string VybranaStanice;      ///< "" before any choice
     std::string VybranaPeriodicita;  ///< "" before any choice
+
+    friend bool operator==(const RainValues&, const RainValues&) = default;
 };
 
 /// The drained area. The three lists always have the same length, the last position being a spare slot.
@@ -87,6 +91,8 @@ struct DrainedAreaValues {
     OneBasedList<float> DilciPlocha;         ///< partial areas [m2]
     OneBasedList<float> OdtokovySoucinitel;  ///< their runoff coefficients [-]
     OneBasedList<std::string> TypPovrchu;    ///< their surfaces
+
+    friend bool operator==(const DrainedAreaValues&, const DrainedAreaValues&) = default;
 };
 
 /// The texts of the main window, each named after the box that holds it.
@@ -97,6 +103,8 @@ struct ProjectTexts {
     std::string txtInvestor;
     std::string txtDetails;
     std::string txtTypPudyPodlozi;
+
+    friend bool operator==(const ProjectTexts&, const ProjectTexts&) = default;
 };
 
 /// Where the program's files are. Full paths with the platform's separator.

@@ -45,6 +45,7 @@ struct Verdict {
     std::array<float, kMostSubjects> values;  ///< of the subjects of info(id), in their order
 
     friend bool operator==(const Verdict& verdict, VerdictId other) { return verdict.id == other; }
+    friend bool operator==(const Verdict&, const Verdict&) = default;
 };
 
 namespace table {

@@ -205,11 +205,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
         // The end of the user's session must not wait for somebody to close a box.
         kit_->typing().forget();
     }
-    kit_->enter([this] {
-        if (form_->close_requested) {
-            form_->close_requested();
-        }
-    });
+    kit_->enter([this] { form_->userCloses(); });
     // An unanswered close request would block the end of the user's session.
     event->setAccepted(!form_->visible());
 }

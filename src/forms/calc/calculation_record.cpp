@@ -113,6 +113,13 @@ bool sameResults(FacilityType type, const CalculationState& a, const Calculation
            });
 }
 
+void CalculationRecord::restore(const Calculations& calculations) {
+    last_ = calculations;
+    if (ended) {
+        ended();
+    }
+}
+
 void CalculationRecord::begin(FacilityType type) {
     Calculation& calculation = last_[data::index(type)];
     calculation.end = CalculationEnd::Running;

@@ -26,6 +26,8 @@ struct CalculationState {
     bool upstream_settling = false;
     bool pipes_ticked = false;  ///< overflow (combined object) or drain (trench)
     data::ShaftShape shaft_shape = data::ShaftShape::Round;
+
+    friend bool operator==(const CalculationState&, const CalculationState&) = default;
 };
 
 /// Would the type's calculation read the same? What the type does not read may differ.
@@ -46,6 +48,8 @@ struct Calculation {
     CalculationEnd end = CalculationEnd::None;
     CalculationState state;                 ///< at the end
     std::vector<design::Verdict> verdicts;  ///< in the order in which they were told
+
+    friend bool operator==(const Calculation&, const Calculation&) = default;
 };
 
 class CalculationRecord {
@@ -55,13 +59,19 @@ class CalculationRecord {
     void tell(FacilityType type, const design::Verdict& verdict);
     void end(FacilityType type, CalculationEnd how, const CalculationState& state);
 
-    /// Called when a calculation ended, whatever came of it.
+    /// The last calculation of each type, by its number.
+    using Calculations = std::array<Calculation, data::kTypeSlots>;
+    [[nodiscard]] const Calculations& all() const { return last_; }
+    /// Takes those of another moment.
+    void restore(const Calculations& calculations);
+
+    /// Called when a calculation ended, whatever came of it, and when others were taken.
     std::function<void()> ended;
 
     [[nodiscard]] const Calculation& last(FacilityType type) const { return last_[data::index(type)]; }
 
   private:
-    std::array<Calculation, data::kTypeSlots> last_;
+    Calculations last_;
 };
 
 }  // namespace mero::forms

@@ -94,6 +94,8 @@ class frmCalc : public frmCalcControls {
     void cmdPrint_Click();
 
     [[nodiscard]] const data::modPublicVariables& values() const { return *values_; }
+    /// Full path of the rain database, whether any dialog was opened or not.
+    [[nodiscard]] std::string databasePath() const;
     [[nodiscard]] platform::modRegSettings& regSettings() { return reg_settings_; }
     [[nodiscard]] const CalculationRecord& record() const { return record_; }
     [[nodiscard]] CalculationRecord& record() { return record_; }

@@ -34,7 +34,10 @@ class Program {
     std::function<void()> on_ended;
 
     [[nodiscard]] frmCalc& window() { return window_; }
+    [[nodiscard]] const frmCalc& window() const { return window_; }
     [[nodiscard]] const data::modPublicVariables& values() const { return values_; }
+    /// For restoring another moment of the window; the forms change them by their handlers.
+    [[nodiscard]] data::modPublicVariables& restoredValues() { return values_; }
     /// The form of that name, null when there is none.
     [[nodiscard]] platform::Form* form(std::string_view name);
     /// All four forms, the main window first.

@@ -58,7 +58,11 @@ void frmCalc::cmdEdit_Click(int Index) {
             return;
     }
     // Set after the dialog is shown: the rain dialog opens the database only when a station is chosen.
-    values_->CestaDatabaze = folder_ + kDatabaseFile;
+    values_->CestaDatabaze = databasePath();
+}
+
+std::string frmCalc::databasePath() const {
+    return folder_ + kDatabaseFile;
 }
 
 void frmCalc::lblOdkaz_Click(int Index) {

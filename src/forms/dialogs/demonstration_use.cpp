@@ -8,32 +8,32 @@ bool DemonstrationUse::isPickedDemonstration(const data::modPublicVariables& val
     if (!(values.VybranaIntenzita > 0.0F)) {
         return false;
     }
-    for (std::size_t row = 0; row < rows_.size(); ++row) {
+    for (std::size_t row = 0; row < rains_.rows.size(); ++row) {
         if (values.IntenzitaDeste[row] == values.VybranaIntenzita &&
             values.DobaTrvani[row] == values.VybranaDoba) {
-            return rows_[row];
+            return rains_.rows[row];
         }
     }
-    return picked_;
+    return rains_.picked;
 }
 
 void DemonstrationUse::tableTaken(const data::modPublicVariables& values) {
-    picked_ = isPickedDemonstration(values);
-    rows_.fill(station_);
+    rains_.picked = isPickedDemonstration(values);
+    rains_.rows.fill(rains_.station);
 }
 
 void DemonstrationUse::durationTyped(const data::modPublicVariables& values) {
-    picked_ = isPickedDemonstration(values);
+    rains_.picked = isPickedDemonstration(values);
 }
 
 void DemonstrationUse::intensityTyped(const data::modPublicVariables& values, std::size_t row) {
-    picked_ = isPickedDemonstration(values);
-    rows_[row] = false;
+    rains_.picked = isPickedDemonstration(values);
+    rains_.rows[row] = false;
 }
 
 bool DemonstrationUse::inUse(const data::modPublicVariables& values) const {
-    for (std::size_t row = 0; row < rows_.size(); ++row) {
-        if (rows_[row] && values.IntenzitaDeste[row] != 0.0F) {
+    for (std::size_t row = 0; row < rains_.rows.size(); ++row) {
+        if (rains_.rows[row] && values.IntenzitaDeste[row] != 0.0F) {
             return true;
         }
     }

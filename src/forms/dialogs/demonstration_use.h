@@ -9,10 +9,22 @@
 
 namespace mero::forms {
 
+/// What is known of the rains in use.
+struct DemonstrationRains {
+    bool station = false;                           ///< of the station's table that was read last
+    std::array<bool, data::kDurationCount> rows{};  ///< of the rain table
+    bool picked = false;                            ///< of a picked rain that is no row of the table any more
+
+    friend bool operator==(const DemonstrationRains&, const DemonstrationRains&) = default;
+};
+
 class DemonstrationUse {
   public:
+    [[nodiscard]] const DemonstrationRains& rains() const { return rains_; }
+    void restore(const DemonstrationRains& rains) { rains_ = rains; }
+
     /// A station's table was read; its values are not in use yet.
-    void stationRead(bool demonstration) { station_ = demonstration; }
+    void stationRead(bool demonstration) { rains_.station = demonstration; }
     /// The station's values are about to replace the rain table.
     void tableTaken(const data::modPublicVariables& values);
     /// A duration of the table is about to be typed; its intensity stays what it is.
@@ -27,9 +39,7 @@ class DemonstrationUse {
     /// The picked rain is one of the table's rows, or was before the table changed.
     [[nodiscard]] bool isPickedDemonstration(const data::modPublicVariables& values) const;
 
-    bool station_ = false;
-    std::array<bool, data::kDurationCount> rows_{};
-    bool picked_ = false;  ///< of a picked rain that is no row of the table any more
+    DemonstrationRains rains_;
 };
 
 }  // namespace mero::forms

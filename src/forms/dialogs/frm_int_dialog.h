@@ -59,6 +59,9 @@ class frmIntDialog : public Dialog {
     /// The note of the demonstration database while any rain in use comes from one, else "".
     [[nodiscard]] std::string demonstrationNote() const;
 
+    [[nodiscard]] const DemonstrationUse& demonstration() const { return demonstration_; }
+    [[nodiscard]] DemonstrationUse& demonstration() { return demonstration_; }
+
   protected:
     void Form_Load() override;
 

@@ -29,6 +29,28 @@ void OptionButton::setSelected(bool selected) {
     }
 }
 
+ControlState OptionButton::state() const {
+    ControlState state = Captioned::state();
+    state.chosen = selected_;
+    return state;
+}
+
+void OptionButton::showState(const ControlState& state) {
+    Captioned::showState(state);
+    take(selected_, state.chosen, Aspect::Checked);
+}
+
+ControlState CheckBox::state() const {
+    ControlState state = Captioned::state();
+    state.chosen = checked_;
+    return state;
+}
+
+void CheckBox::showState(const ControlState& state) {
+    Captioned::showState(state);
+    take(checked_, state.chosen, Aspect::Checked);
+}
+
 void CheckBox::setChecked(bool checked) {
     if (checked == checked_) {
         return;

@@ -34,6 +34,7 @@ class Button : public Captioned {
   public:
     using Captioned::Captioned;
     void userClick() const {
+        beforeUserActs();
         if (clicked) {
             clicked();
         }
@@ -46,6 +47,7 @@ class Label : public Captioned {
   public:
     using Captioned::Captioned;
     void userClick() const {
+        beforeUserActs();
         if (clicked) {
             clicked();
         }
@@ -63,7 +65,13 @@ class OptionButton : public Captioned {
 
     [[nodiscard]] bool selected() const { return selected_; }
     void setSelected(bool selected);
-    void userClick() { setSelected(true); }
+    void userClick() {
+        beforeUserActs();
+        setSelected(true);
+    }
+
+    [[nodiscard]] ControlState state() const override;
+    void showState(const ControlState& state) override;
 
     std::function<void()> clicked;
 
@@ -81,7 +89,13 @@ class CheckBox : public Captioned {
 
     [[nodiscard]] bool checked() const { return checked_; }
     void setChecked(bool checked);
-    void userClick() { setChecked(!checked_); }
+    void userClick() {
+        beforeUserActs();
+        setChecked(!checked_);
+    }
+
+    [[nodiscard]] ControlState state() const override;
+    void showState(const ControlState& state) override;
 
     std::function<void()> clicked;
 
@@ -95,6 +109,7 @@ class UpDown : public Control {
     using Control::Control;
     enum class Direction { Up, Down };
     void userSpin(Direction direction) const {
+        beforeUserActs();
         if (spun) {
             spun(direction);
         }

@@ -8,6 +8,20 @@
 
 namespace mero::platform {
 
+ControlState Panel::state() const {
+    ControlState state = Captioned::state();
+    state.left = left_;
+    state.top = top_;
+    return state;
+}
+
+void Panel::showState(const ControlState& state) {
+    if (left_ != state.left || top_ != state.top) {
+        moveTo(state.left, state.top);
+    }
+    Captioned::showState(state);
+}
+
 TabPage::TabPage(TabControl& tabs, int position)
     : Control(tabs, tabs.name() + ".page(" + numbers::general(position) + ")"),
       tabs_(&tabs),

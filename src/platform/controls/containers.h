@@ -33,6 +33,9 @@ class Panel : public Captioned {
         notify(Aspect::Place);
     }
 
+    [[nodiscard]] ControlState state() const override;
+    void showState(const ControlState& state) override;
+
   private:
     int left_ = 0;
     int top_ = 0;
@@ -63,7 +66,10 @@ class TabControl : public Control {
     [[nodiscard]] TabPage& page(int position) const { return *pages_.at(static_cast<std::size_t>(position)); }
     /// @param position 0 to the number of tabs - 1
     void setPosition(int position);
-    void userSelect(int position) { setPosition(position); }
+    void userSelect(int position) {
+        beforeUserActs();
+        setPosition(position);
+    }
 
     std::function<void(int previous)> changed;
 

@@ -26,6 +26,24 @@ void Control::setVisible(bool visible) {
     notify(Aspect::Visible);
 }
 
+ControlState Control::state() const {
+    ControlState state;
+    state.enabled = enabled_;
+    state.visible = visible_;
+    return state;
+}
+
+void Control::showState(const ControlState& state) {
+    take(enabled_, state.enabled, Aspect::Enabled);
+    take(visible_, state.visible, Aspect::Visible);
+}
+
+void Control::beforeUserActs() const {
+    if (form_->before_user_acts) {
+        form_->before_user_acts(*this);
+    }
+}
+
 bool Control::onScreen() const {
     if (!visible_) {
         return false;

@@ -7,6 +7,8 @@
 #include <list>
 #include <string>
 
+#include "platform/controls/control_state.h"
+
 namespace mero::platform {
 
 class Form;
@@ -55,6 +57,12 @@ class Control {
     /// True when the control and all its containers are enabled.
     [[nodiscard]] bool reachable() const;
 
+    /// What the control holds now.
+    [[nodiscard]] virtual ControlState state() const;
+    /// Takes the state of a control of the same kind. Observers are notified of what changes; no handler
+    /// runs.
+    virtual void showState(const ControlState& state);
+
     /// Requests the input focus (called by code).
     void setFocus() { notify(Aspect::Focus); }
 
@@ -65,6 +73,16 @@ class Control {
     /// A form: no container, it is its own form.
     Control(Form& self, std::string name, bool visible);
     void notify(Aspect aspect) const;
+    /// Called by everything that a user does to the control, before its handlers run.
+    void beforeUserActs() const;
+    /// Assigns `to` and notifies when it differs.
+    template <typename T>
+    void take(T& member, const T& to, Aspect aspect) {
+        if (member != to) {
+            member = to;
+            notify(aspect);
+        }
+    }
     /// Whether the content of this container is shown (of the tab pages: only the current one's).
     [[nodiscard]] virtual bool showsContent() const { return visible_; }
 

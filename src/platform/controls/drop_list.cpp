@@ -13,6 +13,24 @@ std::string DropList::text() const {
     return position_ < 0 ? std::string() : items_[static_cast<std::size_t>(position_)];
 }
 
+ControlState DropList::state() const {
+    ControlState state = Control::state();
+    state.items = items_;
+    state.position = position_;
+    return state;
+}
+
+void DropList::showState(const ControlState& state) {
+    Control::showState(state);
+    // The position first: observers of the entries read it, too.
+    const bool same_position = position_ == state.position;
+    position_ = state.position;
+    take(items_, state.items, Aspect::Items);
+    if (!same_position) {
+        notify(Aspect::Position);
+    }
+}
+
 void DropList::clear() {
     items_.clear();
     position_ = -1;

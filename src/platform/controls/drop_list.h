@@ -33,12 +33,19 @@ class DropList : public Control {
     /// Position of the entry with that text, -1 for none.
     [[nodiscard]] int find(std::string_view text) const;
 
-    void userSelect(int position) { select(position); }
+    void userSelect(int position) {
+        beforeUserActs();
+        select(position);
+    }
     void userGotFocus() const {
+        beforeUserActs();
         if (got_focus) {
             got_focus();
         }
     }
+
+    [[nodiscard]] ControlState state() const override;
+    void showState(const ControlState& state) override;
 
     std::function<void()> clicked;
     std::function<void()> got_focus;

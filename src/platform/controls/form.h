@@ -23,7 +23,12 @@ class Form : public Control {
     [[nodiscard]] Control* find(std::string_view name) const;
 
     /// The user clicks the form's close box.
+    void userCloses() const;
+
     std::function<void()> close_requested;
+    /// Called with the control that a user is about to change, click, enter or leave, before its handlers
+    /// run. Code that assigns to a control does not call it.
+    std::function<void(const Control&)> before_user_acts;
 
   private:
     friend class Control;

@@ -75,6 +75,7 @@ void Grid::setMark(GridCell cell, std::optional<bool> marked) {
 }
 
 void Grid::userClick(GridCell cell) {
+    beforeUserActs();
     mouse_ = cell;
     if (cell != current_) {
         const GridCell left = current_;

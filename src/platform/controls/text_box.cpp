@@ -39,6 +39,7 @@ void TextBox::showText(std::string text) {
 void TextBox::userEdit(const std::string& text) {
     std::string entered = accepted(text);
     if (entered != text_) {
+        beforeUserActs();
         setText(std::move(entered));
     }
 }
@@ -48,19 +49,35 @@ void TextBox::setGreyed(bool greyed) {
     notify(Aspect::Colour);
 }
 
+ControlState TextBox::state() const {
+    ControlState state = Control::state();
+    state.text = text_;
+    state.greyed = greyed_;
+    return state;
+}
+
+void TextBox::showState(const ControlState& state) {
+    Control::showState(state);
+    take(greyed_, state.greyed, Aspect::Colour);
+    take(text_, state.text, Aspect::Text);
+}
+
 void TextBox::userKey(Key key) const {
+    beforeUserActs();
     if (key_pressed) {
         key_pressed(key);
     }
 }
 
 void TextBox::userGotFocus() const {
+    beforeUserActs();
     if (got_focus) {
         got_focus();
     }
 }
 
 void TextBox::userLostFocus() const {
+    beforeUserActs();
     if (lost_focus) {
         lost_focus();
     }

@@ -50,6 +50,9 @@ class TextBox : public Control {
     /// Button-face background instead of the normal window background.
     void setGreyed(bool greyed);
 
+    [[nodiscard]] ControlState state() const override;
+    void showState(const ControlState& state) override;
+
     void userKey(Key key) const;
     void userGotFocus() const;
     void userLostFocus() const;
