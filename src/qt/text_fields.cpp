@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "qt/file_drop.h"
 #include "qt/look.h"
 #include "qt/texts.h"
 #include "qt/undo_keys.h"
@@ -96,6 +97,7 @@ void bindLine(WidgetKit& kit, TextBox& box, QLineEdit& line) {
     bindBox(kit, box, line);
     line.installEventFilter(new KeyFilter(kit, box, line));
     leaveUndoToWindow(line);
+    leaveFilesToWindow(line);
     follow(box, line, [&box, &line](Aspect aspect) {
         if (aspect == Aspect::Text) {
             showText(line, box);
@@ -132,6 +134,7 @@ QPlainTextEdit& makeTextArea(WidgetKit& kit, TextBox& box, QWidget& parent) {
     area.setFocusPolicy(Qt::StrongFocus);
     bindBox(kit, box, area);
     leaveUndoToWindow(area);
+    leaveFilesToWindow(*area.viewport());
     follow(box, area, [&box, &area](Aspect aspect) {
         if (aspect == Aspect::Text) {
             showText(area, box);

@@ -11,6 +11,7 @@
 #include <iostream>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -21,6 +22,7 @@
 #include "app/common/program_folder.h"
 #include "app/common/standard_streams.h"
 #include "app/mero/pdf_file.h"
+#include "app/mero/project_commands.h"
 #include "app/mero/qt_desk.h"
 #include "app/mero/qt_user.h"
 #include "app/mero/script_feed.h"
@@ -30,6 +32,7 @@
 #include "data/rain_database.h"
 #include "forms/calc/layout/calc_window.h"
 #include "forms/calc/program.h"
+#include "forms/keeping/project_work.h"
 #include "platform/locale_settings.h"
 #include "platform/numbers/numeric_locale.h"
 #include "qt/palettes.h"
@@ -100,7 +103,9 @@ class Mero {
           kit_([this](const std::function<void()>& event) { program_.enter(event); },
                scripted_ ? qt::FocusEvents::RunNothing : qt::FocusEvents::RunHandlers),
           window_(kit_, program_.window(),
-                  {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}) {
+                  {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}),
+          commands_({program_, kit_, window_, real_desk_, rain_database_}) {
+        window_.setMenus(commands_.menus());
         real_desk_.setMainWindow(&window_);
         real_desk_.message_closed = [this](const platform::Message& message) {
             window_.returnToField(message);
@@ -122,6 +127,7 @@ class Mero {
         if (program_.ended()) {
             return program_.exitStatus();
         }
+        commands_.begin(work_.emplace(program_));
         tellOfMissingFolder();
         return scripted_ ? runScript() : runForPerson();
     }
@@ -178,6 +184,8 @@ class Mero {
     forms::Program program_;
     qt::WidgetKit kit_;
     forms::CalcWindow window_;
+    app::ProjectCommands commands_;
+    std::optional<forms::ProjectWork> work_;  ///< made when the window is open
 };
 
 /// Needs no display on any desktop.
