@@ -21,6 +21,7 @@
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
 #include "app/common/standard_streams.h"
+#include "app/keeping/user_folders.h"
 #include "app/mero/pdf_file.h"
 #include "app/mero/project_commands.h"
 #include "app/mero/qt_desk.h"
@@ -37,6 +38,7 @@
 #include "platform/numbers/numeric_locale.h"
 #include "qt/palettes.h"
 #include "qt/program_style.h"
+#include "qt/texts.h"
 #include "report/view_html.h"
 
 namespace {
@@ -47,11 +49,13 @@ constexpr int kUnusable = 2;
 constexpr int kClockPeriodMs = 1000;
 
 constexpr const char* kHelp =
-    "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--palette light|dark] [--script SCRIPT]\n"
+    "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--palette light|dark] [PROJECT]\n"
+    "       mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--palette light|dark] --script SCRIPT\n"
     "       mero --export-pdf REPORT FILE [NOTE]\n"
     "\n"
     "Design of stormwater infiltration facilities.\n"
     "\n"
+    "  PROJECT           a project file to open (*.mero.json, *.json)\n"
     "  --folder DIR      the program's folder: mero.mdb, Webs, the report file\n"
     "  --clock TIME      freezes date and time\n"
     "  --palette light|dark\n"
@@ -92,6 +96,7 @@ class Mero {
     Mero(const app::RunOptions& options, std::string script, const app::EndSignals& end_signals)
         : scripted_(!options.script.empty()),
           script_name_(options.script),
+          project_(options.project),
           script_(std::move(script)),
           folder_(app::folderOrDefault(options.folder)),
           real_desk_(scripted_ ? app::Sitter::Script : app::Sitter::Person, report::viewHtml),
@@ -112,7 +117,12 @@ class Mero {
         };
         app::tellBesideFields(real_desk_, kit_.typing());
         real_desk_.file_saved = [this](const std::string& path) { window_.tellSaved(path); };
-        program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
+        program_.on_ended = [this] {
+            if (work_) {
+                commands_.files().finish();
+            }
+            QApplication::exit(program_.exitStatus());
+        };
         if (end_signals.descriptor() >= 0) {
             auto* request = new QSocketNotifier(end_signals.descriptor(), QSocketNotifier::Read, &window_);
             QObject::connect(request, &QSocketNotifier::activated, &window_, [this, request] {
@@ -127,12 +137,29 @@ class Mero {
         if (program_.ended()) {
             return program_.exitStatus();
         }
-        commands_.begin(work_.emplace(program_));
+        begin();
         tellOfMissingFolder();
         return scripted_ ? runScript() : runForPerson();
     }
 
   private:
+    /// With a script nothing is kept between runs.
+    void begin() {
+        const app::KeepingPlaces places =
+            scripted_ ? app::KeepingPlaces{}
+                      : app::KeepingPlaces{app::preferencesFile(), app::recoveryFolder()};
+        commands_.begin(work_.emplace(program_, forms::ProjectSource{rain_database_, folder_}), places);
+        if (scripted_) {
+            return;
+        }
+        qt::later(window_, [this] {
+            commands_.files().offerLost();
+            if (!project_.empty()) {
+                commands_.files().open(qt::shown(project_));
+            }
+        });
+    }
+
     platform::Desk& desk() {
         return scripted_ ? static_cast<platform::Desk&>(trace_desk_)
                          : static_cast<platform::Desk&>(real_desk_);
@@ -175,6 +202,7 @@ class Mero {
     bool scripted_;
     std::string script_name_;
     std::string script_;
+    std::string project_;
     std::string folder_;
     app::QtDesk real_desk_;
     automation::TraceDesk trace_desk_;
@@ -184,8 +212,9 @@ class Mero {
     forms::Program program_;
     qt::WidgetKit kit_;
     forms::CalcWindow window_;
+    // Made when the window is open; the commands use it to their end.
+    std::optional<forms::ProjectWork> work_;
     app::ProjectCommands commands_;
-    std::optional<forms::ProjectWork> work_;  ///< made when the window is open
 };
 
 /// Needs no display on any desktop.

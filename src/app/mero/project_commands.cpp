@@ -2,11 +2,12 @@
 /// Each command is an event of the user, as a click on a button is.
 #include "app/mero/project_commands.h"
 
-#include <QAction>
+#include <QDir>
 #include <QFileInfo>
 
 #include "app/mero/about_box.h"
 #include "forms/calc/layout/result_rows.h"
+#include "qt/file_drop.h"
 #include "qt/texts.h"
 
 namespace mero::app {
@@ -20,6 +21,16 @@ using qt::Menu;
 using qt::MenuEntry;
 using qt::separator;
 
+/// The file's name, and its folder, in which the home is "~".
+QString menuText(const QString& path) {
+    const QFileInfo file(path);
+    QString folder = file.absolutePath();
+    if (folder.startsWith(QDir::homePath() + QLatin1Char('/'))) {
+        folder = QLatin1Char('~') + folder.mid(QDir::homePath().size());
+    }
+    return qt::captionText(qt::stored(file.fileName() + QStringLiteral(" – ") + folder));
+}
+
 }  // namespace
 
 std::vector<Menu> ProjectCommands::menus() {
@@ -30,8 +41,30 @@ Menu ProjectCommands::projectMenu() {
     return {
         QStringLiteral("Pro&jekt"),
         {
-            {"new", QStringLiteral("&Nový"), {QKeySequence(Qt::CTRL | Qt::Key_N)}, [this] { startNew(); }},
-            separator(),
+                {"new",
+                 QStringLiteral("&Nový"),
+                 {QKeySequence(Qt::CTRL | Qt::Key_N)},
+                 [this] { files_->startNew(); }},
+                {"open",
+                 QStringLiteral("&Otevřít…"),
+                 {QKeySequence(Qt::CTRL | Qt::Key_O)},
+                 [this] { files_->open(); }},
+                {"usedLast",
+                 QStringLiteral("Naposledy otev&řené"),
+                 {},
+                 {},
+                 [this] { return EntryLook{!files_->usedLast().empty()}; },
+                 [this] { return usedLast(); }},
+                separator(),
+                {"save",
+                 QStringLiteral("&Uložit"),
+                 {QKeySequence(Qt::CTRL | Qt::Key_S)},
+                 [this] { files_->save(); }},
+                {"saveAs",
+                 QStringLiteral("Uložit &jako…"),
+                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
+                 [this] { files_->saveAs(); }},
+                separator(),
             {"print",
              QStringLiteral("&Tisk…"),
              {QKeySequence(Qt::CTRL | Qt::Key_P)},
@@ -73,16 +106,33 @@ Menu ProjectCommands::helpMenu() {
             }};
 }
 
-void ProjectCommands::begin(forms::ProjectWork& work) {
+std::vector<MenuEntry> ProjectCommands::usedLast() {
+    std::vector<MenuEntry> entries;
+    for (const std::string& file : files_->usedLast()) {
+        const QString path = qt::shown(file);
+        entries.push_back({path, menuText(path), {}, [this, path] { files_->open(path); }});
+    }
+    return entries;
+}
+
+void ProjectCommands::begin(forms::ProjectWork& work, const KeepingPlaces& places) {
     work_ = &work;
+    files_.emplace(ProjectFiles::Place{place_.program, place_.kit, place_.window, place_.desk}, work, places);
+    files_->changed = [this] { showTitle(); };
     title_timer_.setSingleShot(true);
     connect(&title_timer_, &QTimer::timeout, this, [this] { showTitle(); });
     work.acted = [this] { notice(); };
+    qt::takeDroppedFiles(place_.window, [this](const QString& path) {
+        if (place_.program.window().enabled()) {  // no dialog is open
+            files_->open(path);
+        }
+    });
 }
 
 void ProjectCommands::notice() {
     if (!title_timer_.isActive()) {
         title_timer_.start(kTitleDelayMs);
+        files_->notice();
     }
 }
 
@@ -107,16 +157,7 @@ EntryLook ProjectCommands::stepLook(const char* command, const std::optional<std
     if (!step) {
         return {false};
     }
-    const QString name = qt::shown(*step).replace(QLatin1Char('&'), QLatin1String("&&"));
-    return {true, QString::fromUtf8(command) + QStringLiteral(": ") + name};
-}
-
-void ProjectCommands::startNew() {
-    place_.kit.enter([this] {
-        work_->startNew();
-        place_.program.window().SSTab1.userSelect(forms::kTabInputs);
-    });
-    showTitle();
+    return {true, QString::fromUtf8(command) + QStringLiteral(": ") + qt::captionText(*step)};
 }
 
 void ProjectCommands::undo() {
@@ -125,6 +166,7 @@ void ProjectCommands::undo() {
             leadTo(*step);
         }
     });
+    files_->notice();
     showTitle();
 }
 
@@ -134,6 +176,7 @@ void ProjectCommands::redo() {
             leadTo(*step);
         }
     });
+    files_->notice();
     showTitle();
 }
 

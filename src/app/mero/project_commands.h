@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "app/mero/project_files.h"
 #include "app/mero/qt_desk.h"
 #include "data/rain_database.h"
 #include "forms/calc/layout/calc_window.h"
@@ -35,14 +36,15 @@ class ProjectCommands : public QObject {
     /// For the window, before it is opened.
     [[nodiscard]] std::vector<qt::Menu> menus();
     /// The window was opened: the commands can be used.
-    void begin(forms::ProjectWork& work);
+    void begin(forms::ProjectWork& work, const KeepingPlaces& places);
+    [[nodiscard]] ProjectFiles& files() { return *files_; }
 
   private:
     [[nodiscard]] qt::Menu projectMenu();
     [[nodiscard]] qt::Menu editMenu();
     [[nodiscard]] qt::Menu helpMenu();
 
-    void startNew();
+    [[nodiscard]] std::vector<qt::MenuEntry> usedLast();
     void undo();
     void redo();
     void print();
@@ -59,6 +61,7 @@ class ProjectCommands : public QObject {
 
     Place place_;
     forms::ProjectWork* work_ = nullptr;
+    std::optional<ProjectFiles> files_;
     QTimer title_timer_;
 };
 

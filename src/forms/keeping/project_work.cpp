@@ -9,16 +9,27 @@
 namespace mero::forms {
 namespace {
 
+/// Of a file that is only compared with itself later.
+constexpr std::size_t kLargestCompared = std::size_t{64} * 1024 * 1024;
+
 std::shared_ptr<OpenProject> newProject(const WindowState& opening) {
     auto project = std::make_shared<OpenProject>();
     project->saved = opening;
     return project;
 }
 
+std::shared_ptr<OpenProject> openedProject(const std::string& path, const Opened& opened) {
+    auto project = newProject(opened.state);
+    project->path = path;
+    project->kept = opened.kept;
+    project->stamp = opened.stamp;
+    return project;
+}
+
 }  // namespace
 
-ProjectWork::ProjectWork(Program& program)
-    : program_(&program), opening_(stateOf(program)), history_(program, newProject(opening_)) {
+ProjectWork::ProjectWork(Program& program, const ProjectSource& source)
+    : program_(&program), source_(source), history_(program, newProject(stateOf(program))) {
     for (platform::Form* form : program.forms()) {
         form->before_user_acts = [this](const platform::Control& control) {
             history_.beforeUserActs(control);
@@ -40,7 +51,39 @@ bool ProjectWork::changed() const {
 }
 
 void ProjectWork::startNew() {
-    history_.enter("Nový projekt", opening_, newProject(opening_));
+    history_.enter("Nový projekt", openingState(), newProject(openingState()));
+}
+
+std::vector<std::string> ProjectWork::open(const std::string& path) {
+    const Opened opened = openProject(path, source_);
+    history_.enter("Otevření projektu", opened.state, openedProject(path, opened));
+    return opened.remarks;
+}
+
+std::vector<std::string> ProjectWork::recover(const std::string& copy, const std::string& origin) {
+    const Opened opened = openProject(copy, source_);
+    auto project = openedProject(origin, opened);
+    project->recovered = true;
+    project->recovery_copy = copy;
+    // Whoever changed the file since the work began is not asked about.
+    const auto read = platform::readWhole(origin, kLargestCompared);
+    const auto* file = std::get_if<platform::FileContent>(&read);
+    project->stamp = file == nullptr ? platform::FileStamp() : file->stamp;
+    history_.enter("Obnovení projektu", opened.state, std::move(project));
+    return opened.remarks;
+}
+
+bool ProjectWork::changedOnDisk() const {
+    return !project().path.empty() && platform::changedSince(project().path, project().stamp);
+}
+
+void ProjectWork::save(const std::string& path) {
+    OpenProject& project = history_.project();
+    WindowState state = stateOf(*program_);
+    project.stamp = saveProject(path, state, project.kept);
+    project.path = path;
+    project.saved = std::move(state);
+    project.recovered = false;
 }
 
 }  // namespace mero::forms

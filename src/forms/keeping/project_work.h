@@ -11,6 +11,7 @@
 
 #include "forms/calc/program.h"
 #include "forms/keeping/history.h"
+#include "forms/keeping/project_file.h"
 #include "forms/keeping/window_state.h"
 
 namespace mero::forms {
@@ -19,8 +20,9 @@ namespace mero::forms {
 struct OpenProject {
     std::string path;   ///< empty until it is saved
     WindowState saved;  ///< as the file has it, or as the window opened
-    /// The file has something else than the window that was opened from it: it was taken from a recovery
-    /// copy.
+    std::string kept;   ///< what a newer program wrote into the file
+    platform::FileStamp stamp;
+    /// It was taken from a recovery copy: the file has something else than `saved`.
     bool recovered = false;
     std::string recovery_copy;  ///< file with what is not saved, empty while there is none
 };
@@ -28,7 +30,8 @@ struct OpenProject {
 class ProjectWork {
   public:
     /// @param program whose window has just been opened
-    explicit ProjectWork(Program& program);
+    /// @param source  what project files are read with
+    ProjectWork(Program& program, const ProjectSource& source);
     ~ProjectWork();
     ProjectWork(const ProjectWork&) = delete;
     ProjectWork& operator=(const ProjectWork&) = delete;
@@ -46,10 +49,21 @@ class ProjectWork {
     /// Begins a new project, as the window opened. The one before comes back by undo. To be called as an
     /// event.
     void startNew();
+    /// Opens a project. The one before comes back by undo. To be called as an event.
+    /// @return what could not be taken, in Czech
+    /// @throws ProjectError in Czech; the window keeps what it has
+    std::vector<std::string> open(const std::string& path);
+    /// Takes up what a recovery copy holds. @param origin the project's own file, "" where it had none
+    std::vector<std::string> recover(const std::string& copy, const std::string& origin);
+
+    /// Has somebody else changed the file since it was opened or saved?
+    [[nodiscard]] bool changedOnDisk() const;
+    /// Saves the project; from now on the path is its file. @throws ProjectError in Czech
+    void save(const std::string& path);
 
   private:
     Program* program_;
-    WindowState opening_;
+    ProjectSource source_;
     History history_;
 };
 
