@@ -96,8 +96,8 @@ class Mero {
     Mero(const app::RunOptions& options, std::string script, const app::EndSignals& end_signals)
         : scripted_(!options.script.empty()),
           script_name_(options.script),
-          project_(options.project),
           script_(std::move(script)),
+          project_(options.project),
           folder_(app::folderOrDefault(options.folder)),
           real_desk_(scripted_ ? app::Sitter::Script : app::Sitter::Person, report::viewHtml),
           trace_desk_(std::cout, &real_desk_, folder_),

@@ -38,9 +38,8 @@ std::vector<Menu> ProjectCommands::menus() {
 }
 
 Menu ProjectCommands::projectMenu() {
-    return {
-        QStringLiteral("Pro&jekt"),
-        {
+    return {QStringLiteral("Pro&jekt"),
+            {
                 {"new",
                  QStringLiteral("&Nový"),
                  {QKeySequence(Qt::CTRL | Qt::Key_N)},
@@ -65,14 +64,14 @@ Menu ProjectCommands::projectMenu() {
                  {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
                  [this] { files_->saveAs(); }},
                 separator(),
-            {"print",
-             QStringLiteral("&Tisk…"),
-             {QKeySequence(Qt::CTRL | Qt::Key_P)},
-             [this] { print(); },
-             [this] { return EntryLook{hasType()}; }},
-            separator(),
-            {"quit", QStringLiteral("&Konec"), {}, [this] { place_.window.close(); }},
-        }};
+                {"print",
+                 QStringLiteral("&Tisk…"),
+                 {QKeySequence(Qt::CTRL | Qt::Key_P)},
+                 [this] { print(); },
+                 [this] { return EntryLook{hasType()}; }},
+                separator(),
+                {"quit", QStringLiteral("&Konec"), {}, [this] { place_.window.close(); }},
+            }};
 }
 
 Menu ProjectCommands::editMenu() {

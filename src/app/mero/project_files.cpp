@@ -98,9 +98,9 @@ void ProjectFiles::show(const QString& path, const std::vector<std::string>& rem
     }
     const QString text = QStringLiteral("%1: ne vše bylo převzato.").arg(fileName(path));
     place_.window.tell(text, {{QStringLiteral("Podrobnosti"), [this, text, lines] {
-                                   place_.desk.showMessage(
-                                       {qt::stored(text + QStringLiteral("\n\n") + lines.join(QLatin1Char('\n'))),
-                                        platform::MessageIcon::Information});
+                                   place_.desk.showMessage({qt::stored(text + QStringLiteral("\n\n") +
+                                                                       lines.join(QLatin1Char('\n'))),
+                                                            platform::MessageIcon::Information});
                                }}});
 }
 
@@ -200,7 +200,8 @@ void ProjectFiles::offerNext() {
         return;
     }
     const LostCopy& first = keeper_.lost().front();
-    const QString name = first.origin.empty() ? QStringLiteral("projekt bez názvu") : fileName(qt::shown(first.origin));
+    const QString name =
+        first.origin.empty() ? QStringLiteral("projekt bez názvu") : fileName(qt::shown(first.origin));
     QString text = QStringLiteral("Neuložená práce: %1, %2.").arg(name, moment(first.written));
     if (keeper_.lost().size() > 1) {
         text += QStringLiteral(" Další: %1.").arg(keeper_.lost().size() - 1);

@@ -19,8 +19,8 @@ class WorkKeeper {
     WorkKeeper(const forms::Program& program, forms::ProjectWork& work, const std::string& folder)
         : program_(&program), work_(&work), copies_(folder) {}
 
-    /// Writes the copy when the project is changed and the copy has something else; removes it when nothing is
-    /// unsaved. Takes some 100 microseconds: the file is written in the background.
+    /// Writes the copy when the project is changed and the copy has something else; removes it when nothing
+    /// is unsaved. Takes some 100 microseconds: the file is written in the background.
     void keep();
     /// The same, and returns when the copy is on the disk.
     void keepNow();
