@@ -21,15 +21,16 @@ int number(const Word& word) {
 
 const std::map<std::string_view, ScriptRunner::Entry>& ScriptRunner::actions() {
     static const std::map<std::string_view, Entry> kActions{
-        {"type", {&ScriptRunner::type, 2, 2}},     {"set", {&ScriptRunner::set, 2, 2}},
-        {"erase", {&ScriptRunner::erase, 2, 2}},   {"focus", {&ScriptRunner::focus, 1, 1}},
-        {"leave", {&ScriptRunner::leave, 1, 1}},   {"click", {&ScriptRunner::click, 1, 1}},
-        {"select", {&ScriptRunner::select, 2, 2}}, {"spin", {&ScriptRunner::spin, 2, 2}},
-        {"cell", {&ScriptRunner::cell, 3, 3}},     {"key", {&ScriptRunner::key, 2, 2}},
-        {"tab", {&ScriptRunner::tab, 1, 1}},       {"tick", {&ScriptRunner::tick, 0, 0}},
-        {"close", {&ScriptRunner::close, 1, 1}},   {"answer-save", {&ScriptRunner::answerSave, 0, 1}},
-        {"get", {&ScriptRunner::get, 1, 1}},       {"value", {&ScriptRunner::value, 1, 1}},
-        {"echo", {&ScriptRunner::echo, 1, 1}},
+        {"type", {&ScriptRunner::type, 2, 2}},        {"set", {&ScriptRunner::set, 2, 2}},
+        {"erase", {&ScriptRunner::erase, 2, 2}},      {"focus", {&ScriptRunner::focus, 1, 1}},
+        {"leave", {&ScriptRunner::leave, 1, 1}},      {"click", {&ScriptRunner::click, 1, 1}},
+        {"select", {&ScriptRunner::select, 2, 2}},    {"spin", {&ScriptRunner::spin, 2, 2}},
+        {"cell", {&ScriptRunner::cell, 3, 3}},        {"key", {&ScriptRunner::key, 2, 2}},
+        {"tab", {&ScriptRunner::tab, 1, 1}},          {"tick", {&ScriptRunner::tick, 0, 0}},
+        {"close", {&ScriptRunner::close, 1, 1}},      {"answer-save", {&ScriptRunner::answerSave, 0, 1}},
+        {"get", {&ScriptRunner::get, 1, 1}},          {"value", {&ScriptRunner::value, 1, 1}},
+        {"echo", {&ScriptRunner::echo, 1, 1}},        {"open", {&ScriptRunner::openProject, 1, 1}},
+        {"save", {&ScriptRunner::saveProject, 1, 1}}, {"new", {&ScriptRunner::newProject, 0, 0}},
     };
     return kActions;
 }

@@ -68,6 +68,13 @@ class ScriptRunner {
     void get(const Words& words);
     void value(const Words& words);
     void echo(const Words& words);
+    void openProject(const Words& words);
+    void saveProject(const Words& words);
+    void newProject(const Words& words);
+
+    /// A path of the script; a relative one is taken from the program's folder.
+    [[nodiscard]] std::string absolute(const std::string& path) const;
+    void refuseProject(const std::string& path, const std::string& why);
 
     /// The control with that name, with or without its form's name. @throws ScriptError for an unknown name
     [[nodiscard]] platform::Control& find(const std::string& name) const;
@@ -84,6 +91,8 @@ class ScriptRunner {
     TraceDesk* desk_;
     std::ostream* diagnostics_;
     std::string script_name_;
+    /// What a newer program wrote into the project that was opened last.
+    std::string kept_;
 };
 
 }  // namespace mero::automation

@@ -20,11 +20,13 @@ using design::Need;
 /// Names that are neither fields nor texts: the document's own, lists, objects.
 constexpr auto kOtherPaths = std::to_array<std::string_view>({
     "$schema",
+    "version",
     "project",
     "rain",
     "areas",
     "subsoil",
     "facility",
+    "window",
     "rain.durations_min",
     "rain.intensities_l_s_ha",
     "facility.overflow",
@@ -86,6 +88,23 @@ void store(const Field& field, Inputs& inputs, float value) {
             break;
         default:
             field.give(inputs.facility, value);
+    }
+}
+
+float stored(const Field& field, const Inputs& inputs) {
+    switch (field.input) {
+        case Input::Station:
+            return static_cast<float>(inputs.rain.station);
+        case Input::Periodicity:
+            return static_cast<float>(inputs.rain.periodicity);
+        case Input::DesignDuration:
+            return inputs.rain.design_duration_min;
+        case Input::Filtration:
+            return inputs.filtration_m_s;
+        case Input::Groundwater:
+            return inputs.groundwater_depth_m;
+        default:
+            return field.given(inputs.facility);
     }
 }
 

@@ -21,6 +21,8 @@ using FieldKind = design::InputKind;
 [[nodiscard]] const Field* findField(std::string_view path);
 /// Stores a number as Single, a choice or station by its position, a truth as 0 or 1.
 void store(const Field& field, Inputs& inputs, float value);
+/// The stored number of a field that has one: the reverse of store().
+[[nodiscard]] float stored(const Field& field, const Inputs& inputs);
 /// The words that a choice takes, in the order of their positions; empty for other kinds.
 [[nodiscard]] std::span<const std::string> choices(const Field& field);
 

@@ -13,6 +13,10 @@
 
 namespace mero::project {
 
+/// The version that is written into files. Files without one are of version 1: the inputs of one design,
+/// without the window.
+inline constexpr int kVersion = 2;
+
 struct PartialArea {
     float area_m2 = 0.0F;
     float runoff_coefficient = 0.0F;

@@ -25,15 +25,23 @@ using nlohmann::json;
 constexpr std::size_t kLongestPath = 200;
 constexpr std::size_t kLongestReason = 1200;  // all stations or shafts that a value can be
 
+/// Deeper ones are no projects, and would exhaust the stack of what walks through them.
+constexpr int kDeepest = 64;
+
+struct Place {
+    int line;
+    int column;
+    [[nodiscard]] std::string text() const { return numbers::general(line) + ":" + numbers::general(column); }
+};
+
 /// Line and column of a byte of the document, both from 1.
-std::string place(std::string_view document, std::size_t byte) {
+Place place(std::string_view document, std::size_t byte) {
     const std::string_view before = document.substr(0, std::min(byte, document.size()));
     const auto line = std::count(before.begin(), before.end(), '\n') + 1;
     const std::size_t last_break = before.rfind('\n');
     const std::size_t column =
         last_break == std::string_view::npos ? before.size() : before.size() - last_break - 1;
-    return numbers::general(static_cast<int>(line)) + ":" +
-           numbers::general(static_cast<int>(std::max<std::size_t>(column, 1)));
+    return {static_cast<int>(line), static_cast<int>(std::max<std::size_t>(column, 1))};
 }
 
 /// The reason of a syntax error without the library's prefix.
@@ -79,40 +87,62 @@ class NameWatch {
     std::string doubled_;
 };
 
+/// A syntax error at that byte.
+DocumentError syntaxError(std::string_view document, std::size_t byte, const std::string& file,
+                          const std::string& reason) {
+    const Place at = place(document, byte);
+    return {file + ":" + at.text() + ": " + reason, at.line, at.column, ""};
+}
+
+struct TooDeep {};
+
 json parse(std::string_view document, const std::string& file) {
     NameWatch watch;
-    const auto see = [&](int, json::parse_event_t event, const json& parsed) {
+    const auto see = [&](int depth, json::parse_event_t event, const json& parsed) {
+        if (depth > kDeepest) {
+            throw TooDeep();
+        }
         watch.see(event, parsed);
         return true;
     };
     try {
         json parsed = json::parse(document, see);
         if (!watch.doubled().empty()) {
-            throw ProjectError(file + ": " + shownText(watch.doubled(), kLongestPath) +
-                               ": stands twice; expected each name once");
+            const std::string doubled = shownText(watch.doubled(), kLongestPath);
+            throw DocumentError(file + ": " + doubled + ": stands twice; expected each name once", 1, 1,
+                                doubled);
         }
         return parsed;
     } catch (const json::parse_error& error) {
-        throw ProjectError(file + ":" + place(document, error.byte) +
-                           ": no valid JSON: " + syntaxReason(error.what()));
+        throw syntaxError(document, error.byte, file, "no valid JSON: " + syntaxReason(error.what()));
+    } catch (const TooDeep&) {
+        throw syntaxError(document, 0, file, "lists and objects are nested too deep");
     } catch (const json::out_of_range& error) {
         // The library names the number, but not its place.
         const std::string what = error.what();
         const std::size_t quote = what.find('\'');
         const std::string number = quote == std::string::npos ? std::string() : what.substr(quote + 1);
         const std::size_t at = document.find(number.substr(0, number.find('\'')));
-        throw ProjectError(file + ":" + place(document, at == std::string_view::npos ? 0 : at + 1) +
-                           ": expected a number from -1e12 to 1e12");
+        throw syntaxError(document, at == std::string_view::npos ? 0 : at + 1, file,
+                          "expected a number from -1e12 to 1e12");
     }
 }
 
 class Reader {
   public:
     explicit Reader(const std::string& file) : file_(&file) {}
+    /// A lenient one: what is wrong is a remark, and the rest is read.
+    explicit Reader(std::vector<Remark>& remarks) : remarks_(&remarks) {}
+
+    Project readLeniently(const json& document) {
+        begin(document);
+        attempt([&] { checkRain(); });
+        attempt([&] { checkShaft(); });
+        return std::move(project_);
+    }
 
     Project read(const json& document) {
-        project_.inputs.rain.durations_min = reference().DobaTrvani;
-        readObject(document, "");
+        begin(document);
         for (const char* section : {"rain", "areas", "subsoil", "facility"}) {
             if (!document.contains(section)) {
                 fail(section, std::string("is missing: expected ") +
@@ -131,7 +161,30 @@ class Reader {
     }
 
   private:
-    [[noreturn]] void fail(const std::string& path, const std::string& reason) const {
+    /// A value was not taken, which is a remark already.
+    struct NotTaken {};
+
+    void begin(const json& document) {
+        newer_ = versionOf(document) > kVersion;
+        project_.inputs.rain.durations_min = reference().DobaTrvani;
+        readObject(document, "");
+    }
+
+    template <typename Action>
+    void attempt(Action action) {
+        try {
+            action();
+        } catch (const NotTaken&) {
+            return;
+        }
+    }
+
+    [[noreturn]] void fail(const std::string& path, const std::string& reason,
+                           Fault fault = Fault::WrongValue) const {
+        if (remarks_ != nullptr) {
+            remarks_->push_back({shownText(path, kLongestPath), fault});
+            throw NotTaken();
+        }
         throw ProjectError(*file_ + ": " +
                            (path.empty() ? std::string("the document") : shownText(path, kLongestPath)) +
                            ": " + shownText(reason, kLongestReason));
@@ -142,25 +195,32 @@ class Reader {
     }
 
     void requireGiven(const std::string& path) const {
-        if (isGiven(path)) {
+        if (isGiven(path) || remarks_ != nullptr) {
             return;
         }
         const Field* field = findField(path);
-        fail(path, "is missing" + (field == nullptr ? std::string() : ": expected " + expected(*field)));
+        fail(path, "is missing" + (field == nullptr ? std::string() : ": expected " + expected(*field)),
+             Fault::Missing);
     }
 
     static std::string memberOf(const std::string& path, const std::string& name) {
         return path.empty() ? name : std::string(path).append(".").append(name);
     }
 
-    void requireKnown(const std::string& name, const std::vector<std::string>& names,
-                      const std::string& path) const {
+    /// False for an unknown name that a newer program may have written.
+    [[nodiscard]] bool requireKnown(const std::string& name, const std::vector<std::string>& names,
+                                    const std::string& path) const {
         if (std::find(names.begin(), names.end(), name) != names.end()) {
-            return;
+            return true;
+        }
+        if (newer_) {
+            return false;
         }
         const std::string near = nearestName(name, names);
-        fail(path, near.empty() ? std::string("is not a known name")
-                                : "is not a known name; did you mean \"" + near + "\"?");
+        fail(path,
+             near.empty() ? std::string("is not a known name")
+                          : "is not a known name; did you mean \"" + near + "\"?",
+             Fault::UnknownName);
     }
 
     void readObject(const json& object, const std::string& path) {
@@ -170,8 +230,11 @@ class Reader {
         const std::vector<std::string> names = namesIn(path);
         for (const auto& [name, value] : object.items()) {
             const std::string member = memberOf(path, name);
-            requireKnown(name, names, member);
-            readMember(value, member);
+            attempt([&, &it = value, &its_name = name] {
+                if (requireKnown(its_name, names, member)) {
+                    readMember(it, member);
+                }
+            });
         }
     }
 
@@ -186,6 +249,15 @@ class Reader {
             readRow(value, path, project_.inputs.rain.intensities_l_s_ha);
         } else if (path == "$schema") {
             static_cast<void>(textOf(value, path, false));
+        } else if (path == "version") {
+            if (!value.is_number_integer() || value.get<double>() < 1) {
+                fail(path, "expected a whole number from 1, not " + shortText(value));
+            }
+        } else if (path == "window") {
+            // The window's own: no input of a design.
+            if (!value.is_object()) {
+                fail(path, "expected an object, not " + shortText(value));
+            }
         } else if (const auto text =
                        std::ranges::find(design::textInputs(), path, &design::TextInputInfo::path);
                    text != design::textInputs().end()) {
@@ -248,22 +320,27 @@ class Reader {
         }
         const std::vector<std::string> names = namesIn("areas[]");
         for (std::size_t i = 0; i < list.size(); ++i) {
-            const std::string path = element("areas", i);
-            if (!list[i].is_object()) {
-                fail(path, "expected an object, not " + shortText(list[i]));
-            }
-            for (const auto& [name, value] : list[i].items()) {
-                requireKnown(name, names, memberOf(path, name));
-            }
-            readArea(list[i], path);
+            attempt([&] { readElement(list[i], names, element("areas", i)); });
         }
+    }
+
+    void readElement(const json& object, const std::vector<std::string>& names, const std::string& path) {
+        if (!object.is_object()) {
+            fail(path, "expected an object, not " + shortText(object));
+        }
+        for (const auto& [name, value] : object.items()) {
+            attempt([&, &its_name = name] {
+                static_cast<void>(requireKnown(its_name, names, memberOf(path, its_name)));
+            });
+        }
+        readArea(object, path);
     }
 
     void readArea(const json& object, const std::string& path) {
         const auto number = [&](const char* name, const char* what) {
             const std::string member = memberOf(path, name);
             if (!object.contains(name)) {
-                fail(member, std::string("is missing: expected ") + what);
+                fail(member, std::string("is missing: expected ") + what, Fault::Missing);
             }
             const float value = numberOf(object[name], member, what);
             if (value == 0.0F) {
@@ -307,19 +384,24 @@ class Reader {
 
     void checkRain() {
         const bool own = isGiven("rain.intensities_l_s_ha");
-        if (own == isGiven("rain.station")) {
-            fail("rain", own ? "expected either \"station\" or \"intensities_l_s_ha\", not both"
-                             : "expected \"station\", or \"intensities_l_s_ha\" with nine own values");
+        RainChoice& rain = project_.inputs.rain;
+        if (own == isGiven("rain.station") && (own || remarks_ == nullptr)) {
+            rain.station = 0;
+            fail("rain",
+                 own ? "expected either \"station\" or \"intensities_l_s_ha\", not both"
+                     : "expected \"station\", or \"intensities_l_s_ha\" with nine own values",
+                 Fault::Conflict);
         }
-        if (!own && isGiven("rain.durations_min")) {
+        if (rain.station > 0 && isGiven("rain.durations_min")) {
+            rain.durations_min = reference().DobaTrvani;
             fail("rain.durations_min",
-                 "goes only with \"intensities_l_s_ha\": a station has its own durations");
+                 "goes only with \"intensities_l_s_ha\": a station has its own durations", Fault::Conflict);
         }
         requireGiven("rain.periodicity");
-        const RainChoice& rain = project_.inputs.rain;
         if (rain.picks_row && std::find(rain.durations_min.begin(), rain.durations_min.end(),
                                         rain.design_duration_min) == rain.durations_min.end()) {
-            fail("rain.design_duration_min", "expected one of the nine durations");
+            rain.picks_row = false;
+            fail("rain.design_duration_min", "expected one of the nine durations", Fault::Conflict);
         }
     }
 
@@ -329,23 +411,43 @@ class Reader {
         }
         for (const Field& field : design::inputs()) {
             if (isReplacedByRing(field) && isGiven(field.path)) {
-                fail(field.path, "does not go with \"catalogue_shaft\", which has its own dimensions");
+                fail(field.path, "does not go with \"catalogue_shaft\", which has its own dimensions",
+                     Fault::Conflict);
             }
         }
     }
 
-    const std::string* file_;
+    const std::string* file_ = nullptr;
+    std::vector<Remark>* remarks_ = nullptr;
+    bool newer_ = false;  ///< written by a newer program: unknown names are its own
     Project project_;
 };
 
 }  // namespace
 
-Project readProject(std::string_view document, const std::string& file) {
+int versionOf(const json& document) {
+    const auto found = document.is_object() ? document.find("version") : document.end();
+    if (found == document.end() || !found->is_number_integer()) {
+        return 1;
+    }
+    constexpr double kLargest = 1e6;
+    return static_cast<int>(std::clamp(found->get<double>(), 1.0, kLargest));
+}
+
+json parseDocument(std::string_view document, const std::string& file) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (document.starts_with(kByteOrderMark)) {
         document.remove_prefix(kByteOrderMark.size());
     }
-    return Reader(file).read(parse(document, file));
+    return parse(document, file);
+}
+
+Project readLeniently(const json& document, std::vector<Remark>& remarks) {
+    return Reader(remarks).readLeniently(document);
+}
+
+Project readProject(std::string_view document, const std::string& file) {
+    return Reader(file).read(parseDocument(document, file));
 }
 
 Project readProjectFile(const std::string& file) {

@@ -158,7 +158,8 @@ TEST(Fields, NamesAreThoseRightInTheObject) {
     EXPECT_THAT(namesIn("project"), ElementsAre("name", "designer", "investor", "site", "description"));
     EXPECT_THAT(namesIn("subsoil"),
                 ElementsAre("description", "filtration_coefficient_m_s", "groundwater_depth_m"));
-    EXPECT_THAT(namesIn(""), ElementsAre("$schema", "project", "rain", "areas", "subsoil", "facility"));
+    EXPECT_THAT(namesIn(""), ElementsAre("$schema", "version", "project", "rain", "areas", "subsoil",
+                                         "facility", "window"));
     EXPECT_THAT(namesIn("areas[]"), ElementsAre("area_m2", "runoff_coefficient", "surface"));
     EXPECT_THAT(namesIn("facility.overflow"),
                 ElementsAre("pipe_count", "pipe_outer_diameter_mm", "pipe_inner_diameter_mm",

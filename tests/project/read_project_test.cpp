@@ -6,7 +6,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include "project/samples.h"
+#include "project/write_project.h"
 
 namespace mero::project {
 namespace {
@@ -249,6 +252,56 @@ TEST(ReadProject, TheSubPanelsOfPipesAreThereWhenTheirObjectIs) {
     EXPECT_TRUE(project.inputs.facility.drain.given);
     EXPECT_EQ(project.inputs.facility.drain.txtPocetPotrubi, 2.0F);
     EXPECT_EQ(project.inputs.facility.drain.txtPrumTroubVnit, 0.0F);
+}
+
+TEST(ReadProject, TheWindowsPartIsNoInput) {
+    const std::string with_window =
+        R"({"version": 2, "window": {"type": 7, "x": []}, )" + document().substr(1);
+    EXPECT_EQ(readProject(with_window, "p.json").inputs.facility.txtSirkaRyhy, 1.2F);
+    EXPECT_EQ(errorOf(R"({"window": 3, )" + document().substr(1)),
+              "p.json: window: expected an object, not 3");
+}
+
+TEST(ReadProject, AVersionIsAWholeNumber) {
+    EXPECT_EQ(errorOf(R"({"version": "new", )" + document().substr(1)),
+              "p.json: version: expected a whole number from 1, not \"new\"");
+    EXPECT_EQ(errorOf(R"({"version": 0, )" + document().substr(1)),
+              "p.json: version: expected a whole number from 1, not 0");
+}
+
+TEST(ReadProject, UnknownNamesOfANewerVersionArePassedOver) {
+    const std::string rest = R"("snow": {}, )" + document().substr(1);
+    EXPECT_EQ(errorOf(R"({"version": 3, )" + rest), "");
+    EXPECT_EQ(errorOf(R"({"version": 2, )" + rest), "p.json: snow: is not a known name");
+}
+
+TEST(ReadProject, NestingTooDeepIsTold) {
+    EXPECT_EQ(errorOf("{\"rain\": " + std::string(1000, '[')),
+              "p.json:1:1: lists and objects are nested too deep");
+}
+
+TEST(ReadLeniently, TakesTheRestAndRemembersWhatItDidNotTake) {
+    std::vector<Remark> remarks;
+    const Project project = readLeniently(
+        parseDocument(R"({"rain": {"periodicity": 0.3}, "subsoil": {"groundwater_depth_m": 4}, "colour": 1})",
+                      "p.json"),
+        remarks);
+    EXPECT_EQ(project.inputs.groundwater_depth_m, 4.0F);
+    ASSERT_EQ(remarks.size(), 2U);
+    EXPECT_EQ(remarks[0].path, "colour");
+    EXPECT_EQ(remarks[0].fault, Fault::UnknownName);
+    EXPECT_EQ(remarks[1].path, "rain.periodicity");
+    EXPECT_EQ(remarks[1].fault, Fault::WrongValue);
+}
+
+TEST(WriteProject, IsReadBackUnchanged) {
+    const Project project = readProject(document(), "p.json");
+    const Project again = readProject(inputsDocument(project).dump(), "p.json");
+    EXPECT_EQ(again.inputs.rain.station, project.inputs.rain.station);
+    EXPECT_EQ(again.inputs.rain.design_duration_min, 15.0F);
+    EXPECT_EQ(again.inputs.areas[0].area_m2, 800.0F);
+    EXPECT_EQ(again.inputs.filtration_m_s, 1e-4F);
+    EXPECT_EQ(again.inputs.facility.txtSirkaRyhy, 1.2F);
 }
 
 }  // namespace

@@ -265,23 +265,40 @@ Json facility() {
     return schema;
 }
 
+Json version() {
+    Json schema = described("version of the file");
+    schema["type"] = "integer";
+    schema["minimum"] = 1;
+    schema["default"] = 1;
+    return schema;
+}
+
+Json window() {
+    Json schema = described("the exact state of the window; for mero only");
+    schema["type"] = "object";
+    return schema;
+}
+
 }  // namespace
 
 std::string schema() {
-    const Json document = {
-        {"$schema", "https://json-schema.org/draft/2020-12/schema"},
-        {"title", "MERO project file"},
-        {"description", "The inputs of one design, as mero-batch design and mero-batch sweep read them."},
-        {"type", "object"},
-        {"additionalProperties", false},
-        {"required", {"rain", "areas", "subsoil", "facility"}},
-        {"properties",
-         {{"$schema", {{"type", "string"}}},
-          {"project", object("project", "texts of the report")},
-          {"rain", rain()},
-          {"areas", areas()},
-          {"subsoil", object("subsoil", "")},
-          {"facility", facility()}}}};
+    const Json document = {{"$schema", "https://json-schema.org/draft/2020-12/schema"},
+                           {"title", "MERO project file"},
+                           {"description",
+                            "The inputs of one design, as mero-batch design and mero-batch sweep read them, "
+                            "and the state of the window."},
+                           {"type", "object"},
+                           {"additionalProperties", false},
+                           {"required", {"rain", "areas", "subsoil", "facility"}},
+                           {"properties",
+                            {{"$schema", {{"type", "string"}}},
+                             {"version", version()},
+                             {"project", object("project", "texts of the report")},
+                             {"rain", rain()},
+                             {"areas", areas()},
+                             {"subsoil", object("subsoil", "")},
+                             {"facility", facility()},
+                             {"window", window()}}}};
     constexpr int kIndent = 2;
     return document.dump(kIndent) + "\n";
 }

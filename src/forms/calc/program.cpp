@@ -8,7 +8,7 @@
 namespace mero::forms {
 
 Program::Program(const Surroundings& surroundings)
-    : desk_(&surroundings.desk), window_(values_, surroundings) {
+    : surroundings_(surroundings), window_(values_, surroundings) {
     window_.close_requested = [this] { close(); };
 }
 
@@ -26,7 +26,7 @@ void Program::enter(const std::function<void()>& event) {
     try {
         event();
     } catch (const RuntimeError& error) {
-        desk_->reportError(error);
+        surroundings_.desk.reportError(error);
         if (error.endsProgram()) {
             end(1);
         }
@@ -47,8 +47,8 @@ void Program::end(int exit_status) {
     for (platform::Form* form : forms()) {
         form->hide();
     }
-    desk_->formClosed(window_.name());
-    desk_->ended();
+    surroundings_.desk.formClosed(window_.name());
+    surroundings_.desk.ended();
     if (on_ended) {
         on_ended();
     }

@@ -33,6 +33,7 @@ class Program {
     /// Called once, when the program has ended.
     std::function<void()> on_ended;
 
+    [[nodiscard]] const Surroundings& surroundings() const { return surroundings_; }
     [[nodiscard]] frmCalc& window() { return window_; }
     [[nodiscard]] const frmCalc& window() const { return window_; }
     [[nodiscard]] const data::modPublicVariables& values() const { return values_; }
@@ -46,7 +47,7 @@ class Program {
   private:
     void end(int exit_status);
 
-    platform::Desk* desk_;
+    Surroundings surroundings_;
     data::modPublicVariables values_;
     frmCalc window_;
     bool ended_ = false;
