@@ -36,6 +36,7 @@ ScriptRunner::Step ScriptRunner::execute(std::string_view line, int line_number)
     if (line_number == 1 && line.starts_with(kByteOrderMark)) {
         line.remove_prefix(kByteOrderMark.size());
     }
+    beginWork();
     try {
         Words words = splitLine(line);
         if (!words.empty()) {

@@ -23,7 +23,9 @@ using forms::WindowState;
 /// A program with its history, and the states that it had between two actions.
 struct UndoneLife {
     explicit UndoneLife(const SandboxFolder& sandbox)
-        : stage(sandbox), work(stage.program()), seen{stateOf(stage.program())} {}
+        : stage(sandbox), work(stage.program(), source()), seen{stateOf(stage.program())} {
+        stage.workOn(work);
+    }
 
     void live(std::uint64_t seed, int actions) {
         Generator generator(seed, Generator::Life::Endless);
@@ -50,7 +52,11 @@ struct UndoneLife {
         return std::ranges::any_of(seen, [&](const WindowState& each) { return isSameProject(each, state); });
     }
 
-    Stage stage;
+    [[nodiscard]] forms::ProjectSource source() const {
+        return {stage.program().surroundings().rain_database, stage.program().surroundings().folder};
+    }
+
+    mutable Stage stage;
     forms::ProjectWork work;
     std::vector<WindowState> seen;
 };

@@ -16,7 +16,7 @@ using testing::ElementsAre;
 class HistoryTest : public testing::Test {
   protected:
     test::TestProgram one;
-    ProjectWork work{one.program};
+    ProjectWork work{one.program, {one.rain, one.folder.path()}};
     History& history = work.history();
     frmCalc& window = one.window();
 
