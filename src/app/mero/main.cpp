@@ -28,6 +28,7 @@
 #include "app/mero/qt_user.h"
 #include "app/mero/script_feed.h"
 #include "app/mero/window_icon.h"
+#include "app/mero/window_place.h"
 #include "automation/script_runner.h"
 #include "automation/trace_desk.h"
 #include "data/rain_database.h"
@@ -111,6 +112,12 @@ class Mero {
                   {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}),
           commands_({program_, kit_, window_, real_desk_, rain_database_}) {
         window_.setMenus(commands_.menus());
+        if (!scripted_) {
+            window_.place = [](QWidget& window) {
+                const auto place = app::readPreferences(app::preferencesFile()).place;
+                return place && app::takePlace(window, *place);
+            };
+        }
         real_desk_.setMainWindow(&window_);
         real_desk_.message_closed = [this](const platform::Message& message) {
             window_.returnToField(message);
@@ -192,6 +199,7 @@ class Mero {
     int runScript() {
         app::QtUser user(program_, kit_);
         automation::ScriptRunner runner(program_, user, trace_desk_, std::cerr, script_name_);
+        runner.workOn(*work_);
         app::ScriptFeed feed(runner, [](int exit_status) { QApplication::exit(exit_status); });
         qt::later(feed,
                   [this, &feed] { script_name_ == "-" ? feed.feedStandardInput() : feed.feedAll(script_); });

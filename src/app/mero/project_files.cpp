@@ -8,8 +8,10 @@
 #include <QMessageBox>
 #include <utility>
 
+#include "app/mero/designer_hint.h"
 #include "app/mero/project_dialogs.h"
 #include "app/mero/save_dialog.h"
+#include "app/mero/window_place.h"
 #include "qt/missing_page.h"
 #include "qt/texts.h"
 
@@ -40,6 +42,8 @@ ProjectFiles::ProjectFiles(const Place& place, forms::ProjectWork& work, Keeping
       keeper_(place.program, work, places_.recovery_folder) {
     keep_timer_.setSingleShot(true);
     connect(&keep_timer_, &QTimer::timeout, this, [this] { keeper_.keep(); });
+    hintDesigner(place_.kit, place_.program.window().txtProjektant,
+                 qt::shown(readPreferences(places_.preferences_file).designer));
 }
 
 void ProjectFiles::notice() {
@@ -51,6 +55,11 @@ void ProjectFiles::notice() {
 void ProjectFiles::finish() {
     keep_timer_.stop();
     keeper_.keepNow();
+    if (!places_.preferences_file.empty()) {
+        Preferences preferences = readPreferences(places_.preferences_file);
+        preferences.place = placeOf(place_.window);
+        writePreferences(places_.preferences_file, preferences);
+    }
 }
 
 void ProjectFiles::startNew() {

@@ -132,8 +132,10 @@ void CalcWindow::build(QWidget& content) {
 
     // One starts by naming the project.
     kit().find(form_->txtProjName)->setFocus();
-    const QSize wanted(qt::textWidth(*this, kWidthCharacters), fontMetrics().height() * kHeightLines);
-    resize(wanted.boundedTo(roomOnScreen()));
+    if (!place || !place(*this)) {
+        const QSize wanted(qt::textWidth(*this, kWidthCharacters), fontMetrics().height() * kHeightLines);
+        resize(wanted.boundedTo(roomOnScreen()));
+    }
 }
 
 }  // namespace mero::forms

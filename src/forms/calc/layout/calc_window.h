@@ -2,6 +2,7 @@
 /// The main window: the tab control with its four tabs, and the windows of the three dialogs.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -35,6 +36,9 @@ class CalcWindow : public qt::FormWindow {
     /// A line above the tabs that stays until it is closed or an offer is taken. Null before the window
     /// opens.
     [[nodiscard]] qt::NoticeBar* lastingNotice() const { return lasting_notice_; }
+
+    /// Places the window before it is shown; false when it has no place to give.
+    std::function<bool(QWidget& window)> place;
 
     /// Sets the menus above the tabs, before the window is opened. Undo is theirs from then on.
     void setMenus(std::vector<qt::Menu> menus);
