@@ -39,8 +39,9 @@ def texts_of(document: bytes) -> int:
     return int(json.loads(document)["project"]["name"])
 
 
-def one_life(display: Display, home: Path, rng: random.Random, at_least: float = 0.0) -> str:
-    """Types rising numbers, saves now and then, is killed. Returns what is wrong, empty for nothing."""
+def one_life(display: Display, home: Path, rng: random.Random, saves: bool) -> str:
+    """Types rising numbers, saves now and then, is killed. One that does not save lives longer than work may be without
+    a copy. Returns what is wrong, empty for nothing."""
     project = home / "p.mero.json"
     variables = dict(os.environ, DISPLAY=display.name, QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8", HOME=str(home),
                      XDG_CONFIG_HOME=str(home / "config"), XDG_DATA_HOME=str(home / "data"))
@@ -53,7 +54,7 @@ def one_life(display: Display, home: Path, rng: random.Random, at_least: float =
                        stderr=subprocess.DEVNULL)
 
     press("search", "--sync", "--onlyvisible", "--name", "p.mero.json")
-    end = time.monotonic() + max(at_least, rng.uniform(0.0, TYPING_S))
+    end = time.monotonic() + rng.uniform(0.0, TYPING_S) + (0.0 if saves else LONGEST_LOSS_S)
     typed: list[tuple[float, int]] = []
     saved = {texts_of(project.read_bytes())}
     number = max(saved)
@@ -61,11 +62,11 @@ def one_life(display: Display, home: Path, rng: random.Random, at_least: float =
         number += 1
         press("key", "ctrl+a", "type", str(number))
         typed.append((time.monotonic(), number))
-        if rng.random() < 0.3:
+        if saves and rng.random() < 0.3:
             saved.add(number)
             press("key", "ctrl+s")
     # Also in the middle of a save.
-    if rng.random() < 0.7:
+    if saves and rng.random() < 0.7:
         number += 1
         press("key", "ctrl+a", "type", str(number))
         saved.add(number)
@@ -107,8 +108,7 @@ def main() -> int:
             with tempfile.TemporaryDirectory(prefix="mero-kill-") as folder:
                 home = Path(folder)
                 (home / "p.mero.json").write_text('{"project": {"name": "1000"}}')
-                # Some live longer than work may be without a copy.
-                wrong = one_life(display, home, rng, LONGEST_LOSS_S + 3 if kill % 20 == 0 else 0.0)
+                wrong = one_life(display, home, rng, saves=kill % 10 != 0)
             if wrong:
                 print(f"kill {kill}: {wrong}")
                 failures += 1

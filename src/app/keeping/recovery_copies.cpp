@@ -15,6 +15,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/files/whole_file.h"
 #include "platform/numbers/number_text.h"
 
 namespace mero::app {
@@ -125,6 +126,17 @@ std::string RecoveryCopies::make(const std::string& origin) {
     }
     close(descriptor);
     return path;
+}
+
+void RecoveryCopies::write(const std::string& copy, std::string_view content) {
+    if (!platform::replaceWhole(copy, content, platform::OnDisk::NotRequired)) {
+        return;
+    }
+    const int descriptor = open(copy.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        fsync(descriptor);
+        close(descriptor);
+    }
 }
 
 void RecoveryCopies::remove(const std::string& copy) {

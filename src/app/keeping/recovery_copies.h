@@ -5,6 +5,8 @@
 
 #include <ctime>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace mero::app {
@@ -30,6 +32,9 @@ class RecoveryCopies {
     /// Makes an empty file for a copy. @param origin the project's own file, or "" @return its path, "" when
     /// it cannot be made
     [[nodiscard]] std::string make(const std::string& origin);
+    /// Replaces what the copy has, at once, and then flushes it to the disk, which can take seconds on a busy
+    /// one: the program may be ended meanwhile. A failure, as on a full disk, leaves the copy as it was.
+    static void write(const std::string& copy, std::string_view content);
     /// Removes a copy, own or lost; a missing one is no error.
     static void remove(const std::string& copy);
 

@@ -30,11 +30,7 @@ void WorkKeeper::keep() {
     last_copy_ = project.recovery_copy;
     last_ = state;
     writer_.write([path = last_copy_, state = std::move(state), kept = project.kept] {
-        try {
-            static_cast<void>(saveProject(path, state, kept));
-        } catch (const project::ProjectError&) {
-            return;  // a full disk: the copy before stays
-        }
+        RecoveryCopies::write(path, forms::projectText(state, kept));
     });
 }
 

@@ -158,6 +158,8 @@ TEST_F(Recovery, KeepsNothingWithoutAFolder) {
 TEST_F(Recovery, NobodyElseReadsACopy) {
     RecoveryCopies copies(place);
     const std::string copy = copies.make("");
+    RecoveryCopies::write(copy, "work");
+    EXPECT_EQ(contentOf(copy), "work");
     EXPECT_EQ(fs::status(copy).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
