@@ -12,6 +12,7 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/Webs ${CMAKE_SOURCE_DIR}/examples DESTINAT
 
 install(DIRECTORY icons/ DESTINATION ${share}/icons/hicolor)
 install(FILES mero.desktop DESTINATION ${share}/applications)
+install(FILES mero-project.xml DESTINATION ${share}/mime/packages)
 install(FILES local.mero.mero.metainfo.xml DESTINATION ${share}/metainfo)
 
 # Compressed as distributions require: with the best compression and without a time stamp.

@@ -12,7 +12,7 @@ install(TARGETS ${RPATH_PROGRAMS} RUNTIME DESTINATION .)
 install(FILES ${CMAKE_SOURCE_DIR}/data/mero.mdb qt.conf ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION .)
 install(FILES portable.md DESTINATION . RENAME README.md)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/Webs ${CMAKE_SOURCE_DIR}/examples DESTINATION .)
-install(FILES icons/scalable/apps/mero.svg icons/256x256/apps/mero.png DESTINATION share)
+install(FILES icons/scalable/apps/mero.svg icons/256x256/apps/mero.png mero.desktop mero-project.xml DESTINATION share)
 file(GLOB man_pages CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/man/*.1)
 install(FILES ${man_pages} DESTINATION share/man)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/licences.md ${CMAKE_SOURCE_DIR}/docs/project-file.md

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-/// The actions of the script language on projects.
+/// The actions of the script language on projects and on the steps of the window.
 /// A project that cannot be opened or saved changes nothing and is told by a line of the trace.
 #include "automation/script_runner.h"
-#include "forms/keeping/project_file.h"
-#include "project/read_project.h"
+#include "forms/keeping/project_work.h"
 
 namespace mero::automation {
 
@@ -15,15 +14,19 @@ void ScriptRunner::refuseProject(const std::string& path, const std::string& why
     desk_->print(JsonLine().add("project", "refused").add("path", path).add("why", why));
 }
 
+void ScriptRunner::beginWork() {
+    if (work_ == nullptr) {
+        const forms::Surroundings& around = program_->surroundings();
+        work_ = &own_work_.emplace(*program_, forms::ProjectSource{around.rain_database, around.folder});
+    }
+}
+
 void ScriptRunner::openProject(const Words& words) {
     const std::string& path = words[0].text;
-    const forms::Surroundings& around = program_->surroundings();
     try {
-        const forms::Opened opened =
-            forms::openProject(absolute(path), {around.rain_database, around.folder});
-        program_->enter([&] { forms::restore(*program_, opened.state); });
-        kept_ = opened.kept;
-        desk_->print(JsonLine().add("project", "opened").add("path", path).add("remarks", opened.remarks));
+        std::vector<std::string> remarks;
+        program_->enter([&] { remarks = work_->open(absolute(path)); });
+        desk_->print(JsonLine().add("project", "opened").add("path", path).add("remarks", remarks));
     } catch (const project::ProjectError& error) {
         refuseProject(path, error.what());
     }
@@ -32,7 +35,7 @@ void ScriptRunner::openProject(const Words& words) {
 void ScriptRunner::saveProject(const Words& words) {
     const std::string& path = words[0].text;
     try {
-        forms::saveProject(absolute(path), forms::stateOf(*program_), kept_);
+        work_->save(absolute(path));
         desk_->print(JsonLine().add("project", "saved").add("path", path));
     } catch (const project::ProjectError& error) {
         refuseProject(path, error.what());
@@ -40,9 +43,20 @@ void ScriptRunner::saveProject(const Words& words) {
 }
 
 void ScriptRunner::newProject(const Words& /*words*/) {
-    program_->enter([this] { forms::restore(*program_, forms::openingState()); });
-    kept_.clear();
+    program_->enter([this] { work_->startNew(); });
     desk_->print(JsonLine().add("project", "new"));
+}
+
+void ScriptRunner::undo(const Words& /*words*/) {
+    std::optional<forms::History::Step> step;
+    program_->enter([&] { step = work_->history().undo(); });
+    desk_->print(JsonLine().add("undo", step ? std::optional(step->name) : std::nullopt));
+}
+
+void ScriptRunner::redo(const Words& /*words*/) {
+    std::optional<forms::History::Step> step;
+    program_->enter([&] { step = work_->history().redo(); });
+    desk_->print(JsonLine().add("redo", step ? std::optional(step->name) : std::nullopt));
 }
 
 }  // namespace mero::automation

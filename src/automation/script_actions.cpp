@@ -31,6 +31,7 @@ const std::map<std::string_view, ScriptRunner::Entry>& ScriptRunner::actions() {
         {"get", {&ScriptRunner::get, 1, 1}},          {"value", {&ScriptRunner::value, 1, 1}},
         {"echo", {&ScriptRunner::echo, 1, 1}},        {"open", {&ScriptRunner::openProject, 1, 1}},
         {"save", {&ScriptRunner::saveProject, 1, 1}}, {"new", {&ScriptRunner::newProject, 0, 0}},
+        {"undo", {&ScriptRunner::undo, 0, 0}},        {"redo", {&ScriptRunner::redo, 0, 0}},
     };
     return kActions;
 }

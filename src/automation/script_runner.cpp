@@ -57,6 +57,7 @@ ScriptRunner::Step ScriptRunner::execute(std::string_view line, int line_number)
     if (line_number == 1 && line.starts_with(kByteOrderMark)) {
         line.remove_prefix(kByteOrderMark.size());
     }
+    beginWork();
     try {
         if (line.size() > kLongestLine) {
             throw ScriptError("the line is longer than 64 MB");

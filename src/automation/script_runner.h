@@ -6,6 +6,7 @@
 #include <functional>
 #include <istream>
 #include <map>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -15,6 +16,7 @@
 #include "automation/trace_desk.h"
 #include "automation/user.h"
 #include "forms/calc/program.h"
+#include "forms/keeping/project_work.h"
 
 namespace mero::automation {
 
@@ -23,6 +25,9 @@ class ScriptRunner {
     /// @param diagnostics where "SCRIPT:LINE: reason" goes when the script is unusable
     ScriptRunner(forms::Program& program, User& user, TraceDesk& desk, std::ostream& diagnostics,
                  std::string script_name);
+
+    /// The actions on projects and steps use the window's own work, before the first line.
+    void workOn(forms::ProjectWork& work) { work_ = &work; }
 
     enum class Step {
         Continue,
@@ -71,10 +76,14 @@ class ScriptRunner {
     void openProject(const Words& words);
     void saveProject(const Words& words);
     void newProject(const Words& words);
+    void undo(const Words& words);
+    void redo(const Words& words);
 
     /// A path of the script; a relative one is taken from the program's folder.
     [[nodiscard]] std::string absolute(const std::string& path) const;
     void refuseProject(const std::string& path, const std::string& why);
+    /// Begins the history of the window's steps, unless it has one.
+    void beginWork();
 
     /// The control with that name, with or without its form's name. @throws ScriptError for an unknown name
     [[nodiscard]] platform::Control& find(const std::string& name) const;
@@ -91,8 +100,8 @@ class ScriptRunner {
     TraceDesk* desk_;
     std::ostream* diagnostics_;
     std::string script_name_;
-    /// What a newer program wrote into the project that was opened last.
-    std::string kept_;
+    forms::ProjectWork* work_ = nullptr;
+    std::optional<forms::ProjectWork> own_work_;  ///< made with the first line, unless another was given
 };
 
 }  // namespace mero::automation

@@ -101,8 +101,7 @@ class MnemonicFocus : public QObject {
 
 }  // namespace
 
-Letters addMnemonics(QTabWidget& tabs) {
-    Letters taken;
+Letters addMnemonics(QTabWidget& tabs, Letters taken) {
     for (int position = 0; position < tabs.count(); ++position) {
         tabs.setTabText(position, marked(tabs.tabText(position), taken));
     }

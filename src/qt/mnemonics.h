@@ -11,8 +11,8 @@ namespace mero::qt {
 /// Letters in use, in lower case.
 using Letters = QSet<QChar>;
 
-/// Assigns letters to the tabs. @return these letters
-Letters addMnemonics(QTabWidget& tabs);
+/// Assigns letters to the tabs. @return these letters and those taken before
+Letters addMnemonics(QTabWidget& tabs, Letters taken = {});
 
 /// Assigns letters to the buttons, options and inputs below `root`. Alternative panels (see
 /// `markAlternative`) may use the same letters as each other, but not those of widgets shown beside them.

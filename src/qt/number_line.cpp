@@ -14,6 +14,7 @@
 #include "qt/clipboard_text.h"
 #include "qt/number_messages.h"
 #include "qt/texts.h"
+#include "qt/undo_keys.h"
 
 namespace mero::qt {
 namespace {
@@ -134,9 +135,12 @@ void NumberLine::contextMenuEvent(QContextMenuEvent* event) {
         added->setEnabled(enabled);
     };
     const auto remove = [this] { removeText(selectionStart(), selectionEnd()); };
-    add(QStringLiteral("Zpět"), "undo", QKeySequence::Undo, isUndoAvailable(), [this] { travel(true); });
-    add(QStringLiteral("Znovu"), "redo", QKeySequence::Redo, isRedoAvailable(), [this] { travel(false); });
-    menu.addSeparator();
+    if (!isUndoneByWindow(*this)) {
+        add(QStringLiteral("Zpět"), "undo", QKeySequence::Undo, isUndoAvailable(), [this] { travel(true); });
+        add(QStringLiteral("Znovu"), "redo", QKeySequence::Redo, isRedoAvailable(),
+            [this] { travel(false); });
+        menu.addSeparator();
+    }
     add(QStringLiteral("Vyjmout"), "cut", QKeySequence::Cut, hasSelectedText(), [this, remove] {
         copy();
         remove();

@@ -32,7 +32,7 @@ class TabBar : public QTabBar {
 
 }  // namespace
 
-TabView::TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent)
+TabView::TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent, Letters taken)
     : QTabWidget(&parent), tabs_(&tabs) {
     setTabBar(new TabBar(this));
     setDocumentMode(true);
@@ -40,7 +40,7 @@ TabView::TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent)
     for (const std::string& caption : tabs.captions()) {
         addTab(new QWidget(this), captionText(caption));
     }
-    letters_ = addMnemonics(*this);
+    letters_ = addMnemonics(*this, std::move(taken));
     setCurrentIndex(tabs.position());
     bindCommon(kit, tabs, *this);
     for (int position = 0; position < count(); ++position) {

@@ -16,7 +16,8 @@ class TabView : public QTabWidget {
   public:
     using Builder = std::function<void(QWidget& page)>;
 
-    TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent);
+    /// @param taken letters that are no mnemonics of the pages
+    TabView(WidgetKit& kit, platform::TabControl& tabs, QWidget& parent, Letters taken = {});
 
     /// Sets the function that builds a page. The current page is built at once.
     void setPage(int position, Builder builder);
@@ -33,7 +34,7 @@ class TabView : public QTabWidget {
 
     platform::TabControl* tabs_;
     std::map<int, Builder> builders_;
-    Letters letters_;  ///< used by the tabs
+    Letters letters_;  ///< used by the tabs and outside them
 };
 
 }  // namespace mero::qt

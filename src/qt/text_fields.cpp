@@ -7,8 +7,10 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "qt/file_drop.h"
 #include "qt/look.h"
 #include "qt/texts.h"
+#include "qt/undo_keys.h"
 
 namespace mero::qt {
 namespace {
@@ -94,6 +96,8 @@ void bindLine(WidgetKit& kit, TextBox& box, QLineEdit& line) {
     line.setText(shown(box.text()));
     bindBox(kit, box, line);
     line.installEventFilter(new KeyFilter(kit, box, line));
+    leaveUndoToWindow(line);
+    leaveFilesToWindow(line);
     follow(box, line, [&box, &line](Aspect aspect) {
         if (aspect == Aspect::Text) {
             showText(line, box);
@@ -129,6 +133,8 @@ QPlainTextEdit& makeTextArea(WidgetKit& kit, TextBox& box, QWidget& parent) {
     area.setTabChangesFocus(true);
     area.setFocusPolicy(Qt::StrongFocus);
     bindBox(kit, box, area);
+    leaveUndoToWindow(area);
+    leaveFilesToWindow(*area.viewport());
     follow(box, area, [&box, &area](Aspect aspect) {
         if (aspect == Aspect::Text) {
             showText(area, box);

@@ -61,5 +61,26 @@ TEST(ProjectActions, TakeAbsolutePathsAsTheyAre) {
                 ElementsAre(R"({"project": "saved", "path": "<folder>/jinde.json"})"));
 }
 
+TEST(ProjectActions, UndoAndRedoStepsByTheirNames) {
+    ScriptedProgram p;
+    EXPECT_THAT(
+        p.traceOf("undo\nset txtProjName A\nset txtHPV 4.5\nset txtInvestor Obec\nundo\nundo\n"
+                  "value txtHPV\nundo\nundo\nredo\nredo\nvalue txtHPV\nredo\nredo\n"),
+        ElementsAre(R"({"undo": null})", R"({"undo": "Investor"})",
+                    R"x({"undo": "Hladina podzemní vody (pod povrchem)"})x",
+                    R"({"value": "txtHPV", "is": 0})", R"({"undo": "Název projektu"})", R"({"undo": null})",
+                    R"({"redo": "Název projektu"})", R"x({"redo": "Hladina podzemní vody (pod povrchem)"})x",
+                    R"({"value": "txtHPV", "is": 4.5})", R"({"redo": "Investor"})", R"({"redo": null})"));
+}
+
+TEST(ProjectActions, ComeBackByUndo) {
+    ScriptedProgram p;
+    EXPECT_THAT(
+        p.traceOf("set txtInvestor Obec\nsave p.json\nnew\nundo\nvalue txtProjName\nget txtInvestor\n"),
+        ElementsAre(R"({"project": "saved", "path": "p.json"})", R"({"project": "new"})",
+                    R"({"undo": "Nový projekt"})", R"({"value": "txtProjName", "is": ""})",
+                    testing::HasSubstr("Obec")));
+}
+
 }  // namespace
 }  // namespace mero::automation

@@ -38,7 +38,8 @@ def command(front: str, script: str, *options: str, programs: Path | None = None
 
 
 def environment(**changes: str | None) -> dict[str, str]:
-    variables = dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
+    variables = dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8",
+                     XDG_CONFIG_HOME="/proc/nowhere")
     variables |= {name: value for name, value in changes.items() if value is not None}
     for name, value in changes.items():
         if value is None:

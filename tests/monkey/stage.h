@@ -46,6 +46,8 @@ class Stage {
     Step perform(const std::string& line);
 
     [[nodiscard]] forms::Program& program() { return program_; }
+    /// The lines' history of steps; before the first line.
+    void workOn(forms::ProjectWork& work) { runner_.workOn(work); }
     [[nodiscard]] const SandboxFolder& sandbox() const { return *sandbox_; }
     /// Messages of the last line performed.
     [[nodiscard]] const std::vector<platform::Message>& messages() const { return desk_.messages; }

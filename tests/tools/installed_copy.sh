@@ -35,7 +35,7 @@ diff -r "$prefix/share/mero/Webs" "$XDG_DATA_HOME/mero/Webs"
 "$prefix/bin/mero" --export-pdf "$(ls "$XDG_DATA_HOME"/mero/Mero_*)" "$work/report.pdf" 2>"$work/log"
 [[ $(head -c 5 "$work/report.pdf") == %PDF- ]] || fail "no PDF file"
 
-for file in share/applications/mero.desktop share/metainfo/local.mero.mero.metainfo.xml share/man/man1/mero-batch.1.gz \
+for file in share/applications/mero.desktop share/mime/packages/mero-project.xml share/metainfo/local.mero.mero.metainfo.xml share/man/man1/mero-batch.1.gz \
     share/icons/hicolor/16x16/apps/mero.png share/icons/hicolor/scalable/apps/mero.svg share/doc/mero/licences.md; do
     [[ -s $prefix/$file ]] || fail "$file is missing"
 done

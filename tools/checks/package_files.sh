@@ -27,7 +27,9 @@ packed=$(sed -n '1s/^mero (\([^-]*\)-.*/\1/p' "$root/packaging/debian/changelog"
 for program in mero mero-batch; do
     [[ -f $root/docs/man/$program.1 ]] || wrong "docs/man/$program.1 is missing"
 done
-grep -qx 'Exec=mero' "$root/packaging/mero.desktop" || wrong "the menu entry does not start mero"
+grep -qx 'Exec=mero %f' "$root/packaging/mero.desktop" || wrong "the menu entry does not start mero"
+type=$(sed -n 's/.*<mime-type type="\([^"]*\)">.*/\1/p' "$root/packaging/mero-project.xml")
+grep -qx "MimeType=$type;" "$root/packaging/mero.desktop" || wrong "the menu entry does not open $type"
 for size in 16 22 24 32 48 64 128 256; do
     picture=$root/packaging/icons/${size}x$size/apps/mero.png
     # A PNG header holds the width and the height as 4-byte big-endian numbers.

@@ -44,7 +44,9 @@ class Screen:
         os.close(write)
         with os.fdopen(read) as number:
             self.display = ":" + number.readline().strip()
-        self.environment = {**os.environ, "DISPLAY": self.display, "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb"}
+        self.environment = {**os.environ, "DISPLAY": self.display, "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb",
+                            # Nothing of the user's own is read or written.
+                            "XDG_CONFIG_HOME": "/proc/nowhere", "XDG_DATA_HOME": "/proc/nowhere"}
         self.environment.pop("WAYLAND_DISPLAY", None)
         self.manager = subprocess.Popen(["openbox"], env=self.environment, stdout=subprocess.DEVNULL,
                                         stderr=subprocess.DEVNULL)

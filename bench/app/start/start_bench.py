@@ -18,7 +18,8 @@ LIMITS = {"time": 3.0, "memory": 1.5}
 
 def measure(command: list[str], probe: Path, folder: str) -> tuple[float, float]:
     """Measures one start. Returns milliseconds and MiB."""
-    environment = {**os.environ, "LD_PRELOAD": str(probe), "QT_QPA_PLATFORM": "xcb", "XDG_DATA_HOME": folder}
+    environment = {**os.environ, "LD_PRELOAD": str(probe), "QT_QPA_PLATFORM": "xcb", "XDG_DATA_HOME": folder,
+                   "XDG_CONFIG_HOME": folder}
     begin = time.perf_counter()
     with subprocess.Popen(command, env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as process:
         line = process.stdout.readline()

@@ -40,13 +40,18 @@ RunOptions parseRunOptions(std::span<const std::string_view> arguments, ScriptAr
             options.help = true;
         } else if (*argument == "--version") {
             options.version = true;
-        } else if ((argument->starts_with("-") && *argument != "-") || window) {
+        } else if (argument->starts_with("-") && (window || *argument != "-")) {
             line.refuse();
+        } else if (window) {
+            line.takeSingle(options.project, "project");
         } else if (!options.script.empty()) {
             throw UsageError("more than one script: " + std::string(*argument));
         } else {
             options.script = *argument;
         }
+    }
+    if (!options.project.empty() && !options.script.empty()) {
+        throw UsageError("a script opens its project itself: " + options.project);
     }
     return options;
 }

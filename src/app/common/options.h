@@ -25,6 +25,7 @@ struct RunOptions {
     std::string folder;
     std::optional<platform::DateTime> frozen_moment;  ///< --clock 2026-11-20T14:05:09
     std::string script;                               ///< a file, "-" for standard input, "" for none
+    std::string project;                              ///< a project file to open, `mero` only
     Palette palette = Palette::System;                ///< --palette light|dark, `mero` only
     bool help = false;
     bool version = false;
@@ -33,7 +34,7 @@ struct RunOptions {
 /// How the script is passed.
 enum class ScriptArgument {
     Plain,       ///< as the only argument that is no option (`mero-batch run`)
-    WithOption,  ///< as --script SCRIPT (`mero`, which also has --palette)
+    WithOption,  ///< as --script SCRIPT (`mero`, which also has --palette and takes a project file)
 };
 
 /// @throws UsageError for unknown options, missing or bad values, more than one script

@@ -10,6 +10,7 @@
 #include <QTranslator>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,16 +20,20 @@
 #include "app/common/options.h"
 #include "app/common/program_folder.h"
 #include "app/common/standard_streams.h"
+#include "app/keeping/user_folders.h"
 #include "app/mero/pdf_file.h"
+#include "app/mero/project_commands.h"
 #include "app/mero/qt_desk.h"
 #include "app/mero/qt_user.h"
 #include "app/mero/script_feed.h"
 #include "app/mero/window_icon.h"
+#include "app/mero/window_place.h"
 #include "automation/script_runner.h"
 #include "automation/trace_desk.h"
 #include "data/rain_database.h"
 #include "forms/calc/layout/calc_window.h"
 #include "forms/calc/program.h"
+#include "forms/keeping/project_work.h"
 #include "platform/files/bounded_read.h"
 #include "platform/files/leftovers.h"
 #include "platform/files/same_file.h"
@@ -37,6 +42,7 @@
 #include "platform/numbers/numeric_locale.h"
 #include "qt/palettes.h"
 #include "qt/program_style.h"
+#include "qt/texts.h"
 #include "report/view_html.h"
 
 namespace {
@@ -47,11 +53,13 @@ constexpr int kUnusable = 2;
 constexpr int kClockPeriodMs = 1000;
 
 constexpr const char* kHelp =
-    "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--palette light|dark] [--script SCRIPT]\n"
+    "usage: mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--palette light|dark] [PROJECT]\n"
+    "       mero [--folder DIR] [--clock 2026-11-20T14:05:09] [--palette light|dark] --script SCRIPT\n"
     "       mero --export-pdf REPORT FILE [NOTE]\n"
     "\n"
     "Design of stormwater infiltration facilities.\n"
     "\n"
+    "  PROJECT           a project file to open (*.mero.json, *.json)\n"
     "  --folder DIR      the program's folder: mero.mdb, Webs, the report file\n"
     "  --clock TIME      freezes date and time\n"
     "  --palette light|dark\n"
@@ -90,6 +98,7 @@ class Mero {
         : scripted_(!options.script.empty()),
           script_name_(options.script),
           script_(std::move(script)),
+          project_(options.project),
           folder_(app::folderOrDefault(options.folder)),
           real_desk_(scripted_ ? app::Sitter::Script : app::Sitter::Person, report::viewHtml),
           trace_desk_(std::cout, &real_desk_, folder_),
@@ -100,14 +109,27 @@ class Mero {
           kit_([this](const std::function<void()>& event) { program_.enter(event); },
                scripted_ ? qt::FocusEvents::RunNothing : qt::FocusEvents::RunHandlers),
           window_(kit_, program_.window(),
-                  {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}) {
+                  {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}),
+          commands_({program_, kit_, window_, real_desk_, rain_database_}) {
+        window_.setMenus(commands_.menus());
+        if (!scripted_) {
+            window_.place = [](QWidget& window) {
+                const auto place = app::readPreferences(app::preferencesFile()).place;
+                return place && app::takePlace(window, *place);
+            };
+        }
         real_desk_.setMainWindow(&window_);
         real_desk_.message_closed = [this](const platform::Message& message) {
             window_.returnToField(message);
         };
         app::tellBesideFields(real_desk_, kit_.typing());
         real_desk_.file_saved = [this](const std::string& path) { window_.tellSaved(path); };
-        program_.on_ended = [this] { QApplication::exit(program_.exitStatus()); };
+        program_.on_ended = [this] {
+            if (work_) {
+                commands_.files().finish();
+            }
+            QApplication::exit(program_.exitStatus());
+        };
         if (end_signals.descriptor() >= 0) {
             auto* request = new QSocketNotifier(end_signals.descriptor(), QSocketNotifier::Read, &window_);
             QObject::connect(request, &QSocketNotifier::activated, &window_, [this, request] {
@@ -122,11 +144,29 @@ class Mero {
         if (program_.ended()) {
             return program_.exitStatus();
         }
+        begin();
         tellOfMissingFolder();
         return scripted_ ? runScript() : runForPerson();
     }
 
   private:
+    /// With a script nothing is kept between runs.
+    void begin() {
+        const app::KeepingPlaces places =
+            scripted_ ? app::KeepingPlaces{}
+                      : app::KeepingPlaces{app::preferencesFile(), app::recoveryFolder()};
+        commands_.begin(work_.emplace(program_, forms::ProjectSource{rain_database_, folder_}), places);
+        if (scripted_) {
+            return;
+        }
+        qt::later(window_, [this] {
+            commands_.files().offerLost();
+            if (!project_.empty()) {
+                commands_.files().open(qt::shown(project_));
+            }
+        });
+    }
+
     platform::Desk& desk() {
         return scripted_ ? static_cast<platform::Desk&>(trace_desk_)
                          : static_cast<platform::Desk&>(real_desk_);
@@ -159,6 +199,7 @@ class Mero {
     int runScript() {
         app::QtUser user(program_, kit_);
         automation::ScriptRunner runner(program_, user, trace_desk_, std::cerr, script_name_);
+        runner.workOn(*work_);
         app::ScriptFeed feed(runner, [](int exit_status) { QApplication::exit(exit_status); });
         qt::later(feed,
                   [this, &feed] { script_name_ == "-" ? feed.feedStandardInput() : feed.feedAll(script_); });
@@ -169,6 +210,7 @@ class Mero {
     bool scripted_;
     std::string script_name_;
     std::string script_;
+    std::string project_;
     std::string folder_;
     app::QtDesk real_desk_;
     automation::TraceDesk trace_desk_;
@@ -178,6 +220,9 @@ class Mero {
     forms::Program program_;
     qt::WidgetKit kit_;
     forms::CalcWindow window_;
+    // Made when the window is open; the commands use it to their end.
+    std::optional<forms::ProjectWork> work_;
+    app::ProjectCommands commands_;
 };
 
 void tellOfNoFolder() {

@@ -12,10 +12,9 @@
 #include <algorithm>
 
 namespace mero::app {
-namespace {
 
-bool mayReplace(QWidget* parent, const QString& path) {
-    QMessageBox box(QMessageBox::Question, QStringLiteral("Uložit výsledky"),
+bool mayReplace(QWidget* parent, const QString& title, const QString& path) {
+    QMessageBox box(QMessageBox::Question, title,
                     QStringLiteral("Soubor %1 už existuje. Nahradit jej?").arg(QFileInfo(path).fileName()),
                     QMessageBox::Yes | QMessageBox::No, parent);
     box.button(QMessageBox::Yes)->setText(QStringLiteral("&Ano"));
@@ -25,8 +24,6 @@ bool mayReplace(QWidget* parent, const QString& path) {
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }
-
-}  // namespace
 
 QString withSuffix(const QString& path, const QString& filter) {
     const QString suffix = QFileInfo(path).suffix().toLower();
@@ -77,7 +74,7 @@ std::optional<QString> askWhereToSave(QWidget* parent, const QString& suggested_
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         const QString chosen = dialog.selectedFiles().constFirst();
         const QString path = withSuffix(chosen, dialog.selectedNameFilter());
-        if (!QFileInfo::exists(path) || mayReplace(parent, path)) {
+        if (!QFileInfo::exists(path) || mayReplace(parent, dialog.windowTitle(), path)) {
             return path;
         }
     }

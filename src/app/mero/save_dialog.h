@@ -25,6 +25,9 @@ inline constexpr const char* kRejectLabel = "Zrušit";
 /// True when the folder, or one that it lies in, is hidden: nobody finds again what is saved there.
 [[nodiscard]] bool isHidden(const QString& folder);
 
+/// Asks whether an existing file may be replaced. @param title of the dialog that the question belongs to
+[[nodiscard]] bool mayReplace(QWidget* parent, const QString& title, const QString& path);
+
 /// Asks where to save, and whether an existing file may be replaced.
 /// @param suggested_path folder and name at the start
 /// @return empty when the user cancels

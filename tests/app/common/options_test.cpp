@@ -52,8 +52,17 @@ TEST(Options, FoldersBecomeAbsoluteWithoutATrailingSlash) {
 TEST(Options, TheWindowNamesItsScriptWithAnOption) {
     EXPECT_EQ(parse({"--script", "a.mero"}, ScriptArgument::WithOption).script, "a.mero");
     EXPECT_EQ(parse({"--script=-"}, ScriptArgument::WithOption).script, "-");
-    EXPECT_THROW(parse({"a.mero"}, ScriptArgument::WithOption), UsageError);
     EXPECT_THROW(parse({"--script", "a.mero"}), UsageError) << "only the window has it";
+}
+
+TEST(Options, TheWindowTakesOneProject) {
+    constexpr auto kWindow = ScriptArgument::WithOption;
+    EXPECT_EQ(parse({}, kWindow).project, "");
+    EXPECT_EQ(parse({"dům.mero.json", "--palette", "dark"}, kWindow).project, "dům.mero.json");
+    EXPECT_EQ(parse({"dům.mero.json"}, kWindow).script, "");
+    EXPECT_THROW(parse({"a.json", "b.json"}, kWindow), UsageError);
+    EXPECT_THROW(parse({"-"}, kWindow), UsageError);
+    EXPECT_THROW(parse({"a.json", "--script", "a.mero"}, kWindow), UsageError);
 }
 
 TEST(Options, OnlyTheWindowHasAPalette) {

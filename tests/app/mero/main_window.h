@@ -8,15 +8,18 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "app/mero/project_commands.h"
 #include "app/mero/qt_desk.h"
 #include "app/mero/qt_user.h"
 #include "automation/script_runner.h"
 #include "automation/trace_desk.h"
 #include "forms/calc/layout/calc_window.h"
+#include "forms/keeping/project_work.h"
 #include "platform/locale_settings.h"
 #include "qt/texts.h"
 
@@ -38,7 +41,9 @@ class OneRain : public data::RainDatabase {
 class MainWindow : public testing::Test {
   protected:
     explicit MainWindow(qt::FocusEvents focus_events = qt::FocusEvents::RunNothing)
-        : focus_events_(focus_events) {}
+        : focus_events_(focus_events) {
+        window.setMenus(commands.menus());
+    }
 
     qt::FocusEvents focus_events_;
     std::ostringstream trace;
@@ -52,10 +57,16 @@ class MainWindow : public testing::Test {
     qt::WidgetKit kit{[this](const std::function<void()>& event) { program.enter(event); }, focus_events_};
     forms::CalcWindow window{
         kit, program.window(), {[](std::string_view bytes) { return std::string(bytes); }, {}}};
+    std::optional<forms::ProjectWork> work;
+    KeepingPlaces places;  ///< nothing is kept, unless a test sets it before SetUp()
+    ProjectCommands commands{{program, kit, window, real_desk, rain}};
     QtUser user{program, kit};
     automation::ScriptRunner runner{program, user, desk, diagnostics, "test"};
 
-    void SetUp() override { program.start(); }
+    void SetUp() override {
+        program.start();
+        commands.begin(work.emplace(program, forms::ProjectSource{rain, "/nonexistent"}), places);
+    }
     void run(std::string_view line) {
         ASSERT_NE(runner.execute(line, 1), automation::ScriptRunner::Step::Unusable) << diagnostics.str();
     }

@@ -19,6 +19,7 @@
 #include "qt/look.h"
 #include "qt/tab_view.h"
 #include "qt/texts.h"
+#include "qt/undo_keys.h"
 
 namespace mero::forms {
 namespace {
@@ -51,10 +52,18 @@ void CalcWindow::tellSaved(const std::string& path) {
     const auto open = [this](const QString& what) {
         services_.open_address(qt::stored(QUrl::fromLocalFile(what).toString(QUrl::FullyEncoded)));
     };
-    notice_->tell(
-        QStringLiteral("Uloženo: %1").arg(file),
-        {{QStringLiteral("Otevřít"), [open, file] { open(file); }},
-         {QStringLiteral("Otevřít složku"), [open, file] { open(QFileInfo(file).absolutePath()); }}});
+    tell(QStringLiteral("Uloženo: %1").arg(file),
+         {{QStringLiteral("Otevřít"), [open, file] { open(file); }},
+          {QStringLiteral("Otevřít složku"), [open, file] { open(QFileInfo(file).absolutePath()); }}});
+}
+
+void CalcWindow::tell(const QString& text, const std::vector<qt::NoticeBar::Offer>& offers) {
+    notice_->tell(text, offers);
+}
+
+void CalcWindow::setMenus(std::vector<qt::Menu> menus) {
+    menus_ = std::move(menus);
+    qt::undoByWindow(*this);
 }
 
 void CalcWindow::addHelp() {
@@ -103,7 +112,14 @@ void CalcWindow::returnToField(const platform::Message& message) {
 void CalcWindow::build(QWidget& content) {
     auto* column = new QVBoxLayout(&content);
     column->setContentsMargins(0, 0, 0, 0);
-    auto& tabs = *new qt::TabView(kit(), form_->SSTab1, content);
+    const qt::Letters letters = qt::lettersOf(menus_);
+    if (!menus_.empty()) {
+        column->setMenuBar(&qt::makeMenuBar(content, std::move(menus_)));
+    }
+    lasting_notice_ = new qt::NoticeBar(content);
+    lasting_notice_->setObjectName(QStringLiteral("lastingNotice"));
+    column->addWidget(lasting_notice_);
+    auto& tabs = *new qt::TabView(kit(), form_->SSTab1, content, letters);
     column->addWidget(&tabs, 1);
     notice_ = new qt::NoticeBar(content);
     column->addWidget(notice_);
@@ -116,8 +132,10 @@ void CalcWindow::build(QWidget& content) {
 
     // One starts by naming the project.
     kit().find(form_->txtProjName)->setFocus();
-    const QSize wanted(qt::textWidth(*this, kWidthCharacters), fontMetrics().height() * kHeightLines);
-    resize(wanted.boundedTo(roomOnScreen()));
+    if (!place || !place(*this)) {
+        const QSize wanted(qt::textWidth(*this, kWidthCharacters), fontMetrics().height() * kHeightLines);
+        resize(wanted.boundedTo(roomOnScreen()));
+    }
 }
 
 }  // namespace mero::forms

@@ -2,12 +2,15 @@
 /// The main window: the tab control with its four tabs, and the windows of the three dialogs.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 #include "forms/calc/frm_calc.h"
 #include "qt/document_view.h"
 #include "qt/form_window.h"
 #include "qt/manual_window.h"
+#include "qt/menu_bar.h"
 #include "qt/notice_bar.h"
 #include "qt/widget_kit.h"
 
@@ -28,13 +31,25 @@ class CalcWindow : public qt::FormWindow {
 
     /// Confirms that a file was saved and offers to open it.
     void tellSaved(const std::string& path);
+    /// Says a line at the lower edge; it goes when another tab is chosen.
+    void tell(const QString& text, const std::vector<qt::NoticeBar::Offer>& offers);
+    /// A line above the tabs that stays until it is closed or an offer is taken. Null before the window
+    /// opens.
+    [[nodiscard]] qt::NoticeBar* lastingNotice() const { return lasting_notice_; }
+
+    /// Places the window before it is shown; false when it has no place to give.
+    std::function<bool(QWidget& window)> place;
+
+    /// Sets the menus above the tabs, before the window is opened. Undo is theirs from then on.
+    void setMenus(std::vector<qt::Menu> menus);
+    /// Opens the manual at the field with the focus.
+    void showHelp() { showHelp(*form_, *this); }
 
   protected:
     void build(QWidget& content) override;
 
   private:
     void addHelp();
-    /// Opens the manual at the field with the focus.
     void showHelp(const platform::Form& form, const QWidget& window);
 
     frmCalc* form_;
@@ -42,7 +57,10 @@ class CalcWindow : public qt::FormWindow {
     std::unique_ptr<qt::FormWindow> rain_window_;
     std::unique_ptr<qt::FormWindow> area_window_;
     std::unique_ptr<qt::FormWindow> soil_window_;
-    qt::NoticeBar* notice_ = nullptr;           ///< made with the content
+    std::vector<qt::Menu> menus_;
+    // Made with the content.
+    qt::NoticeBar* notice_ = nullptr;
+    qt::NoticeBar* lasting_notice_ = nullptr;
     std::unique_ptr<qt::ManualWindow> manual_;  ///< made when it is first asked for
 };
 
