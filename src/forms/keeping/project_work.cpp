@@ -9,8 +9,6 @@
 namespace mero::forms {
 namespace {
 
-/// Of a file that is only compared with itself later.
-
 std::shared_ptr<OpenProject> newProject(const WindowState& opening) {
     auto project = std::make_shared<OpenProject>();
     project->saved = opening;

@@ -53,7 +53,7 @@ TEST(ProgramFolder, WithoutAFullPathThereIsNone) {
                                  std::optional<std::string>("relative")}) {
         const Environment home("HOME", unusable);
         EXPECT_EQ(findDefaultFolder().path, "");
-        EXPECT_THROW(defaultProgramFolder(), NoFolderError);
+        EXPECT_THROW(static_cast<void>(defaultProgramFolder()), NoFolderError);
         EXPECT_EQ(folderOrDefault("/tmp"), "/tmp");
     }
     std::filesystem::current_path(before);

@@ -42,4 +42,15 @@ check "one file for a PDF" 2 "" "--export-pdf needs a report file and the file t
 check "a PDF of nothing" 1 "" "" --export-pdf "$scratch/none" "$scratch/none.pdf"
 [ ! -e "$scratch/none.pdf" ] || failures=$((failures + 1))
 
+# A PDF file replaces an old one when it is complete, and never the report itself.
+echo '<html><body>zpráva</body></html>' >"$scratch/report"
+echo old >"$scratch/old.pdf"
+check "a PDF over the report" 1 "" "" --export-pdf "$scratch/report" "$scratch/./report"
+grep -q zpráva "$scratch/report" || failures=$((failures + 1))
+check "no PDF of nothing" 1 "" "" --export-pdf "$scratch/none" "$scratch/old.pdf"
+[ "$(cat "$scratch/old.pdf")" = old ] || failures=$((failures + 1))
+check "a PDF over an old one" 0 "" "" --export-pdf "$scratch/report" "$scratch/old.pdf"
+[ "$(head -c 4 "$scratch/old.pdf")" = %PDF ] || failures=$((failures + 1))
+[ -z "$(find "$scratch" -name '.mero-*')" ] || failures=$((failures + 1))
+
 [ "$failures" -eq 0 ]
