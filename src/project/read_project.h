@@ -5,47 +5,21 @@
 
 #include <cstdint>
 #include <nlohmann/json_fwd.hpp>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "project/document.h"
 #include "project/fields.h"
 #include "project/project.h"
 
 namespace mero::project {
-
-/// A project file that cannot be used; what() tells file, place and reason in one line.
-class ProjectError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
 
 /// @throws ProjectError
 [[nodiscard]] Project readProjectFile(const std::string& file);
 /// @param file name for the errors
 /// @throws ProjectError
 [[nodiscard]] Project readProject(std::string_view json, const std::string& file);
-
-/// A document that is no JSON, or has a name twice.
-class DocumentError : public ProjectError {
-  public:
-    DocumentError(const std::string& what, int line, int column, std::string doubled)
-        : ProjectError(what), line_(line), column_(column), doubled_(std::move(doubled)) {}
-    [[nodiscard]] int line() const { return line_; }  ///< from 1
-    [[nodiscard]] int column() const { return column_; }
-    /// Path of the name that stands twice, on one short line; empty when the document is no JSON.
-    [[nodiscard]] const std::string& doubled() const { return doubled_; }
-
-  private:
-    int line_;
-    int column_;
-    std::string doubled_;
-};
-
-/// @param file name for the errors
-/// @throws DocumentError
-[[nodiscard]] nlohmann::json parseDocument(std::string_view json, const std::string& file);
 
 /// What is wrong with a value of a document.
 enum class Fault : std::uint8_t {
@@ -62,9 +36,6 @@ struct Remark {
 /// Takes what can be taken of a document, for a window in which the rest is entered by hand.
 /// @param remarks gets what was not taken; values that are missing are no remarks
 [[nodiscard]] Project readLeniently(const nlohmann::json& document, std::vector<Remark>& remarks);
-
-/// The version of a document, 1 where none stands or is no version.
-[[nodiscard]] int versionOf(const nlohmann::json& document);
 
 /// The stored number of a value of that field, from the text that a command line gives.
 /// @throws std::invalid_argument with what was expected

@@ -1,9 +1,9 @@
-#SPDX - License - Identifier : MIT
+# SPDX-License-Identifier: MIT
 """Random lives on the real window: saved, opened in a fresh window, which must go on as the one that was saved.
 
 Use: kept_window.py --lives MERO_KEPT_LIVES --window MERO [--count N] [--seed N]
 
-Lives are worked in chunks, each chunk by one run that goes on and one that opens. `new` lies between the lives of a chunk.
+Lives are worked in chunks, each by one run that goes on and one that opens; `new` lies between the lives of a chunk.
 """
 
 import argparse
@@ -23,8 +23,24 @@ MARK = "from here on the same"
 LEAVING = ["answer-save", "close frmIntDialog", "close frmDialog", "close frmCoefDialog"]
 
 
+def compared(trace: list[str]) -> list[str]:
+    """The lines after each mark, and projects that were refused or not taken whole."""
+    lines = []
+    counts = False
+    for line in trace:
+        if line.startswith('{"echo": ') and MARK in line:
+            counts = True
+        elif line.startswith('{"project": '):
+            counts = False
+            if '"refused"' in line or '"remarks": ["' in line:
+                lines.append(line)
+        if counts:
+            lines.append(line)
+    return lines
+
+
 def run(window: Path, folder: Path, script: list[str], projects: Path) -> list[str]:
-    """The lines of the trace after each mark; the folder keeps its projects in `projects`."""
+    """What is compared of a run in a new folder; its projects are kept in `projects`."""
     folder.mkdir()
     shutil.copy(ROOT / "data" / "mero.mdb", folder)
     shutil.copytree(ROOT / "Webs", folder / "Webs")
@@ -37,26 +53,27 @@ def run(window: Path, folder: Path, script: list[str], projects: Path) -> list[s
     for project in folder.glob("projekt-*.json"):
         shutil.copy(project, projects)
     shutil.rmtree(folder)
-    lines = done.stdout.decode("utf-8", "backslashreplace").splitlines()
-    kept = []
-    counts = False
-    for line in lines:
-        if MARK in line:
-            counts = True
-        elif line.startswith('{"project": '):
-            counts = False
-            if "refused" in line or '"remarks": ["' in line:
-                kept.append(line)
-        if counts:
-            kept.append(line)
-    kept.append(f"exit status {done.returncode} {done.stderr.decode('utf-8', 'backslashreplace')[:300]}")
-    return kept
+    lines = compared(done.stdout.decode("utf-8", "backslashreplace").split("\n")[:-1])
+    # What the window system says on standard error is not compared.
+    reason = done.stderr.decode("utf-8", "backslashreplace")[-300:] if done.returncode else ""
+    return [*lines, f"exit status {done.returncode}{reason}"]
 
 
 def lines_of(path: Path) -> list[str]:
-#Texts contain carriage returns, which must stay.
+    # Texts contain carriage returns, which must stay.
     with open(path, encoding="utf-8", newline="\n") as file:
         return [line.removesuffix("\n") for line in file]
+
+
+def scripts(seeds: list[int], lives: Path) -> tuple[list[str], list[str]]:
+    """The script that goes on, and the one that opens."""
+    going_on, opening = [], []
+    for seed in seeds:
+        before, after = lines_of(lives / f"{seed}.before"), lines_of(lives / f"{seed}.after")
+        same = ["tab 1", f'echo "{MARK}"', *after]
+        going_on += ["new", "answer-save", "tab 0", *before, f"save projekt-{seed}.json", *LEAVING, *same]
+        opening += ["new", "answer-save", f"open projekt-{seed}.json", *same]
+    return going_on, opening
 
 
 def main() -> int:
@@ -67,29 +84,25 @@ def main() -> int:
     parser.add_argument("--seed", type=int, default=1)
     arguments = parser.parse_args()
     start = time.monotonic()
-    with tempfile.TemporaryDirectory(prefix="mero-kept-") as scratch_name:
-        scratch = Path(scratch_name).resolve()
+    with tempfile.TemporaryDirectory(prefix="mero-kept-") as name:
+        scratch = Path(name).resolve()
         lives, projects = scratch / "lives", scratch / "projects"
         lives.mkdir()
         projects.mkdir()
-        subprocess.run([str(arguments.lives.resolve()), "--lives", str(arguments.count), "--seed", str(arguments.seed),
-                        "--write", str(lives)], check=True, capture_output=True)
+        subprocess.run([str(arguments.lives.resolve()), "--lives", str(arguments.count), "--seed",
+                        str(arguments.seed), "--write", str(lives)], check=True, capture_output=True)
         seeds = list(range(arguments.seed, arguments.seed + arguments.count))
         for first in range(0, len(seeds), CHUNK):
-            going_on, opening = [], []
-            for seed in seeds[first:first + CHUNK]:
-                before, after = lines_of(lives / f"{seed}.before"), lines_of(lives / f"{seed}.after")
-                same = ["tab 1", f'echo "{MARK}"', *after, "answer-save"]
-                going_on += ["new", "tab 0", *before, f"save projekt-{seed}.json", *LEAVING, *same]
-                opening += ["new", f"open projekt-{seed}.json", *same]
+            going_on, opening = scripts(seeds[first:first + CHUNK], lives)
             one = run(arguments.window.resolve(), scratch / "folder", going_on, projects)
             other = run(arguments.window.resolve(), scratch / "folder", opening, projects)
-            if one != other or "exit status 0" not in one[-1]:
-                print(f"seeds from {seeds[first]}: the window that was opened differs")
+            if one != other or one[-1] != "exit status 0":
+                print(f"lives from seed {seeds[first]}: the window that was opened differs")
                 print("\n".join(list(difflib.unified_diff(one, other, "going on", "opened", lineterm="", n=2))[:60]))
                 print(one[-1])
                 return 1
-    print(f"{arguments.count} lives on the real window, {time.monotonic() - start:.0f} s: what was opened went on")
+    print(f"{arguments.count} lives on the real window, {time.monotonic() - start:.0f} s: what was opened went on "
+          "as what was saved")
     return 0
 
 

@@ -120,6 +120,9 @@ void StateDocument::checkLists(const WindowState& state) const {
             state.areas.TypPovrchu.length() == areas);
     require((state.type_group == 0 || state.type_group == 1) &&
             (state.soil_variant == 0 || state.soil_variant == 1));
+    // The type follows from the entry that is selected.
+    const std::size_t most_types = state.type_group == 0 ? data::index(FacilityType::Shaft) + 1 : 1;
+    require(control(state, "cboSelType").items.size() <= most_types);
     for (std::size_t i = 0; i < state.controls.size(); ++i) {
         const platform::ControlState& control = state.controls[i];
         require(control.position >= -1 && control.position < static_cast<int>(control.items.size()));

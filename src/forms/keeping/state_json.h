@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string_view>
@@ -73,11 +74,21 @@ inline void take(const json& from, float& value) {
 inline void take(const json& from, bool& value) {
     value = from.get<bool>();
 }
+/// A file may hold any number.
+template <typename Whole>
+Whole wholeNumber(const json& from) {
+    const double number = from.get<double>();
+    if (!from.is_number_integer() || number < std::numeric_limits<Whole>::min() ||
+        number > std::numeric_limits<Whole>::max()) {
+        throw std::invalid_argument("no whole number in range");
+    }
+    return from.get<Whole>();
+}
 inline void take(const json& from, int& value) {
-    value = from.get<int>();
+    value = wholeNumber<int>(from);
 }
 inline void take(const json& from, std::int16_t& value) {
-    value = from.get<std::int16_t>();
+    value = wholeNumber<std::int16_t>(from);
 }
 inline void take(const json& from, std::string& value) {
     value = from.get<std::string>();

@@ -257,9 +257,18 @@ TEST_F(ProjectFile, KeepsWhatANewerProgramWrote) {
 
 TEST_F(ProjectFile, WithABrokenWindowIsEntered) {
     enter(trenchFile());
-    enter(replaced(saved(), "\"inputs_checksum\"", "\"type_group\": 7, \"inputs_checksum\""));
-    EXPECT_THAT(remarks, ElementsAre(HasSubstr("nelze přečíst")));
-    EXPECT_EQ(one.window().SelectedType, kTrench);
+    const std::string good = saved();
+    for (const char* broken : {R"("type_group": 7)", R"("type_group": 1)", R"("soil_variant": 1e300)",
+                               R"("soil_variant": "x")", R"("areas": {"area_m2": []})", R"("type": "lake")",
+                               R"("controls": {"cboTypSachty": {"position": 3}})",
+                               R"("controls": {"txtHPV": {"text": "\n"}})", R"("numbers": {"txtHPV": 1e300})",
+                               R"("demonstration": {"rows": [true]})", R"("calculations": 3)"}) {
+        auto document = nlohmann::json::parse(good);
+        document["window"].merge_patch(nlohmann::json::parse(std::string("{") + broken + "}"));
+        enter(document.dump());
+        EXPECT_EQ(one.window().SelectedType, kTrench) << broken;
+        EXPECT_FALSE(remarks.empty()) << broken;
+    }
 }
 
 TEST_F(ProjectFile, IsRefusedWhenItIsNone) {
