@@ -3,6 +3,7 @@
 /// A project that cannot be opened or saved changes nothing and is told by a line of the trace.
 #include "automation/script_runner.h"
 #include "forms/keeping/project_work.h"
+#include "project/read_project.h"
 
 namespace mero::automation {
 

@@ -21,15 +21,15 @@ QString dataText(const DataInUse& data) {
 
 }  // namespace
 
-void showAbout(QWidget* parent, const DataInUse& data) {
+void showAbout(QWidget* parent, const QString& version, const DataInUse& data) {
     const QString text = QStringLiteral(
                              "<h3>MERO %1</h3>"
                              "<p>Výpočet vsakovacích zařízení</p>"
                              "<p><b>Databáze dešťů</b><br>%2<br>%3</p>"
                              "<p><b>Licence</b><br>MERO: MIT<br>Qt %4: LGPL 3.0, sdílené knihovny<br>"
                              "JSON for Modern C++: MIT</p>")
-                             .arg(QStringLiteral(MERO_VERSION), qt::shown(data.path).toHtmlEscaped(),
-                                  dataText(data), QString::fromLatin1(qVersion()));
+                             .arg(version, qt::shown(data.path).toHtmlEscaped(), dataText(data),
+                                  QString::fromLatin1(qVersion()));
     QMessageBox box(QMessageBox::NoIcon, QStringLiteral("O programu"), text, QMessageBox::Ok, parent);
     box.setObjectName(QStringLiteral("about"));
     box.setTextFormat(Qt::RichText);

@@ -2,6 +2,7 @@
 /// The box "O programu": version, data in use, licences.
 #pragma once
 
+#include <QString>
 #include <QWidget>
 #include <optional>
 #include <string>
@@ -16,6 +17,6 @@ struct DataInUse {
     std::optional<bool> demonstration;
 };
 
-void showAbout(QWidget* parent, const DataInUse& data);
+void showAbout(QWidget* parent, const QString& version, const DataInUse& data);
 
 }  // namespace mero::app

@@ -110,7 +110,7 @@ class Mero {
                scripted_ ? qt::FocusEvents::RunNothing : qt::FocusEvents::RunHandlers),
           window_(kit_, program_.window(),
                   {report::viewHtml, [this](const std::string& address) { desk().openAddress(address); }}),
-          commands_({program_, kit_, window_, real_desk_, rain_database_}) {
+          commands_({program_, kit_, window_, real_desk_, rain_database_, MERO_VERSION}) {
         window_.setMenus(commands_.menus());
         if (!scripted_) {
             window_.place = [](QWidget& window) {

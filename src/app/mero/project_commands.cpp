@@ -7,6 +7,7 @@
 
 #include "app/mero/about_box.h"
 #include "forms/calc/layout/result_rows.h"
+#include "platform/numbers/runtime_error.h"
 #include "qt/file_drop.h"
 #include "qt/texts.h"
 
@@ -226,7 +227,7 @@ void ProjectCommands::about() {
     } catch (const RuntimeError&) {
         data.demonstration = std::nullopt;
     }
-    showAbout(&place_.window, data);
+    showAbout(&place_.window, QString::fromLatin1(place_.version), data);
 }
 
 }  // namespace mero::app

@@ -29,6 +29,7 @@ class ProjectCommands : public QObject {
         forms::CalcWindow& window;
         QtDesk& desk;
         data::RainDatabase& rain_database;
+        const char* version;
     };
 
     explicit ProjectCommands(const Place& place) : place_(place) {}

@@ -12,6 +12,7 @@
 #include "app/mero/project_dialogs.h"
 #include "app/mero/save_dialog.h"
 #include "app/mero/window_place.h"
+#include "project/read_project.h"
 #include "qt/missing_page.h"
 #include "qt/texts.h"
 

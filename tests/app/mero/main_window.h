@@ -59,13 +59,14 @@ class MainWindow : public testing::Test {
         kit, program.window(), {[](std::string_view bytes) { return std::string(bytes); }, {}}};
     std::optional<forms::ProjectWork> work;
     KeepingPlaces places;  ///< nothing is kept, unless a test sets it before SetUp()
-    ProjectCommands commands{{program, kit, window, real_desk, rain}};
+    ProjectCommands commands{{program, kit, window, real_desk, rain, "1.0.0"}};
     QtUser user{program, kit};
     automation::ScriptRunner runner{program, user, desk, diagnostics, "test"};
 
     void SetUp() override {
         program.start();
         commands.begin(work.emplace(program, forms::ProjectSource{rain, "/nonexistent"}), places);
+        runner.workOn(*work);
     }
     void run(std::string_view line) {
         ASSERT_NE(runner.execute(line, 1), automation::ScriptRunner::Step::Unusable) << diagnostics.str();
