@@ -237,11 +237,12 @@ class Filter {
 
     void write(const StrictTag& tag) {
         out_ += tag.closes() ? "</" : "<";
-        out_ += tag.writtenName();
+        // Pictures have one way of writing, for those who look for the logo.
+        const bool picture = tag.name() == "img";
+        out_ += picture ? std::string_view(tag.name()) : tag.writtenName();
         for (const StrictTag::Attribute& attribute : tag.attributes()) {
             if (isAllowed(attribute, use_)) {
                 out_ += ' ';
-                // One way of writing for those who look for the logo.
                 out_ += attribute.name == "src" && use_ == PageUse::Copy ? kLogoReference : attribute.text;
             }
         }
