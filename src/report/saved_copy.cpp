@@ -63,7 +63,7 @@ std::string withLogo(const std::string& page, const std::string& logo) {
     constexpr std::string_view kPicture = "<img";
     std::string whole;
     std::size_t done = 0;
-    for (std::size_t at; (at = page.find(kPicture, done)) != std::string::npos;) {
+    for (std::size_t at = 0; (at = page.find(kPicture, done)) != std::string::npos;) {
         const std::size_t end = std::min(page.find('>', at), page.size());
         const std::size_t found = std::min(page.find(kLogoReference, at), end);
         whole += page.substr(done, found - done);
