@@ -37,6 +37,8 @@ for target in "${targets[@]}"; do
     dictionary=$root/fuzz/dictionaries/$target.dict
     [[ ! -f $dictionary ]] || options+=(-dict="$dictionary")
     # Up to 16 edits of the shipped file from the start.
+    # Painting many pages takes longer than the view, several times so with sanitizers.
+    [[ $target != view ]] || options+=(-timeout=30)
     [[ $target != rain_file ]] || options+=(-len_control=0 -max_len=160)
     echo "-- $target"
     log=$root/build/fuzz/$target.log

@@ -3,7 +3,6 @@
 /// Pages are made for paper, so they are black on white whatever the desktop's colours.
 #include "qt/document_view.h"
 
-#include <QFileInfo>
 #include <QPalette>
 #include <QScrollBar>
 #include <QTextCursor>
@@ -24,9 +23,7 @@ void setPaperColours(QTextBrowser& browser) {
     browser.setPalette(palette);
 }
 
-/// Loads a page and shows its beginning.
-void load(QTextBrowser& browser, LocalDocument& document, const QString& path) {
-    document.load(path);
+void showBeginning(QTextBrowser& browser) {
     browser.moveCursor(QTextCursor::Start);
     // Making the cursor visible scrolled past the margin above it.
     browser.verticalScrollBar()->setValue(0);
@@ -39,9 +36,8 @@ void followLink(QTextBrowser& browser, LocalDocument& document, const DocumentSe
         services.open_address(stored(link.toString(QUrl::FullyEncoded)));
         return;
     }
-    const QString path = document.resolve(link);
-    if (!path.isEmpty() && QFileInfo(path) != QFileInfo(document.path())) {
-        load(browser, document, path);
+    if (document.follow(link)) {
+        showBeginning(browser);
     }
     if (link.hasFragment()) {
         browser.scrollToAnchor(link.fragment());
@@ -60,7 +56,8 @@ QTextBrowser& makeDocumentView(WidgetKit& kit, platform::BrowserView& view, cons
     bindCommon(kit, view, browser);
     const auto show = [&view, &browser, document] {
         if (!view.path().empty()) {
-            load(browser, *document, shown(view.path()));
+            document->load(shown(view.path()));
+            showBeginning(browser);
         }
     };
     show();

@@ -10,6 +10,7 @@
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -121,6 +122,11 @@ void FormWindow::showForm() {
 
 void FormWindow::hideForm() {
     hide();
+    if (windowHandle() != nullptr) {
+        // Qt connects a window whenever it becomes active, and does not disconnect one that was hidden
+        // meanwhile.
+        disconnect(windowHandle(), &QWindow::focusObjectChanged, qApp, nullptr);
+    }
     if (owner_ != nullptr && owner_->isVisible()) {
         owner_->activateWindow();
     }

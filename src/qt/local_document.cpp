@@ -3,7 +3,6 @@
 /// The report and the description pages use backslashes in paths and declare no character set.
 #include "qt/local_document.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QFont>
 #include <QTextBlock>
@@ -14,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "qt/document_files.h"
 #include "qt/missing_page.h"
 #include "qt/texts.h"
 
@@ -22,6 +22,9 @@ namespace {
 
 /// Far above the size of any report or description page; protects against a wrong file in their place.
 constexpr qint64 kLargestFile = 32LL << 20;
+constexpr qint64 kLargestPicture = 8LL << 20;
+/// Pixels of all pictures of a page; four times a large screen.
+constexpr qint64 kMostPixels = 32LL << 20;
 /// The declaration of a character set is looked for in these bytes at the page's beginning.
 constexpr qsizetype kHeadBytes = 2048;
 
@@ -31,7 +34,9 @@ bool declaresUtf8(const QByteArray& bytes) {
     }
     const QByteArray head = bytes.left(kHeadBytes).toLower();
     const qsizetype at = head.indexOf("charset=");
-    if (at < 0) {
+    const qsizetype body = head.indexOf("<body");
+    // What stands in the body is text, as in a report, which has no head.
+    if (at < 0 || (body >= 0 && body < at)) {
         return false;
     }
     QByteArray name = head.mid(at + 8).trimmed();
@@ -77,11 +82,13 @@ void keepGivenSizes(QTextDocument& document) {
         }
     }
     QTextCursor cursor(&document);
+    cursor.beginEditBlock();
     for (const Piece& piece : pieces) {
         cursor.setPosition(piece.begin);
         cursor.setPosition(piece.end, QTextCursor::KeepAnchor);
         cursor.setCharFormat(piece.format);
     }
+    cursor.endEditBlock();
 }
 
 }  // namespace
@@ -94,18 +101,32 @@ LocalDocument::LocalDocument(Decoder decode, QObject* parent)
 }
 
 bool LocalDocument::load(const QString& path) {
+    folder_ = QFileInfo(path).absolutePath();
+    return show(path);
+}
+
+bool LocalDocument::follow(const QUrl& reference) {
+    const QString path = resolve(reference);
+    if (path.isEmpty() || QFileInfo(path) == QFileInfo(path_)) {
+        return false;
+    }
+    show(path);
+    return true;
+}
+
+bool LocalDocument::show(const QString& path) {
     path_ = path;
+    pixels_ = kMostPixels;
     clear();
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > kLargestFile || !file.open(QIODevice::ReadOnly)) {
+    const auto bytes = readRegularFile(path, kLargestFile);
+    if (!bytes) {
         setHtml(missingPage(path));
         return false;
     }
-    const QByteArray bytes = file.readAll();
-    if (declaresUtf8(bytes)) {
-        setHtml(QString::fromUtf8(bytes));
+    if (declaresUtf8(*bytes)) {
+        setHtml(QString::fromUtf8(*bytes));
     } else {
-        setHtml(shown(decode_({bytes.constData(), static_cast<std::size_t>(bytes.size())})));
+        setHtml(shown(decode_({bytes->constData(), static_cast<std::size_t>(bytes->size())})));
     }
     keepGivenSizes(*this);
     return true;
@@ -122,7 +143,10 @@ QString LocalDocument::resolve(const QUrl& reference) const {
     if (path.isEmpty() || path.startsWith(QLatin1String("//"))) {
         return {};
     }
-    return QFileInfo(path).isAbsolute() ? path : QFileInfo(path_).absolutePath() + QLatin1Char('/') + path;
+    if (!QFileInfo(path).isAbsolute()) {
+        path = QFileInfo(path_).absolutePath() + QLatin1Char('/') + path;
+    }
+    return isWithin(folder_, path) ? path : QString();
 }
 
 QVariant LocalDocument::loadResource(int type, const QUrl& name) {
@@ -130,12 +154,11 @@ QVariant LocalDocument::loadResource(int type, const QUrl& name) {
         return QTextDocument::loadResource(type, name);
     }
     const QString path = resolve(name);
-    QFile file(path);
-    if (type != QTextDocument::ImageResource || path.isEmpty() || !QFileInfo(path).isFile() ||
-        file.size() > kLargestFile || !file.open(QIODevice::ReadOnly)) {
+    if (type != QTextDocument::ImageResource || path.isEmpty()) {
         return {};
     }
-    return file.readAll();
+    const auto bytes = readRegularFile(path, kLargestPicture);
+    return bytes && isShowablePicture(*bytes, pixels_) ? QVariant(*bytes) : QVariant();
 }
 
 }  // namespace mero::qt

@@ -11,6 +11,7 @@
 #include "qt/look.h"
 #include "qt/texts.h"
 #include "qt/undo_keys.h"
+#include "qt/undo_limit.h"
 
 namespace mero::qt {
 namespace {
@@ -108,6 +109,7 @@ void bindLine(WidgetKit& kit, TextBox& box, QLineEdit& line) {
         showText(line, box);
     });
     QObject::connect(&line, &QLineEdit::returnPressed, &line, [&kit] { kit.typing().settle(); });
+    limitUndo(line);
 }
 
 }  // namespace
@@ -145,6 +147,7 @@ QPlainTextEdit& makeTextArea(WidgetKit& kit, TextBox& box, QWidget& parent) {
         kit.enterTyped(area, [&box, &text] { box.userEdit(text); });
         showText(area, box);
     });
+    limitUndo(area);
     return area;
 }
 

@@ -14,13 +14,14 @@
 
 #include "platform/files/whole_file.h"
 #include "report/code_page.h"
+#include "report/harmless_html.h"
 
 namespace mero::report {
 namespace {
 
-constexpr std::string_view kLogoReference = "src=Webs\\Desc_soubory\\logo.gif";
 constexpr std::string_view kDocumentStart = "<html>";
-/// Whatever markup the user's texts contain, the copy loads nothing from elsewhere and runs no script.
+/// Only harmless markup is left in the page. Should a browser read it otherwise, this still keeps the copy
+/// from loading anything from elsewhere and from running a script.
 constexpr std::string_view kHead =
     "<head><meta charset=\"utf-8\"><meta http-equiv=\"Content-Security-Policy\" "
     "content=\"default-src 'none'; img-src data:; style-src 'unsafe-inline'\"></head>";
@@ -57,6 +58,21 @@ std::string base64(std::string_view bytes) {
     return text;
 }
 
+/// The page with its logo inside. Only tags of pictures are looked at: the words may stand in a text, too.
+std::string withLogo(const std::string& page, const std::string& logo) {
+    constexpr std::string_view kPicture = "<img";
+    std::string whole;
+    std::size_t done = 0;
+    for (std::size_t at = 0; (at = page.find(kPicture, done)) != std::string::npos;) {
+        const std::size_t end = std::min(page.find('>', at), page.size());
+        const std::size_t found = std::min(page.find(kLogoReference, at), end);
+        whole += page.substr(done, found - done);
+        whole += found < end ? logo : "";
+        done = std::min(found + kLogoReference.size(), end);
+    }
+    return whole + page.substr(done);
+}
+
 }  // namespace
 
 bool saveCopy(const std::string& report_path, const std::string& program_folder,
@@ -68,18 +84,14 @@ bool saveCopy(const std::string& report_path, const std::string& program_folder,
     return saveCopyOf(fromWindows1250(*bytes), program_folder, target_path);
 }
 
-bool saveCopyOf(std::string html, const std::string& program_folder, const std::string& target_path) {
-    if (html.starts_with(kDocumentStart)) {
-        html.insert(kDocumentStart.size(), kHead);
-    }
-    const std::size_t logo_at = html.find(kLogoReference);
-    if (logo_at != std::string::npos) {
-        const auto logo =
-            readFile((std::filesystem::path(program_folder) / "Webs/Desc_soubory/logo.gif").string());
-        html.replace(logo_at, kLogoReference.size(),
-                     logo ? "src=\"data:image/gif;base64," + base64(*logo) + "\"" : "alt=\"\"");
-    }
-    return platform::replaceWhole(target_path, html);
+bool saveCopyOf(const std::string& html, const std::string& program_folder, const std::string& target_path) {
+    std::string copy = harmlessHtml(html, PageUse::Copy);
+    copy.insert(copy.starts_with(kDocumentStart) ? kDocumentStart.size() : 0, kHead);
+    const auto logo =
+        readFile((std::filesystem::path(program_folder) / "Webs/Desc_soubory/logo.gif").string());
+    return platform::replaceWhole(
+        target_path,
+        withLogo(copy, logo ? "src=\"data:image/gif;base64," + base64(*logo) + "\"" : "alt=\"\""));
 }
 
 bool isPdfPath(std::string_view path) {

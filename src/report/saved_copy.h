@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// Saves a copy of the report that opens correctly in any browser and any folder.
-/// The copy declares its character set and contains its logo.
+/// The copy declares its character set and contains its logo. It asks for nothing from anywhere, whatever the
+/// user's texts hold.
 #pragma once
 
 #include <string>
@@ -18,7 +19,7 @@ namespace mero::report {
                             const std::string& target_path);
 
 /// The same for a report in memory, in UTF-8; its file is not read.
-[[nodiscard]] bool saveCopyOf(std::string html, const std::string& program_folder,
+[[nodiscard]] bool saveCopyOf(const std::string& html, const std::string& program_folder,
                               const std::string& target_path);
 
 /// True when the suffix is that of a PDF file, in upper or lower case; all others mean HTML.

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "report/code_page.h"
+#include "report/harmless_html.h"
 #include "report/html_tag.h"
 
 namespace mero::report {
@@ -235,7 +236,8 @@ std::string arrangedForView(std::string_view html) {
 }
 
 std::string viewHtml(std::string_view bytes) {
-    return arrangedForView(fromWindows1250(bytes));
+    const std::string html = fromWindows1250(bytes);
+    return html.starts_with(kReportStart) ? arrangedForView(harmlessHtml(html, PageUse::View)) : html;
 }
 
 }  // namespace mero::report

@@ -8,8 +8,8 @@
 
 namespace mero::report {
 
-/// Converts a page in windows-1250 to UTF-8 for the view and the printed pages. A report is rewritten (see
-/// arrangedForView); other pages are not.
+/// Converts a page in windows-1250 to UTF-8 for the view and the printed pages. A report keeps only harmless
+/// markup (see harmlessHtml) and is rewritten (see arrangedForView); other pages are not.
 [[nodiscard]] std::string viewHtml(std::string_view bytes);
 
 /// A report with the same content, rewritten so that a rich-text view places its rules, gaps, column widths

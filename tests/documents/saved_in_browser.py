@@ -106,13 +106,13 @@ def look(browser: str, scratch: Path) -> dict:
 def judge(kind: int, seen: dict, copy: str) -> list[str]:
     wrong = []
     text = seen["text"]
-    for wanted in (f"Žluťoučký kůň {kind}", "Město Ždírec", TYPES[kind], "Návrhový déšť", "Datum a čas výpočtu"):
+    for wanted in (f"Žluťoučký kůň {kind}", f"Město Ždírec {HOSTILE}", TYPES[kind], "Návrhový déšť", "Datum a čas výpočtu"):
         if wanted not in text:
             wrong.append(f"no {wanted!r} in {text[:300]!r}")
     if seen["charset"] != "UTF-8":
         wrong.append(f"read as {seen['charset']}")
-    # The picture from the user's text is not loaded; the logo, before or after it, is.
-    if sorted(seen["logo"]) != [0, 200]:
+    # The tag of another picture is text.
+    if seen["logo"] != [200]:
         wrong.append(f"pictures {seen['logo']}")
     if seen["title"]:
         wrong.append("a script ran")
@@ -123,7 +123,7 @@ def judge(kind: int, seen: dict, copy: str) -> list[str]:
     tops = [top for _, top in seen["order"]]
     if tops != sorted(tops):
         wrong.append(f"not in the file's order: {seen['order']}")
-    own = copy.replace(HOSTILE, "")
+    own = copy.replace(HOSTILE.replace("<", "&lt;"), "")
     if re.search(r"https?:|file:|src=(?!\"data:)|href=|url\(", own):
         wrong.append("the copy refers to something outside itself")
     return wrong

@@ -60,6 +60,16 @@ TEST_F(SavedCopy, AsksForNothingWhateverTheUserTyped) {
     EXPECT_THAT(copy(), HasSubstr("default-src 'none'; img-src data:"));
 }
 
+TEST_F(SavedCopy, HoldsTheLogoWhereItsTagStandsAndNotWhereATextNamesIt) {
+    ReportData project = test::sampleProject(2);
+    project.texts.txtDetails =
+        "src=Webs\\Desc_soubory\\logo.gif <IMG SRC='Webs\\Desc_soubory\\logo.gif'> <img src=Webs/other.gif>";
+    ASSERT_TRUE(saveCopyOf(htmlReport(project), program.path(), elsewhere.file("kopie.html")));
+    EXPECT_THAT(elsewhere.read("kopie.html"),
+                HasSubstr("src=Webs\\Desc_soubory\\logo.gif <img src=\"data:image/gif;base64,R0lGODlh\"> "
+                          "&lt;img src=Webs/other.gif></p>"));
+}
+
 TEST_F(SavedCopy, IsNotMadeOfAMissingReportOrAFolder) {
     EXPECT_FALSE(saveCopy(program.file("Mero_"), program.path(), elsewhere.file("kopie.html")));
     EXPECT_FALSE(saveCopy(program.path(), program.path(), elsewhere.file("kopie.html")));
