@@ -119,7 +119,7 @@ json unknownInputs(const json& object, const std::string& path) {
     json unknown = json::object();
     const std::vector<std::string> names = project::namesIn(path);
     for (const auto& [name, value] : object.items()) {
-        const std::string member = path.empty() ? name : path + "." + name;
+        const std::string member = path.empty() ? name : std::string(path).append(".").append(name);
         if (std::ranges::find(names, name) == names.end()) {
             unknown[name] = value;
         } else if (value.is_object() && name != "window") {

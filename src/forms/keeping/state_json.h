@@ -43,6 +43,9 @@ inline json jsonOf(int value) {
 inline json jsonOf(std::int16_t value) {
     return value;
 }
+inline json jsonOf(std::int8_t value) {
+    return value;
+}
 inline json jsonOf(const std::string& value) {
     return value;
 }
@@ -89,6 +92,9 @@ inline void take(const json& from, int& value) {
 }
 inline void take(const json& from, std::int16_t& value) {
     value = wholeNumber<std::int16_t>(from);
+}
+inline void take(const json& from, std::int8_t& value) {
+    value = wholeNumber<std::int8_t>(from);
 }
 inline void take(const json& from, std::string& value) {
     value = from.get<std::string>();
@@ -206,11 +212,7 @@ void members(Archive archive, Object& state) requires Is<CalculationState, Objec
     archive("numbers", state.numbers);
     archive("durations_min", state.durations_min);
     archive("intensities_l_s_ha", state.intensities_l_s_ha);
-    int soil_option = state.soil_option;
-    archive("soil_option", soil_option);
-    if constexpr (!std::is_const_v<Object>) {
-        state.soil_option = static_cast<std::int8_t>(std::clamp(soil_option, -1, 1));
-    }
+    archive("soil_option", state.soil_option);
     archive("sand_layer", state.sand_layer);
     archive("upstream_settling", state.upstream_settling);
     archive("pipes_ticked", state.pipes_ticked);
