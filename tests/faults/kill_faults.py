@@ -34,9 +34,21 @@ class Display:
         self.server.wait()
 
 
+DIGITS = 4
+
+
 def texts_of(document: bytes) -> int:
     """The number that was typed as the project's name."""
     return int(json.loads(document)["project"]["name"])
+
+
+def number_in(copy: Path, typed: list[tuple[float, int]]) -> int:
+    """The number that a recovery copy holds. It may be taken in the middle of a number: then the one before it."""
+    name = json.loads(copy.read_bytes()).get("project", {}).get("name", "")
+    if len(name) == DIGITS:
+        return int(name)
+    written = copy.stat().st_mtime
+    return max((value for moment, value in typed if moment <= written), default=0)
 
 
 def one_life(display: Display, home: Path, rng: random.Random, saves: bool) -> str:
@@ -53,7 +65,16 @@ def one_life(display: Display, home: Path, rng: random.Random, saves: bool) -> s
         subprocess.run([*keys, *arguments], env=variables, check=False, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL)
 
-    press("search", "--sync", "--onlyvisible", "--name", "p.mero.json")
+    # Without a window manager the keys go where the focus was put.
+    press("search", "--sync", "--onlyvisible", "--name", "p.mero.json", "windowfocus", "--sync")
+    press("key", "ctrl+a", "type", "1000x")
+    try:
+        subprocess.run([*keys, "search", "--sync", "--name", r"p.mero.json \*"], env=variables, check=True,
+                       stdout=subprocess.DEVNULL, timeout=30)
+    except (subprocess.TimeoutExpired, subprocess.CalledProcessError):
+        program.kill()
+        program.wait()
+        return "no key comes to the window"
     end = time.monotonic() + rng.uniform(0.0, TYPING_S) + (0.0 if saves else LONGEST_LOSS_S)
     typed: list[tuple[float, int]] = []
     saved = {texts_of(project.read_bytes())}
@@ -61,7 +82,7 @@ def one_life(display: Display, home: Path, rng: random.Random, saves: bool) -> s
     while time.monotonic() < end:
         number += 1
         press("key", "ctrl+a", "type", str(number))
-        typed.append((time.monotonic(), number))
+        typed.append((time.time(), number))
         if saves and rng.random() < 0.3:
             saved.add(number)
             press("key", "ctrl+s")
@@ -75,7 +96,7 @@ def one_life(display: Display, home: Path, rng: random.Random, saves: bool) -> s
         program.kill()
         saver.wait()
     program.kill()
-    killed = time.monotonic()
+    killed = time.time()
     program.wait()
 
     try:
@@ -89,7 +110,7 @@ def one_life(display: Display, home: Path, rng: random.Random, saves: bool) -> s
         content = copy.read_bytes()
         if content:
             try:
-                known.append(texts_of(content))
+                known.append(number_in(copy, typed))
             except (ValueError, KeyError) as error:
                 return f"the recovery copy is not whole: {error}"
     long_ago = [value for moment, value in typed if killed - moment > LONGEST_LOSS_S]

@@ -113,8 +113,7 @@ std::string RecoveryCopies::make(const std::string& origin) {
     if (!lockOwn()) {
         return {};
     }
-    const std::string path =
-        withoutSuffix(own_.path) + "-" + numbers::general(++made_) + std::string(kCopySuffix);
+    std::string path = withoutSuffix(own_.path) + "-" + numbers::general(++made_) + std::string(kCopySuffix);
     {
         std::ofstream file(withSuffix(path, kOriginSuffix), std::ios::binary);
         file << origin;

@@ -104,27 +104,27 @@ class RandomPerson : public MainWindow {
     }
 
     void clickSomewhere() {
-        QList<QWidget*> places;
+        QList<QWidget*> widgets;
         for (auto* widget : front().findChildren<QWidget*>()) {
             const bool taken = widget->focusPolicy() != Qt::NoFocus ||
                                qobject_cast<QAbstractButton*>(widget) != nullptr ||
                                qobject_cast<QTabBar*>(widget) != nullptr;
             if (taken && widget->isVisible() && widget->isEnabled()) {
-                places.append(widget);
+                widgets.append(widget);
             }
         }
         QList<QWidget*> of_numbers;
-        for (QWidget* place : places) {
+        for (QWidget* place : widgets) {
             if (dynamic_cast<qt::NumberLine*>(place) != nullptr ||
                 dynamic_cast<qt::GridView*>(place) != nullptr) {
                 of_numbers.append(place);
             }
         }
-        if (places.isEmpty()) {
+        if (widgets.isEmpty()) {
             return;
         }
         const bool to_numbers = !of_numbers.isEmpty() && random.percent(50);
-        QWidget* place = random.oneOf(to_numbers ? of_numbers : places);
+        QWidget* place = random.oneOf(to_numbers ? of_numbers : widgets);
         remember("click " + qt::stored(place->objectName()) + " " + place->metaObject()->className());
         if (auto* view = dynamic_cast<qt::GridView*>(place)) {
             clickCell(*view);
