@@ -182,7 +182,10 @@ def check(browser: str, program: Path, root: Path, scratch: Path) -> list[str]:
     server.asked.clear()
     control = scratch / "control.html"
     control.write_text("<html><body>" + "".join(markup(server, kind) for kind in sorted(NOTICED)), encoding="utf-8")
-    open_page(browser, scratch, control)
+    # A busy machine may end the page's virtual time before it has asked for everything.
+    for _ in range(3):
+        if server.asked != NOTICED:
+            open_page(browser, scratch, control)
     if server.asked != NOTICED:
         wrong.append(f"the control is not asked for: {sorted(NOTICED - server.asked)}")
     server.shutdown()

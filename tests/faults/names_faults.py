@@ -73,7 +73,7 @@ class ProjectNames(FaultTest):
         text = copy.decode("utf-8")
         head = re.search("<meta http-equiv=\"Content-Security-Policy\" content=\"([^\"]*)\">", text)
         self.assertIn("default-src 'none'", html.unescape(head.group(1)))
-        self.assertLess(head.start(), text.index("<script>"))
+        self.assertLess(head.start(), text.index("&lt;script>"))
 
 
 if __name__ == "__main__":
