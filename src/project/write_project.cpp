@@ -32,7 +32,7 @@ Json& at(Json& document, std::string_view path) {
 
 Json ofField(const Field& field, const Inputs& inputs) {
     const float value = stored(field, inputs);
-    const auto position = static_cast<std::size_t>(std::max(value, 0.0F));
+    const auto position = [value] { return static_cast<std::size_t>(std::max(value, 0.0F)); };
     switch (field.kind) {
         case FieldKind::Number:
         case FieldKind::WholeNumber:
@@ -40,11 +40,11 @@ Json ofField(const Field& field, const Inputs& inputs) {
         case FieldKind::Truth:
             return value != 0.0F;
         case FieldKind::Choice:
-            return choices(field)[position];
+            return choices(field)[position()];
         case FieldKind::Station:
-            return reference().StaniceNazev[position];
+            return reference().StaniceNazev[position()];
         case FieldKind::Periodicity:
-            return exactNumber(reference().Periodicita[position]);
+            return exactNumber(reference().Periodicita[position()]);
     }
     return exactNumber(value);
 }

@@ -25,6 +25,14 @@ NUMBER_TEXT = re.compile(
     r"\b(?:sto(?:f|d|ld)|strto(?:f|d|ld)|ato(?:f|i|l|ll)|s?n?scanf|v?(?:f|s|sn|as|d)?printf|to_string|to_wstring"
     r"|setlocale|uselocale|imbue|setprecision|toFloat|toDouble)\s*(?:<[^<>]*>)?\s*\(|\bstd::(?:locale|fixed|scientific)\b"
 )
+USING = re.compile(r"^\s*using (?!enum |namespace )[\w:]+::(\w+);", re.MULTILINE)
+
+
+def unused_names(code: str) -> list[tuple[int, str]]:
+    """(line, name) of each name that a using declaration brings in and nothing else mentions. clang-tidy looks for
+    them only in files that it reads alone."""
+    return [(code.count("\n", 0, match.start(1)) + 1, match.group(1)) for match in USING.finditer(code)
+            if len(re.findall(rf"\b{match.group(1)}\b", code)) == 1]
 
 
 def check_include(rooms: Rooms, target: Target, name: str, own: bool) -> str | None:
@@ -73,8 +81,12 @@ def check_source(root: Path, rooms: Rooms, file: Path) -> list[str]:
         for line, included, own in includes(text):
             if wrong := check_include(rooms, target, included, own):
                 found.append(f"{name}:{line}: {wrong}")
+    only_code = code_only(text)
+    if file.suffix == ".cpp":
+        for line, unused in unused_names(only_code):
+            found.append(f"{name}:{line}: {unused} is brought in and not used")
     if target is None or target.folder != NUMBER_ROOM:
-        for line, code in enumerate(code_only(text).split("\n"), 1):
+        for line, code in enumerate(only_code.split("\n"), 1):
             if match := NUMBER_TEXT.search(code):
                 word = match.group().rstrip("( ")
                 found.append(f"{name}:{line}: {word}: texts of numbers are made and read in {NUMBER_ROOM} only")

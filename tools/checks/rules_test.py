@@ -291,5 +291,14 @@ class Reading(unittest.TestCase):
         ])
 
 
+class UsedNames(Tree):
+    def test_a_name_that_is_brought_in_and_not_used_is_found(self):
+        self.assert_breach("src/data/a.cpp", HEAD + "using std::vector;\nint data();\n", 3, "vector is brought in")
+
+    def test_names_in_use_and_whole_namespaces_are_let_through(self):
+        self.assertEqual(self.breaches("src/data/a.cpp", HEAD + "using std::vector;\nusing namespace mero;\nusing enum Kind;\n"
+                                       "vector<int> data();\n"), [])
+
+
 if __name__ == "__main__":
     unittest.main()

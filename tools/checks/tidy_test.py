@@ -18,7 +18,8 @@ for argument; do
     file=$argument
 done
 echo "$file $config" >>"$(dirname "$0")/log"
-! grep -q BAD "$file"
+cat "$file" $(sed -n 's/^#include "\\(.*\\)"  .*/\\1/p' "$file") >"$(dirname "$0")/read"
+! grep -q BAD "$(dirname "$0")/read"
 """
 
 
@@ -77,6 +78,48 @@ class Lint(unittest.TestCase):
         for age, name in enumerate(("tests/calc/swale_test.cpp", "src/calc/swale.cpp", "bench/calc/bench.cpp")):
             os.utime(self.root / name, (1e9 - age, 1e9 - age))
         self.assertEqual(self.lint()[1], ["swale_test.cpp", "swale.cpp", "bench.cpp"])
+
+    def two_more(self, first: str, second: str):
+        self.write("src/calc/tank.cpp", first)
+        self.write("src/calc/trench.cpp", second)
+        self.commands("dev", "src/calc/tank.cpp", "src/calc/trench.cpp", "tests/calc/swale_test.cpp")
+
+    def test_files_of_a_folder_are_read_together(self):
+        self.two_more("int tank() {\n}\n", "int trench() {\n}\n")
+        status, files, _ = self.lint()
+        self.assertEqual((status, [name for name in files if name.startswith("Unified")]), (0, ["UnifiedSource-0.cpp"]))
+        self.assertNotIn("tank.cpp", files)
+        self.assertEqual(self.lint()[1], [])
+
+    def test_a_finding_is_that_of_its_file(self):
+        self.two_more("int tank() {\n}\n", "int trench() {\n}\n// BAD\n")
+        status, files, output = self.lint()
+        self.assertEqual(status, 1)
+        self.assertIn("src/calc/trench.cpp:", output)
+        self.assertNotIn("src/calc/tank.cpp:", output)
+        self.assertIn("1 failed", output)
+
+    def test_files_that_define_the_same_name_are_read_apart(self):
+        self.two_more("constexpr int kMost = 1;\n", "constexpr int kMost = 2;\n")
+        self.assertTrue({"tank.cpp", "trench.cpp"} <= set(self.lint()[1]))
+
+    def test_names_of_definitions_are_found(self):
+        text = """namespace mero {
+using std::vector;
+using Rows = vector<int>;
+constexpr std::array<int, 2> kSets{{1, 2}};
+struct Row {
+    int inside = 0;
+};
+enum class Kind : char { One };
+template <typename T> class Reader {
+std::optional<double> depthOf(int row, double share) {
+    return helper(row);
+}
+void Reader::read(int row) {
+}
+"""
+        self.assertEqual(tidy.defined_names(text), {"Rows", "kSets", "Row", "Kind", "Reader", "depthOf"})
 
     def test_what_passed_is_remembered(self):
         self.lint()
