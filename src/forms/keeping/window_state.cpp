@@ -56,10 +56,10 @@ WindowState stateOf(const Program& program) {
     const frmCalc& window = program.window();
     const data::modPublicVariables& values = program.values();
     WindowState state{.durations_min = values.DobaTrvani,
-                      .rain = values,
-                      .areas = values,
-                      .texts = values,
-                      .numbers = values,
+                      .rain = static_cast<const data::RainValues&>(values),
+                      .areas = static_cast<const data::DrainedAreaValues&>(values),
+                      .texts = static_cast<const data::ProjectTexts&>(values),
+                      .numbers = static_cast<const data::DesignNumbers&>(values),
                       .knows_database = !values.CestaDatabaze.empty(),
                       .type_group = window.TypeGroup,
                       .selected_type = window.SelectedType,
