@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/// Measures 20 years of ten-minute values, from the text of the files to the fitted curve.
+/// Measures years of ten-minute values, from the text of the files to the fitted curve.
 #include <benchmark/benchmark.h>
 
 #include <cmath>
@@ -14,7 +14,6 @@ namespace mero::rain::bench {
 namespace {
 
 constexpr int kFirstYear = 2001;
-constexpr int kYears = 20;
 constexpr int kInterval_min = 10;
 
 std::string twoDigits(int value) {
@@ -22,10 +21,10 @@ std::string twoDigits(int value) {
 }
 
 /// A made-up series: one interval in twenty is wet, exponential depths.
-std::string seriesText() {
+std::string seriesText(int years) {
     std::string text = "STATION,ELEMENT,DT,VALUE,FLAG,QUALITY\n";
     std::mt19937 random(1);
-    for (int year = kFirstYear; year < kFirstYear + kYears; ++year) {
+    for (int year = kFirstYear; year < kFirstYear + years; ++year) {
         for (int month = 1; month <= 12; ++month) {
             for (int day = 1; day <= 28; ++day) {
                 for (int minute = 0; minute < 24 * 60; minute += kInterval_min) {
@@ -42,25 +41,25 @@ std::string seriesText() {
     return text;
 }
 
-void ReadTwentyYears(benchmark::State& state) {
-    const std::string text = seriesText();
+void ReadYears(benchmark::State& state) {
+    const std::string text = seriesText(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         SeriesReader reader;
         reader.add(text, "series.csv");
         benchmark::DoNotOptimize(reader.finish(Unlisted::Dry));
     }
 }
-BENCHMARK(ReadTwentyYears)->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadYears)->Arg(3)->Arg(20)->Unit(benchmark::kMillisecond);
 
-void FitTwentyYears(benchmark::State& state) {
+void FitYears(benchmark::State& state) {
     SeriesReader reader;
-    reader.add(seriesText(), "series.csv");
+    reader.add(seriesText(static_cast<int>(state.range(0))), "series.csv");
     const MeasuredSeries series = reader.finish(Unlisted::Dry);
     for (auto _ : state) {
         benchmark::DoNotOptimize(SeriesFit(series).curve(5));
     }
 }
-BENCHMARK(FitTwentyYears)->Unit(benchmark::kMillisecond);
+BENCHMARK(FitYears)->Arg(3)->Arg(20)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace mero::rain::bench

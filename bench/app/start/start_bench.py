@@ -3,6 +3,8 @@
 and for a bare window with four empty tabs. Run it on a separate X display:
 
     xvfb-run -a -s "-screen 0 1280x1024x24" python3 bench/app/start/start_bench.py build/bench [RUNS]
+
+A single run only shows that the measurement works: nothing is compared with the limits then.
 """
 
 import os
@@ -47,7 +49,7 @@ def main() -> int:
     ratios = dict(zip(LIMITS, (own / bare for own, bare in zip(medians["mero"], medians["bare"]))))
     for what, ratio in ratios.items():
         print(f"{what}: {ratio:.2f} times the bare window's, limit {LIMITS[what]:.1f}")
-    return 1 if any(ratio > LIMITS[what] for what, ratio in ratios.items()) else 0
+    return 1 if runs > 1 and any(ratio > LIMITS[what] for what, ratio in ratios.items()) else 0
 
 
 if __name__ == "__main__":
