@@ -30,6 +30,10 @@ const QGuiApplication& application() {
 
 }  // namespace
 
+// The sanitizer asks for a function of this name.
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wreserved-identifier"
+#endif
 /// The font library keeps its tables until the process ends.
 extern "C" const char* __lsan_default_suppressions();   // NOLINT(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)

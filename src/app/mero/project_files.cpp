@@ -172,7 +172,7 @@ QString ProjectFiles::folder() const {
 }
 
 QString ProjectFiles::suggestedPath() const {
-    const QString own = qt::shown(work_->project().path);
+    QString own = qt::shown(work_->project().path);
     if (!own.isEmpty()) {
         return own;
     }
